@@ -1,0 +1,44 @@
+#include <exception>
+#include <iostream>
+
+#include "apps/cli/cli.h"
+
+namespace {
+
+// Add a family's command here.
+const cli::Command kCommands[] = {
+    {"units",
+     "units list                      every unit label with its index and factor\n"
+     "  units convert VALUE FROM TO     convert VALUE between two units of one kind",
+     cli::UnitsCommand},
+};
+
+void PrintUsage(std::ostream& out) {
+  out << "usage: norvane-cli COMMAND [ARGS]\n\ncommands:\n";
+  for (const auto& c : kCommands) out << "  " << c.usage << "\n";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::ios::sync_with_stdio(false);
+  if (argc < 2 || std::string(argv[1]) == "help" || std::string(argv[1]) == "--help" ||
+      std::string(argv[1]) == "-h") {
+    PrintUsage(argc < 2 ? std::cerr : std::cout);
+    return argc < 2 ? cli::kUsage : cli::kOk;
+  }
+  const std::string name = argv[1];
+  const cli::Args args(argv + 2, argv + argc);
+  for (const auto& c : kCommands) {
+    if (name != c.name) continue;
+    try {
+      return c.run(args, std::cout, std::cerr);
+    } catch (const std::exception& e) {
+      std::cerr << "norvane-cli: " << e.what() << "\n";
+      return cli::kRefused;
+    }
+  }
+  std::cerr << "norvane-cli: unknown command \"" << name << "\"\n";
+  PrintUsage(std::cerr);
+  return cli::kUsage;
+}

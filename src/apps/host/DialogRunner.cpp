@@ -1,0 +1,87 @@
+#include "apps/host/DialogRunner.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QPixmap>
+#include <iostream>
+
+#include "apps/host/DialogBindings.h"
+#include "dialogs/frame/CDialog.h"
+#include "dialogs/frame/CProgressDlg.h"
+#include "dialogs/frame/DialogRegistry.h"
+#include "dialogs/frame/Prompter.h"
+
+std::unique_ptr<CDialog> CreateBoundDialog(const std::string& className, HostModel& model, QWidget* parent) {
+  const DialogClassInfo* info = FindDialogClass(className);
+  if (!info) return nullptr;
+  std::unique_ptr<CDialog> dlg = info->create(parent);
+  if (const DialogBinding* binding = FindDialogBinding(className); binding && binding->prepare)
+    binding->prepare(*dlg, model);
+  return dlg;
+}
+
+int RunBoundDialog(const std::string& className, HostModel& model, QWidget* parent) {
+  std::unique_ptr<CDialog> dlg = CreateBoundDialog(className, model, parent);
+  if (!dlg) return 0;
+  if (auto* progress = dynamic_cast<CProgressDlg*>(dlg.get())) {
+    // The modeless window shows what a running factorization reports.
+    progress->Create(parent);
+    progress->SendMessage(CProgressDlg::WM_PROGRESS_SHOW);
+    for (int p = 0; p <= 100; p += 5) {
+      progress->SendMessage(CProgressDlg::WM_PROGRESS_UPDATE, static_cast<WPARAM>(p));
+      QApplication::processEvents();
+    }
+    progress->SendMessage(CProgressDlg::WM_PROGRESS_HIDE);
+    return IDOK;
+  }
+  const int result = dlg->DoModal();
+  if (result == IDOK) {
+    const DialogBinding* binding = FindDialogBinding(className);
+    // A dialog without a take-back (an about box) leaves the model as it was.
+    const bool changed = binding && binding->takeBack && binding->takeBack(*dlg, model);
+    if (changed) model.modified = true;
+  }
+  return result;
+}
+
+bool RenderWidgetToPng(QWidget& widget, const std::string& pngPath, std::string& error) {
+  widget.show();
+  widget.adjustSize();
+  for (int i = 0; i < 3; ++i) QApplication::processEvents();
+  const QPixmap picture = widget.grab();
+  if (picture.isNull() || !picture.save(QString::fromStdString(pngPath), "PNG")) {
+    error = "Cannot write the picture \"" + pngPath + "\"";
+    return false;
+  }
+  return true;
+}
+
+namespace {
+
+// Stands in for the user while a dialog is rendered: tells, answers No, cancels files.
+class ReportingPrompter : public ScriptedPrompter {
+ public:
+  ReportingPrompter() {
+    onPrompt = [](const Prompt& p) { std::cerr << "[message] " << p.text << "\n"; };
+  }
+};
+
+}  // namespace
+
+bool RenderDialogToPng(const std::string& className, HostModel& model, const std::string& pngPath,
+                       std::string& error) {
+  ReportingPrompter prompter;
+  ScopedPrompter scoped(prompter);
+  std::unique_ptr<CDialog> dlg = CreateBoundDialog(className, model, nullptr);
+  if (!dlg) {
+    error = "Unknown dialog class \"" + className + "\"";
+    return false;
+  }
+  if (auto* progress = dynamic_cast<CProgressDlg*>(dlg.get())) {
+    progress->Create(nullptr);
+    progress->SendMessage(CProgressDlg::WM_PROGRESS_UPDATE, 42);
+  } else {
+    dlg->InitDialogForTest();
+  }
+  return RenderWidgetToPng(*dlg, pngPath, error);
+}

@@ -1,0 +1,19 @@
+#pragma once
+#include <memory>
+#include <string>
+
+#include "apps/host/HostModel.h"
+
+class CDialog;
+class QWidget;
+
+// Creates a registered dialog and sets its members from the model as the host does.
+// Returns null for an unknown class name.
+std::unique_ptr<CDialog> CreateBoundDialog(const std::string& className, HostModel& model, QWidget* parent);
+// DoModal and, after IDOK, the binding's take-back; marks the model modified when it changed.
+int RunBoundDialog(const std::string& className, HostModel& model, QWidget* parent);
+// Builds the dialog without a modal loop, runs its set-up and renders it to a PNG.
+// Message boxes raised during set-up are written to stderr instead of waiting for a click.
+bool RenderDialogToPng(const std::string& className, HostModel& model, const std::string& pngPath,
+                       std::string& error);
+bool RenderWidgetToPng(QWidget& widget, const std::string& pngPath, std::string& error);

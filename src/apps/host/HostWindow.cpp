@@ -1,0 +1,133 @@
+#include "apps/host/HostWindow.h"
+
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QMenuBar>
+#include <QStatusBar>
+#include <QTreeWidget>
+#include <map>
+
+#include "apps/host/DialogRunner.h"
+#include "dialogs/frame/DialogRegistry.h"
+#include "dialogs/frame/Prompter.h"
+#include "tools/format.h"
+
+HostWindow::HostWindow(QWidget* parent) : QMainWindow(parent), summary_(new QTreeWidget(this)) {
+  summary_->setHeaderLabels({"Model", "Value"});
+  summary_->setRootIsDecorated(false);
+  summary_->setAlternatingRowColors(true);
+  summary_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  setCentralWidget(summary_);
+  BuildMenus();
+  resize(720, 480);
+  RefreshView();
+}
+
+void HostWindow::BuildMenus() {
+  QMenu* file = menuBar()->addMenu("&File");
+  file->addAction("&Open...", QKeySequence::Open, this, [this] { OnOpen(); });
+  file->addAction("&Save", QKeySequence::Save, this, [this] { SaveModel(); });
+  file->addAction("Save &As...", QKeySequence::SaveAs, this, [this] { SaveModelAs(); });
+  file->addSeparator();
+  file->addAction("&Quit", QKeySequence::Quit, this, [this] { close(); });
+
+  // One menu entry per registered dialog, grouped by family in registration order.
+  QMenu* dialogs = menuBar()->addMenu("&Dialogs");
+  std::map<std::string, QMenu*> families;
+  for (const DialogClassInfo& info : RegisteredDialogClasses()) {
+    QMenu*& menu = families[info.family];
+    if (!menu) menu = dialogs->addMenu(QString::fromStdString(info.family));
+    const std::string name = info.className;
+    menu->addAction(QString::fromStdString(name), this, [this, name] {
+      RunDialog(name);
+      RefreshView();
+    });
+  }
+}
+
+void HostWindow::RefreshView() {
+  const auto& doc = model_.doc;
+  const QString name = model_.path.empty() ? "Untitled" : QFileInfo(QString::fromStdString(model_.path)).fileName();
+  setWindowTitle(QString("%1%2 - Norvane").arg(name, model_.modified ? "*" : ""));
+  summary_->clear();
+  auto add = [this](const QString& key, const QString& value) { summary_->addTopLevelItem(new QTreeWidgetItem({key, value})); };
+  add("Title", QString::fromStdString(doc.title));
+  add("File", QString::fromStdString(model_.path));
+  add("Length unit", QString::fromStdString(doc.units.Label(fmUnit::Length)));
+  add("Force unit", QString::fromStdString(doc.units.Label(fmUnit::Force)));
+  add("Nodes", QString::number(doc.nodes.size()));
+  add("Model locked", doc.display.modelLocked ? "yes" : "no");
+  add("Show only selected", doc.display.showSelectedOnly ? "yes" : "no");
+  statusBar()->showMessage(model_.modified ? "Modified" : "Saved");
+}
+
+bool HostWindow::OpenModel(const std::string& path) {
+  try {
+    model::ModelDocument doc = model::LoadModelDocument(path);
+    model_.doc = std::move(doc);
+    model_.path = path;
+    model_.modified = false;
+  } catch (const std::exception& e) {
+    GetPrompter().Message(this, e.what(), MessageIcon::Error);
+    return false;
+  }
+  RefreshView();
+  return true;
+}
+
+void HostWindow::OnOpen() {
+  if (!ConfirmDiscard()) return;
+  FileDialogRequest request{"Open Model", "", "", "json", {"Norvane Model (*.json)", "All Files (*)"}};
+  const std::string path = GetPrompter().OpenFileName(this, request);
+  if (!path.empty()) OpenModel(path);
+}
+
+bool HostWindow::SaveModel() {
+  if (model_.path.empty()) return SaveModelAs();
+  try {
+    model::SaveModelDocument(model_.doc, model_.path);
+  } catch (const std::exception& e) {
+    GetPrompter().Message(this, e.what(), MessageIcon::Error);
+    return false;
+  }
+  model_.modified = false;
+  RefreshView();
+  return true;
+}
+
+bool HostWindow::SaveModelAs() {
+  FileDialogRequest request{"Save Model As", "", model_.path, "json", {"Norvane Model (*.json)"}};
+  const std::string path = GetPrompter().SaveFileName(this, request);
+  if (path.empty()) return false;
+  const std::string previous = model_.path;
+  model_.path = path;
+  if (!SaveModel()) {
+    model_.path = previous;
+    return false;
+  }
+  return true;
+}
+
+int HostWindow::RunDialog(const std::string& className) {
+  const int result = RunBoundDialog(className, model_, this);
+  RefreshView();
+  return result;
+}
+
+bool HostWindow::ConfirmDiscard() {
+  if (!model_.modified) return true;
+  switch (GetPrompter().QuestionWithCancel(this, "The model has been changed.\nDo you want to save the changes?")) {
+    case Answer::Yes: return SaveModel();
+    case Answer::No: return true;
+    case Answer::Cancel: return false;
+  }
+  return false;
+}
+
+void HostWindow::closeEvent(QCloseEvent* event) {
+  if (ConfirmDiscard())
+    event->accept();
+  else
+    event->ignore();
+}

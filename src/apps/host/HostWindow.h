@@ -1,0 +1,38 @@
+#pragma once
+#include <QMainWindow>
+#include <memory>
+#include <string>
+
+#include "apps/host/HostModel.h"
+
+class QLabel;
+class QTreeWidget;
+
+// The demo host: opens a model document, lists the library's dialogs by family in its
+// menus and runs them on the open model as an embedding program would.
+class HostWindow : public QMainWindow {
+ public:
+  explicit HostWindow(QWidget* parent = nullptr);
+
+  // Opens a document; on failure shows why and keeps the open one. Returns success.
+  bool OpenModel(const std::string& path);
+  bool SaveModel();
+  bool SaveModelAs();
+  // Runs a registered dialog on the model; returns its DoModal result.
+  int RunDialog(const std::string& className);
+  // Asks to save a changed model; false when the user cancels.
+  bool ConfirmDiscard();
+
+  HostModel& model() { return model_; }
+  void RefreshView();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void BuildMenus();
+  void OnOpen();
+
+  HostModel model_;
+  QTreeWidget* summary_;
+};

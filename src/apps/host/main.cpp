@@ -1,0 +1,127 @@
+#include <QApplication>
+#include <QFileInfo>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "apps/host/DialogBindings.h"
+#include "apps/host/DialogRunner.h"
+#include "apps/host/HostWindow.h"
+#include "dialogs/Library.h"
+#include "dialogs/frame/Prompter.h"
+
+namespace {
+
+const char* kUsage =
+    "usage: norvane-host [MODEL] [--screenshot FILE]\n"
+    "       norvane-host --show CLASS [--model FILE] [--screenshot FILE]\n"
+    "\n"
+    "Without --show the main window opens on MODEL (the bundled example by default).\n"
+    "--show runs one dialog on the model; with --screenshot it renders the dialog to a PNG\n"
+    "after its set-up and exits.\n";
+
+struct Options {
+  std::string model;
+  std::string showClass;
+  std::string screenshot;
+};
+
+bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string& error) {
+  for (size_t i = 0; i < args.size(); ++i) {
+    const std::string& a = args[i];
+    auto value = [&](std::string& out) {
+      if (i + 1 >= args.size()) {
+        error = a + " needs a value";
+        return false;
+      }
+      out = args[++i];
+      return true;
+    };
+    if (a == "--show") {
+      if (!value(o.showClass)) return false;
+    } else if (a == "--model") {
+      if (!value(o.model)) return false;
+    } else if (a == "--screenshot") {
+      if (!value(o.screenshot)) return false;
+    } else if (!a.empty() && a[0] == '-') {
+      error = "unknown option " + a;
+      return false;
+    } else if (o.model.empty()) {
+      o.model = a;
+    } else {
+      error = "more than one model file given";
+      return false;
+    }
+  }
+  return true;
+}
+
+std::string ExampleModel() { return std::string(NORVANE_EXAMPLES_DIR) + "/building.json"; }
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QApplication app(argc, argv);
+  QApplication::setOrganizationName("Norvane");
+  QApplication::setApplicationName("norvane-host");
+
+  std::vector<std::string> args;
+  for (const QString& a : QApplication::arguments().mid(1)) args.push_back(a.toStdString());
+  if (!args.empty() && (args[0] == "--help" || args[0] == "-h")) {
+    std::cout << kUsage;
+    return 0;
+  }
+  Options options;
+  std::string error;
+  if (!ParseOptions(args, options, error)) {
+    std::cerr << "norvane-host: " << error << "\n" << kUsage;
+    return 2;
+  }
+
+  NorvaneDlgsLibrary library;
+  RegisterAllBindings();
+
+  HostWindow window;
+  const std::string modelPath = options.model.empty() ? ExampleModel() : options.model;
+  if (!options.screenshot.empty() || !options.showClass.empty()) {
+    // Headless use: a model that cannot be read is an error, not a message box.
+    try {
+      window.model().doc = model::LoadModelDocument(modelPath);
+      window.model().path = modelPath;
+      window.RefreshView();
+    } catch (const std::exception& e) {
+      std::cerr << "norvane-host: " << e.what() << "\n";
+      return 1;
+    }
+  } else {
+    window.OpenModel(modelPath);
+  }
+
+  if (!options.showClass.empty()) {
+    if (options.screenshot.empty()) {
+      const int result = window.RunDialog(options.showClass);
+      if (result == 0) {
+        std::cerr << "norvane-host: unknown dialog class \"" << options.showClass << "\"\n";
+        return 2;
+      }
+      window.ConfirmDiscard();
+      return 0;
+    }
+    if (!RenderDialogToPng(options.showClass, window.model(), options.screenshot, error)) {
+      std::cerr << "norvane-host: " << error << "\n";
+      return 1;
+    }
+    std::cout << "Wrote " << options.screenshot << "\n";
+    return 0;
+  }
+  if (!options.screenshot.empty()) {
+    if (!RenderWidgetToPng(window, options.screenshot, error)) {
+      std::cerr << "norvane-host: " << error << "\n";
+      return 1;
+    }
+    std::cout << "Wrote " << options.screenshot << "\n";
+    return 0;
+  }
+  window.show();
+  return app.exec();
+}

@@ -1,0 +1,168 @@
+#include "dialogs/frame/DataExchange.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFontComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include "dialogs/frame/DebugOutput.h"
+#include "dialogs/frame/FolderBrowseEdit.h"
+#include "tools/format.h"
+#include "tools/parse.h"
+
+QWidget* CDataExchange::PrepareCtrl(int controlId) {
+  m_idLastControl = controlId;
+  QWidget* w = m_pDlgWnd->GetDlgItem(controlId);
+  if (!w) DebugOutput(tools::Format("Error finding control in data exchange: ctrlID = %d", controlId));
+  return w;
+}
+
+void CDataExchange::Fail(const std::string& message) {
+  GetPrompter().Message(m_pDlgWnd, message, MessageIcon::Warning);
+  if (QWidget* w = m_pDlgWnd->GetDlgItem(m_idLastControl)) {
+    w->setFocus();
+    if (auto* edit = qobject_cast<QLineEdit*>(w)) edit->selectAll();
+  }
+  throw DataExchangeFailure{};
+}
+
+namespace {
+
+std::string ReadText(QWidget* w) {
+  if (auto* edit = qobject_cast<QLineEdit*>(w)) return edit->text().toStdString();
+  if (auto* folder = dynamic_cast<FolderBrowseEdit*>(w)) return folder->text().toStdString();
+  if (auto* font = qobject_cast<QFontComboBox*>(w)) return font->currentFont().family().toStdString();
+  if (auto* combo = qobject_cast<QComboBox*>(w)) return combo->currentText().toStdString();
+  if (auto* label = qobject_cast<QLabel*>(w)) return label->text().toStdString();
+  return {};
+}
+
+void WriteText(QWidget* w, const std::string& text) {
+  const QString q = QString::fromStdString(text);
+  if (auto* edit = qobject_cast<QLineEdit*>(w))
+    edit->setText(q);
+  else if (auto* folder = dynamic_cast<FolderBrowseEdit*>(w))
+    folder->setText(q);
+  else if (auto* font = qobject_cast<QFontComboBox*>(w))
+    font->setCurrentFont(QFont(q));
+  else if (auto* combo = qobject_cast<QComboBox*>(w))
+    combo->setCurrentText(q);
+  else if (auto* label = qobject_cast<QLabel*>(w))
+    label->setText(q);
+}
+
+}  // namespace
+
+void DDX_Text(CDataExchange* pDX, int controlId, int32_t& value) {
+  QWidget* w = pDX->PrepareCtrl(controlId);
+  if (!w) return;
+  if (!pDX->m_bSaveAndValidate) {
+    WriteText(w, tools::Format("%d", value));
+    return;
+  }
+  const auto v = tools::ParseInt32(ReadText(w));
+  if (!v) pDX->Fail("Please enter a whole number.");
+  value = *v;
+}
+
+void DDX_Text(CDataExchange* pDX, int controlId, uint32_t& value) {
+  QWidget* w = pDX->PrepareCtrl(controlId);
+  if (!w) return;
+  if (!pDX->m_bSaveAndValidate) {
+    WriteText(w, tools::Format("%u", value));
+    return;
+  }
+  const auto v = tools::ParseUInt32(ReadText(w));
+  if (!v) pDX->Fail("Please enter a whole number that is not negative.");
+  value = *v;
+}
+
+void DDX_Text(CDataExchange* pDX, int controlId, double& value) {
+  QWidget* w = pDX->PrepareCtrl(controlId);
+  if (!w) return;
+  if (!pDX->m_bSaveAndValidate) {
+    WriteText(w, tools::Format("%.15g", value));
+    return;
+  }
+  const auto v = tools::ParseDouble(ReadText(w));
+  if (!v) pDX->Fail("Please enter a number.");
+  value = *v;
+}
+
+void DDX_Text(CDataExchange* pDX, int controlId, std::string& value) {
+  QWidget* w = pDX->PrepareCtrl(controlId);
+  if (!w) return;
+  if (pDX->m_bSaveAndValidate)
+    value = ReadText(w);
+  else
+    WriteText(w, value);
+}
+
+void DDX_Check(CDataExchange* pDX, int controlId, BOOL& value) {
+  auto* box = qobject_cast<QAbstractButton*>(pDX->PrepareCtrl(controlId));
+  if (!box) return;
+  if (pDX->m_bSaveAndValidate)
+    value = box->isChecked() ? 1 : 0;
+  else
+    box->setChecked(value != 0);
+}
+
+void DDX_CBIndex(CDataExchange* pDX, int controlId, int32_t& index) {
+  auto* combo = qobject_cast<QComboBox*>(pDX->PrepareCtrl(controlId));
+  if (!combo) return;
+  if (pDX->m_bSaveAndValidate)
+    index = combo->currentIndex();
+  else
+    combo->setCurrentIndex(index);
+}
+
+void DDX_CBString(CDataExchange* pDX, int controlId, std::string& value) {
+  QWidget* w = pDX->PrepareCtrl(controlId);
+  if (!w) return;
+  if (pDX->m_bSaveAndValidate)
+    value = ReadText(w);
+  else
+    WriteText(w, value);
+}
+
+void DDX_Radio(CDataExchange* pDX, int controlId, int32_t& value) {
+  auto* first = qobject_cast<QRadioButton*>(pDX->PrepareCtrl(controlId));
+  if (!first) return;
+  QButtonGroup* group = first->group();
+  const QList<QAbstractButton*> buttons = group ? group->buttons() : QList<QAbstractButton*>{first};
+  if (pDX->m_bSaveAndValidate) {
+    value = -1;
+    for (int i = 0; i < buttons.size(); ++i)
+      if (buttons[i]->isChecked()) value = i;
+  } else {
+    for (int i = 0; i < buttons.size(); ++i) buttons[i]->setChecked(i == value);
+  }
+}
+
+void DDV_MinMaxUInt(CDataExchange* pDX, uint32_t value, uint32_t minValue, uint32_t maxValue) {
+  if (!pDX->m_bSaveAndValidate) return;
+  if (value < minValue || value > maxValue)
+    pDX->Fail(tools::Format("Please enter a number between %u and %u.", minValue, maxValue));
+}
+
+void DDV_MinMaxInt(CDataExchange* pDX, int32_t value, int32_t minValue, int32_t maxValue) {
+  if (!pDX->m_bSaveAndValidate) return;
+  if (value < minValue || value > maxValue)
+    pDX->Fail(tools::Format("Please enter a number between %d and %d.", minValue, maxValue));
+}
+
+void DDV_MinMaxDouble(CDataExchange* pDX, double value, double minValue, double maxValue) {
+  if (!pDX->m_bSaveAndValidate) return;
+  if (value < minValue || value > maxValue)
+    pDX->Fail(tools::Format("Please enter a number between %g and %g.", minValue, maxValue));
+}
+
+void DDV_MaxChars(CDataExchange* pDX, const std::string& value, int maxChars) {
+  if (!pDX->m_bSaveAndValidate) return;
+  if (static_cast<int>(QString::fromStdString(value).size()) > maxChars)
+    pDX->Fail(tools::Format("Please enter no more than %d characters.", maxChars));
+}

@@ -1,0 +1,26 @@
+#pragma once
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class CDialog;
+class QWidget;
+
+// The exported dialog classes by name, so a host can list and create them.
+struct DialogClassInfo {
+  std::string className;
+  std::string family;  // e.g. "Units", as the host groups its menus
+  std::function<std::unique_ptr<CDialog>(QWidget* parent)> create;
+};
+
+void RegisterDialogClass(DialogClassInfo info);
+void ClearDialogClasses();
+const std::vector<DialogClassInfo>& RegisteredDialogClasses();
+const DialogClassInfo* FindDialogClass(std::string_view className);
+
+template <class Dlg>
+void RegisterDialog(const char* className, const char* family) {
+  RegisterDialogClass({className, family, [](QWidget* parent) { return std::unique_ptr<CDialog>(new Dlg(parent)); }});
+}

@@ -1,0 +1,138 @@
+#include "dialogs/frame/Prompter.h"
+
+#include <QFileDialog>
+#include <QMessageBox>
+
+#include "tools/release.h"
+
+namespace {
+
+WidgetPrompter& DefaultPrompter() {
+  static WidgetPrompter prompter;
+  return prompter;
+}
+
+Prompter* g_prompter = nullptr;
+
+QString Filters(const FileDialogRequest& r) {
+  QStringList list;
+  for (const auto& f : r.filters) list << QString::fromStdString(f);
+  return list.join(";;");
+}
+
+void Configure(QFileDialog& dialog, const FileDialogRequest& r) {
+  dialog.setOption(QFileDialog::DontUseNativeDialog, true);
+  dialog.setWindowTitle(QString::fromStdString(r.title));
+  dialog.setNameFilter(Filters(r));
+  if (!r.directory.empty()) dialog.setDirectory(QString::fromStdString(r.directory));
+  if (!r.defaultExtension.empty()) dialog.setDefaultSuffix(QString::fromStdString(r.defaultExtension));
+  if (!r.defaultName.empty() && r.defaultName.find('*') == std::string::npos)
+    dialog.selectFile(QString::fromStdString(r.defaultName));
+}
+
+}  // namespace
+
+Prompter& GetPrompter() { return g_prompter ? *g_prompter : DefaultPrompter(); }
+
+Prompter* SetPrompter(Prompter* prompter) {
+  Prompter* previous = g_prompter;
+  g_prompter = prompter;
+  return previous;
+}
+
+void WidgetPrompter::Message(QWidget* parent, const std::string& text, MessageIcon icon) {
+  const QString title = QString::fromUtf8(tools::kProductName);
+  const QString body = QString::fromStdString(text);
+  switch (icon) {
+    case MessageIcon::Information: QMessageBox::information(parent, title, body); break;
+    case MessageIcon::Warning: QMessageBox::warning(parent, title, body); break;
+    case MessageIcon::Error: QMessageBox::critical(parent, title, body); break;
+  }
+}
+
+bool WidgetPrompter::Question(QWidget* parent, const std::string& text) {
+  return QMessageBox::question(parent, QString::fromUtf8(tools::kProductName), QString::fromStdString(text),
+                               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+Answer WidgetPrompter::QuestionWithCancel(QWidget* parent, const std::string& text) {
+  const auto b = QMessageBox::question(parent, QString::fromUtf8(tools::kProductName), QString::fromStdString(text),
+                                       QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel);
+  return b == QMessageBox::Yes ? Answer::Yes : b == QMessageBox::No ? Answer::No : Answer::Cancel;
+}
+
+std::string WidgetPrompter::SaveFileName(QWidget* parent, const FileDialogRequest& request) {
+  QFileDialog dialog(parent);
+  Configure(dialog, request);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return dialog.selectedFiles().front().toStdString();
+}
+
+std::string WidgetPrompter::OpenFileName(QWidget* parent, const FileDialogRequest& request) {
+  QFileDialog dialog(parent);
+  Configure(dialog, request);
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
+  return dialog.selectedFiles().front().toStdString();
+}
+
+std::string WidgetPrompter::FolderName(QWidget* parent, const std::string& title, const std::string& start) {
+  return QFileDialog::getExistingDirectory(parent, QString::fromStdString(title), QString::fromStdString(start),
+                                           QFileDialog::ShowDirsOnly | QFileDialog::DontUseNativeDialog)
+      .toStdString();
+}
+
+std::string ScriptedPrompter::NextAnswer(const std::string& what) {
+  if (answers_.empty()) {
+    if (onUnexpected) onUnexpected(what);
+    return {};
+  }
+  std::string a = answers_.front();
+  answers_.pop_front();
+  return a;
+}
+
+void ScriptedPrompter::Message(QWidget*, const std::string& text, MessageIcon icon) {
+  prompts_.push_back({PromptKind::Message, text, icon, {}});
+  if (onPrompt) onPrompt(prompts_.back());
+}
+
+bool ScriptedPrompter::Question(QWidget*, const std::string& text) {
+  prompts_.push_back({PromptKind::Question, text, MessageIcon::Warning, {}});
+  if (onPrompt) onPrompt(prompts_.back());
+  return NextAnswer("question: " + text) == "yes";
+}
+
+Answer ScriptedPrompter::QuestionWithCancel(QWidget*, const std::string& text) {
+  prompts_.push_back({PromptKind::Question, text, MessageIcon::Warning, {}});
+  if (onPrompt) onPrompt(prompts_.back());
+  const std::string a = NextAnswer("question: " + text);
+  return a == "yes" ? Answer::Yes : a == "no" ? Answer::No : Answer::Cancel;
+}
+
+std::string ScriptedPrompter::SaveFileName(QWidget*, const FileDialogRequest& request) {
+  prompts_.push_back({PromptKind::SaveFile, request.title, MessageIcon::Warning, request});
+  if (onPrompt) onPrompt(prompts_.back());
+  return NextAnswer("save file: " + request.title);
+}
+
+std::string ScriptedPrompter::OpenFileName(QWidget*, const FileDialogRequest& request) {
+  prompts_.push_back({PromptKind::OpenFile, request.title, MessageIcon::Warning, request});
+  if (onPrompt) onPrompt(prompts_.back());
+  return NextAnswer("open file: " + request.title);
+}
+
+std::string ScriptedPrompter::FolderName(QWidget*, const std::string& title, const std::string&) {
+  prompts_.push_back({PromptKind::Folder, title, MessageIcon::Warning, {}});
+  if (onPrompt) onPrompt(prompts_.back());
+  return NextAnswer("folder: " + title);
+}
+
+std::vector<std::string> ScriptedPrompter::Texts() const {
+  std::vector<std::string> texts;
+  for (const auto& p : prompts_)
+    if (p.kind == PromptKind::Message || p.kind == PromptKind::Question) texts.push_back(p.text);
+  return texts;
+}

@@ -1,0 +1,42 @@
+#pragma once
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/display_settings.h"
+#include "model/fm_node.h"
+#include "tools/fm_unit.h"
+
+namespace model {
+
+// Everything a host keeps of one model, as stored in a model document (JSON).
+struct ModelDocument {
+  std::string title;
+  fmUnit units;
+  DisplaySettings display;
+  std::vector<fmNd> nodes;
+};
+
+// The schema version written; older versions stay readable.
+inline constexpr int kDocumentSchemaVersion = 1;
+
+// A document that could not be read: the file, the place in it and what is wrong.
+class DocumentLoadError : public std::runtime_error {
+ public:
+  DocumentLoadError(const std::string& file, const std::string& place, const std::string& problem);
+  const std::string& file() const { return file_; }
+  const std::string& place() const { return place_; }
+  const std::string& problem() const { return problem_; }
+
+ private:
+  std::string file_, place_, problem_;
+};
+
+ModelDocument ParseModelDocument(std::string_view text, const std::string& fileName);
+ModelDocument LoadModelDocument(const std::string& path);
+std::string SerializeModelDocument(const ModelDocument& doc);
+// Replaces the file atomically; throws tools::FileError.
+void SaveModelDocument(const ModelDocument& doc, const std::string& path);
+
+}  // namespace model

@@ -1,0 +1,15 @@
+#pragma once
+#include <nlohmann/json.hpp>
+
+#include "model/document.h"
+#include "model/json_reader.h"
+
+// One reader and one writer per section of the model document; each family adds its own.
+namespace model {
+
+void ReadUnits(const JsonReader& root, ModelDocument& doc);
+void WriteUnits(const ModelDocument& doc, nlohmann::ordered_json& root);
+void ReadNodes(const JsonReader& root, ModelDocument& doc);
+void WriteNodes(const ModelDocument& doc, nlohmann::ordered_json& root);
+
+}  // namespace model

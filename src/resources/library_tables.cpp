@@ -1,0 +1,14 @@
+#include "resources/resources.h"
+
+namespace res {
+
+// One table per dialog family; add a family's table here.
+extern const ResourceTable kFrameResources;
+extern const ResourceTable kUnitsResources;
+
+std::span<const ResourceTable* const> LibraryResourceTables() {
+  static const ResourceTable* const tables[] = {&kFrameResources, &kUnitsResources};
+  return tables;
+}
+
+}  // namespace res

@@ -1,0 +1,86 @@
+#include "tools/atomic_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <sstream>
+
+namespace tools {
+namespace {
+
+[[noreturn]] void Fail(const std::string& action, const std::string& path, int err) {
+  throw FileError("Cannot " + action + " \"" + path + "\": " + std::strerror(err));
+}
+
+void WriteAll(int fd, std::string_view contents, const std::string& path) {
+  const char* p = contents.data();
+  size_t left = contents.size();
+  while (left > 0) {
+    const ssize_t n = ::write(fd, p, left);
+    if (n < 0) {
+      if (errno == EINTR) continue;
+      const int err = errno;
+      ::close(fd);
+      Fail("write", path, err);
+    }
+    p += n;
+    left -= static_cast<size_t>(n);
+  }
+}
+
+}  // namespace
+
+void WriteFileAtomically(const std::string& path, std::string_view contents) {
+  std::string temp = path + ".XXXXXX";
+  const int fd = ::mkstemp(temp.data());
+  if (fd < 0) Fail("write", path, errno);
+  // mkstemp creates 0600; give the file the usual permissions of a new document.
+  const mode_t mask = ::umask(0);
+  ::umask(mask);
+  ::fchmod(fd, 0666 & ~mask);
+  try {
+    WriteAll(fd, contents, path);
+  } catch (...) {
+    ::unlink(temp.c_str());
+    throw;
+  }
+  if (::fsync(fd) != 0 || ::close(fd) != 0) {
+    const int err = errno;
+    ::unlink(temp.c_str());
+    Fail("write", path, err);
+  }
+  if (::rename(temp.c_str(), path.c_str()) != 0) {
+    const int err = errno;
+    ::unlink(temp.c_str());
+    Fail("replace", path, err);
+  }
+}
+
+void AppendToFile(const std::string& path, std::string_view contents) {
+  const int fd = ::open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
+  if (fd < 0) Fail("open", path, errno);
+  WriteAll(fd, contents, path);
+  if (::close(fd) != 0) Fail("write", path, errno);
+}
+
+std::string ReadWholeFile(const std::string& path, size_t maxBytes) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) Fail("open", path, errno ? errno : ENOENT);
+  in.seekg(0, std::ios::end);
+  const std::streamoff size = in.tellg();
+  if (size < 0) Fail("read", path, EIO);
+  if (static_cast<size_t>(size) > maxBytes)
+    throw FileError("Cannot read \"" + path + "\": the file is too large (" + std::to_string(size) + " bytes)");
+  in.seekg(0);
+  std::string data(static_cast<size_t>(size), '\0');
+  in.read(data.data(), size);
+  if (!in) Fail("read", path, EIO);
+  return data;
+}
+
+}  // namespace tools

@@ -1,0 +1,22 @@
+#pragma once
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace tools {
+
+// A file operation that failed; the text names the file and the reason.
+class FileError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// Writes beside the target and renames into place, so a failure never leaves a partial
+// or truncated file where the old one stood.
+void WriteFileAtomically(const std::string& path, std::string_view contents);
+// Appends, creating the file when missing; never truncates what is there.
+void AppendToFile(const std::string& path, std::string_view contents);
+// Reads a whole file; refuses files larger than maxBytes.
+std::string ReadWholeFile(const std::string& path, size_t maxBytes = size_t(1) << 30);
+
+}  // namespace tools

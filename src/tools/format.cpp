@@ -1,0 +1,57 @@
+#include "tools/format.h"
+
+#include <clocale>
+#include <cstdarg>
+#include <cstdio>
+#include <locale.h>
+
+namespace tools {
+namespace {
+
+locale_t CLocale() {
+  static const locale_t c = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
+  return c;
+}
+
+// Switches only the calling thread to the C locale for the duration of one call.
+class ScopedCLocale {
+ public:
+  ScopedCLocale() : previous_(uselocale(CLocale())) {}
+  ~ScopedCLocale() { uselocale(previous_); }
+  ScopedCLocale(const ScopedCLocale&) = delete;
+  ScopedCLocale& operator=(const ScopedCLocale&) = delete;
+
+ private:
+  locale_t previous_;
+};
+
+}  // namespace
+
+std::string Format(const char* fmt, ...) {
+  ScopedCLocale c_locale;
+  char small[256];
+  va_list args;
+  va_start(args, fmt);
+  va_list copy;
+  va_copy(copy, args);
+  const int n = std::vsnprintf(small, sizeof small, fmt, args);
+  va_end(args);
+  std::string out;
+  if (n < 0) {
+    va_end(copy);
+    return out;
+  }
+  if (static_cast<size_t>(n) < sizeof small) {
+    out.assign(small, static_cast<size_t>(n));
+  } else {
+    out.resize(static_cast<size_t>(n) + 1);
+    std::vsnprintf(out.data(), out.size(), fmt, copy);
+    out.resize(static_cast<size_t>(n));
+  }
+  va_end(copy);
+  return out;
+}
+
+std::string FormatG(double value) { return Format("%g", value); }
+
+}  // namespace tools

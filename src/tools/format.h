@@ -1,0 +1,14 @@
+#pragma once
+#include <string>
+#include <string_view>
+
+namespace tools {
+
+// printf-style formatting that always uses the "C" conventions ("1.5", never "1,5"),
+// whatever locale the host process or Qt has set.
+std::string Format(const char* fmt, ...) __attribute__((format(printf, 1, 2)));
+
+// "%g" of a real, the way grid cells and reports write reals.
+std::string FormatG(double value);
+
+}  // namespace tools

@@ -1,0 +1,3 @@
+#include "support/DialogTest.h"
+
+TEST_F(DialogTest, Placeholder) {}

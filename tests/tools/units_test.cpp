@@ -1,0 +1,5 @@
+#include <gtest/gtest.h>
+
+#include "tools/units.h"
+
+TEST(UnitTables, PlaceholderBuilds) { EXPECT_EQ(tools::UnitLabels().size(), 137u); }
