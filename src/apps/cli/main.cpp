@@ -11,6 +11,17 @@ const cli::Command kCommands[] = {
      "units list                      every unit label with its index and factor\n"
      "  units convert VALUE FROM TO     convert VALUE between two units of one kind",
      cli::UnitsCommand},
+    {"section",
+     "section rect|round|wideflange|tee D1 [D2 D3 D4]\n"
+     "                                  properties of a regular section",
+     cli::SectionCommand},
+    {"shapes",
+     "shapes list [TYPE]              labels of the steel shape library\n"
+     "  shapes show LABEL               one shape's table properties\n"
+     "  shapes import FILE | export FILE\n"
+     "                                  replace the library from, or write it to, a csv file\n"
+     "  shapes bundle DATA_DIR          build the bundled library files from their source",
+     cli::ShapesCommand},
 };
 
 void PrintUsage(std::ostream& out) {
