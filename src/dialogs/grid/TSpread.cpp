@@ -34,7 +34,11 @@ TSpread::TSpread() : model_(new SheetModel(sheet_, this)), view_(new SheetView(*
   setMinimumSize(360, 200);
 }
 
-TSpread::~TSpread() = default;
+TSpread::~TSpread() {
+  // The view and model read the sheet, a member that goes before QWidget deletes children.
+  delete view_;
+  delete model_;
+}
 
 QTableView* TSpread::view() const { return view_; }
 
