@@ -1,4 +1,4 @@
-#include "tools/text_cut.h"
+#include "tools/utf8.h"
 
 namespace tools {
 
