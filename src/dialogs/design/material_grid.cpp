@@ -48,7 +48,7 @@ void FillOneRow(grid::Sheet& sheet, const fmMat& m, int row) {
 void Fill(grid::Sheet& sheet, const std::vector<fmMat>& materials, const fmUnit& units,
           grid::Color alternateRowColor, bool lockAll) {
   const int rows = static_cast<int>(materials.size());
-  grid::InitializeGrid(sheet, alternateRowColor, rows, kColumnCount, Headers(units), {8, 22, 10, 8, 10, 10}, lockAll);
+  grid::InitializeGrid(sheet, alternateRowColor, rows, kColumnCount, Headers(units), {9, 22, 11, 10, 14, 10}, lockAll);
   sheet.SetColumnLock(kId, true);
   sheet.SetColAlign(kLabel, grid::Align::Left);
   for (int col = kE; col <= kTc; ++col) sheet.AddFillColumn(col);
