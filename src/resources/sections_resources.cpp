@@ -157,7 +157,8 @@ DialogTemplate StrengthTemplate(int id, int caption, const char* text) {
           },
           600, 360};
 }
-const DialogTemplate kMaterialRc = StrengthTemplate(kTplMaterialRc, kStrMaterialRcCaption, "Concrete Material Strengths");
+const DialogTemplate kMaterialRc =
+    StrengthTemplate(kTplMaterialRc, kStrMaterialRcCaption, "Concrete Material Strengths");
 const DialogTemplate kMaterialSteel =
     StrengthTemplate(kTplMaterialSteel, kStrMaterialSteelCaption, "Steel Material Strengths");
 

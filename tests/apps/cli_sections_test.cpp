@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-
 #include <sys/wait.h>
 
 #include <cstdio>
@@ -62,8 +61,10 @@ TEST(CliSection, RefusesWhatTheDialogRefuses) {
   for (const auto& c : cases) {
     const CliRun r = Cli(c.args, user.path());
     EXPECT_EQ(r.status, c.status) << c.args;
-    if (c.output) EXPECT_EQ(r.output, c.output) << c.args;
-    else EXPECT_NE(r.output.find("usage: norvane-cli section"), std::string::npos) << c.args;
+    if (c.output)
+      EXPECT_EQ(r.output, c.output) << c.args;
+    else
+      EXPECT_NE(r.output.find("usage: norvane-cli section"), std::string::npos) << c.args;
   }
 }
 

@@ -62,9 +62,9 @@ void RegisterSectionsBindings() {
   RegisterDialogBinding({"CRegularSectionDlg",
                          [](CDialog& d, HostModel& m) { static_cast<CRegularSectionDlg&>(d).m_pUnits = &m.doc.units; },
                          nullptr});
-  RegisterDialogBinding({"CStandardMaterialDlg",
-                         [](CDialog& d, HostModel& m) { static_cast<CStandardMaterialDlg&>(d).m_pUnits = &m.doc.units; },
-                         nullptr});
+  RegisterDialogBinding(
+      {"CStandardMaterialDlg",
+       [](CDialog& d, HostModel& m) { static_cast<CStandardMaterialDlg&>(d).m_pUnits = &m.doc.units; }, nullptr});
   RegisterDialogBinding({"CAiscDataDlg", PrepareBrowser<CAiscDataDlg>, nullptr});
   RegisterDialogBinding({"CNdsDataDlg", PrepareBrowser<CNdsDataDlg>, nullptr});
 }

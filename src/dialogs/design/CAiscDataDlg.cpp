@@ -16,7 +16,8 @@ std::vector<std::string> CAiscDataDlg::TypeNames() const { return types_; }
 
 std::vector<int> CAiscDataDlg::Filter(int typeIndex, const std::string& find) const {
   if (!library_) return {};
-  const std::string type = typeIndex > 0 && typeIndex <= static_cast<int>(types_.size()) ? types_[size_t(typeIndex - 1)] : "";
+  const std::string type =
+      typeIndex > 0 && typeIndex <= static_cast<int>(types_.size()) ? types_[size_t(typeIndex - 1)] : "";
   return design::FilterSteelShapes(*library_, type, find);
 }
 
@@ -28,6 +29,9 @@ std::vector<design::PropertyLine> CAiscDataDlg::Properties(int index, const fmUn
   return design::SteelShapeProperties(library_->at(size_t(index)), units);
 }
 
-design::Outline CAiscDataDlg::OutlineOf(int index) const { return design::SteelShapeOutline(library_->at(size_t(index)), Units().Factor(fmUnit::Length), Units().Label(fmUnit::Length)); }
+design::Outline CAiscDataDlg::OutlineOf(int index) const {
+  return design::SteelShapeOutline(library_->at(size_t(index)), Units().Factor(fmUnit::Length),
+                                   Units().Label(fmUnit::Length));
+}
 
 void CAiscDataDlg::OnShapeChosen(int index) { m_Shape = library_->at(size_t(index)); }

@@ -30,6 +30,8 @@ std::vector<design::PropertyLine> CNdsDataDlg::Properties(int index, const fmUni
   return design::LumberProperties((*table_)[size_t(index)], units);
 }
 
-design::Outline CNdsDataDlg::OutlineOf(int index) const { return design::LumberOutline((*table_)[size_t(index)], Units().Factor(fmUnit::Length), Units().Label(fmUnit::Length)); }
+design::Outline CNdsDataDlg::OutlineOf(int index) const {
+  return design::LumberOutline((*table_)[size_t(index)], Units().Factor(fmUnit::Length), Units().Label(fmUnit::Length));
+}
 
 void CNdsDataDlg::OnShapeChosen(int index) { m_Shape = (*table_)[size_t(index)]; }

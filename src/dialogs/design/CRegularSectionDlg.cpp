@@ -60,8 +60,10 @@ void CRegularSectionDlg::ApplyType(int type) {
   const int used = design::DimensionCount(type);
   for (int i = 0; i < 4; ++i) {
     // The boxes a type does not use keep their caption and hold the smallest value.
-    if (i < used) SetDlgItemText(res::kCtlRegCaption1 + i, res::LoadStringOr(captions[type][i].stringId, captions[type][i].text));
-    else SetDlgItemText(res::kCtlRegDim1 + i, design::kUnusedDimensionText);
+    if (i < used)
+      SetDlgItemText(res::kCtlRegCaption1 + i, res::LoadStringOr(captions[type][i].stringId, captions[type][i].text));
+    else
+      SetDlgItemText(res::kCtlRegDim1 + i, design::kUnusedDimensionText);
     EnableDlgItem(res::kCtlRegDim1 + i, i < used);
   }
   UpdatePicture();

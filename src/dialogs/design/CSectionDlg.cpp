@@ -27,7 +27,7 @@ CSectionDlg::CSectionDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplSection, 
 }
 
 std::vector<int> CSectionDlg::EditingControls() const {
-  return {res::kCtlSecRegular, res::kCtlSecAisc,   res::kCtlSecNds,
+  return {res::kCtlSecRegular,   res::kCtlSecAisc,   res::kCtlSecNds,
           res::kCtlSecRigidLink, res::kCtlSecAssign, res::kCtlSecImportAisc};
 }
 

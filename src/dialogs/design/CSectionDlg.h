@@ -13,9 +13,9 @@ class CSectionDlg : public CPropertyGridDlg {
   explicit CSectionDlg(QWidget* pParent = nullptr);
 
   std::vector<fmSect>* m_pSections = nullptr;
-  int32_t m_nActiveSection = 1;     // row made active on entry; the active row (or -1) after OK
-  BOOL m_bAssignActive = 0;         // "Assign active section to currently selected members"
-  BOOL m_bAiscTableImported = 0;    // set when an import replaced the shape library
+  int32_t m_nActiveSection = 1;   // row made active on entry; the active row (or -1) after OK
+  BOOL m_bAssignActive = 0;       // "Assign active section to currently selected members"
+  BOOL m_bAiscTableImported = 0;  // set when an import replaced the shape library
 
   void FillOneRow(const fmSect& section, int row);
 

@@ -32,7 +32,7 @@ class CShapeBrowserDlg : public CDialog {
   // The table's part.
   virtual bool LoadTable() = 0;  // false when the table cannot be read
   virtual int TableSize() const = 0;
-  virtual std::vector<std::string> TypeNames() const = 0;  // after "All types"
+  virtual std::vector<std::string> TypeNames() const = 0;                             // after "All types"
   virtual std::vector<int> Filter(int typeIndex, const std::string& find) const = 0;  // typeIndex 0: all
   virtual std::string LabelOf(int index) const = 0;
   virtual int FindLabel(const std::string& label) const = 0;

@@ -32,8 +32,12 @@ double PsiToDocumentStress(const fmUnit& units) {
 }
 
 std::vector<std::string> Headers(const fmUnit& units) {
-  return {"Material Id", "Label", units.Heading("E", fmUnit::Modulus), "Poisson Ratio",
-          units.Heading("Density", fmUnit::WeightDensity), "Tc [1/" + units.Label(fmUnit::Temperature) + "]"};
+  return {"Material Id",
+          "Label",
+          units.Heading("E", fmUnit::Modulus),
+          "Poisson Ratio",
+          units.Heading("Density", fmUnit::WeightDensity),
+          "Tc [1/" + units.Label(fmUnit::Temperature) + "]"};
 }
 
 void FillOneRow(grid::Sheet& sheet, const fmMat& m, int row) {
@@ -45,8 +49,8 @@ void FillOneRow(grid::Sheet& sheet, const fmMat& m, int row) {
   sheet.SetData(kTc, row, tools::FormatG(m.Tc));
 }
 
-void Fill(grid::Sheet& sheet, const std::vector<fmMat>& materials, const fmUnit& units,
-          grid::Color alternateRowColor, bool lockAll) {
+void Fill(grid::Sheet& sheet, const std::vector<fmMat>& materials, const fmUnit& units, grid::Color alternateRowColor,
+          bool lockAll) {
   const int rows = static_cast<int>(materials.size());
   grid::InitializeGrid(sheet, alternateRowColor, rows, kColumnCount, Headers(units), {9, 22, 11, 10, 14, 10}, lockAll);
   sheet.SetColumnLock(kId, true);
@@ -162,7 +166,9 @@ ReadResult ReadStrengths(const grid::Sheet& sheet, StrengthKind kind, std::span<
     fmMat& m = out[static_cast<size_t>(row - 1)];
     const fmMat& before = materials[static_cast<size_t>(row - 1)];
     const int id = RowId(sheet, row);
-    const auto cell = [&](int col, double fmMat::*field) { return CellValue(sheet.GetData(col, row), {&(before.*field)}); };
+    const auto cell = [&](int col, double fmMat::*field) {
+      return CellValue(sheet.GetData(col, row), {&(before.*field)});
+    };
     if (kind == kConcrete) {
       const auto fc = cell(3, &fmMat::fc), fy = cell(4, &fmMat::fy), fys = cell(5, &fmMat::fys);
       // fc = 0 is a material that is not concrete.

@@ -19,8 +19,8 @@ enum Column { kId = 1, kLabel, kE, kNu, kDensity, kTc, kColumnCount = kTc };
 double PsiToDocumentStress(const fmUnit& units);
 
 std::vector<std::string> Headers(const fmUnit& units);
-void Fill(grid::Sheet& sheet, const std::vector<fmMat>& materials, const fmUnit& units,
-          grid::Color alternateRowColor, bool lockAll);
+void Fill(grid::Sheet& sheet, const std::vector<fmMat>& materials, const fmUnit& units, grid::Color alternateRowColor,
+          bool lockAll);
 // Writes id, label, E, nu, density and Tc into a row.
 void FillOneRow(grid::Sheet& sheet, const fmMat& material, int row);
 

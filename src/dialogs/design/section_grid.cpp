@@ -16,11 +16,11 @@ struct ValueColumn {
   bool positive;  // > 0 for an ordinary section, else >= 0
 };
 
-constexpr ValueColumn kValues[] = {
-    {kIz, "Iz", "^4", &fmSect::Iz, true}, {kIy, "Iy", "^4", &fmSect::Iy, true}, {kJ, "J", "^4", &fmSect::J, true},
-    {kA, "A", "^2", &fmSect::A, true},    {kAy, "Ay", "^2", &fmSect::Ay, false}, {kAz, "Az", "^2", &fmSect::Az, false},
-    {kB, "b", "", &fmSect::b, false},     {kD, "d", "", &fmSect::d, false},     {kTf, "tf", "", &fmSect::tf, false},
-    {kTw, "tw", "", &fmSect::tw, false}};
+constexpr ValueColumn kValues[] = {{kIz, "Iz", "^4", &fmSect::Iz, true},  {kIy, "Iy", "^4", &fmSect::Iy, true},
+                                   {kJ, "J", "^4", &fmSect::J, true},     {kA, "A", "^2", &fmSect::A, true},
+                                   {kAy, "Ay", "^2", &fmSect::Ay, false}, {kAz, "Az", "^2", &fmSect::Az, false},
+                                   {kB, "b", "", &fmSect::b, false},      {kD, "d", "", &fmSect::d, false},
+                                   {kTf, "tf", "", &fmSect::tf, false},   {kTw, "tw", "", &fmSect::tw, false}};
 
 // b, d, tf and tw may be left empty: they read as 0.
 bool MayBeEmpty(int col) { return col >= kB; }
@@ -29,7 +29,8 @@ bool MayBeEmpty(int col) { return col >= kB; }
 
 std::vector<std::string> Headers(const fmUnit& units) {
   std::vector<std::string> headers = {"Section Id", "Label"};
-  for (const auto& v : kValues) headers.push_back(std::string(v.name) + " [" + units.Label(fmUnit::Length) + v.power + "]");
+  for (const auto& v : kValues)
+    headers.push_back(std::string(v.name) + " [" + units.Label(fmUnit::Length) + v.power + "]");
   return headers;
 }
 

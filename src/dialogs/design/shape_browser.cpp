@@ -11,17 +11,17 @@ namespace {
 
 // The power of length of each published value column (W = weight per length: -1; a ratio: 0).
 constexpr int kPowers[tools::kAiscValueCount] = {
-    -1, 2,                                      // W, A
-    1, 1, 1, 1, 1, 1, 1, 1, 1, 1,               // d ddet Ht h OD bf bfdet B b ID
-    1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1,            // tw twdet twdet/2 tf tfdet t tnom tdes kdes kdet k1
-    1, 1, 1, 1, 1,                              // x y eo xp yp
-    0, 0, 0, 0, 0, 0,                           // bf/2tf b/t b/tdes h/tw h/tdes D/t
-    4, 3, 3, 1, 4, 3, 3, 1, 4, 1, 3,            // Ix Zx Sx rx Iy Zy Sy ry Iz rz Sz
-    4, 6, 3, 2, 4, 4, 4, 3, 3,                  // J Cw C Wno Sw1 Sw2 Sw3 Qf Qw
-    1, 0, 0, 4,                                 // ro H tan(a) Iw
-    1, 1, 1, 1, 1, 1, 3, 3, 3, 3, 3, 3,         // zA zB zC wA wB wC SwA SwB SwC SzA SzB SzC
-    1, 1,                                       // rts ho
-    1, 1, 1, 1, 1, 1, 1, 1};                    // PA PA2 PB PC PD T WGi WGo
+    -1, 2,                                // W, A
+    1,  1, 1, 1, 1, 1, 1, 1, 1, 1,        // d ddet Ht h OD bf bfdet B b ID
+    1,  1, 1, 1, 1, 1, 1, 1, 1, 1, 1,     // tw twdet twdet/2 tf tfdet t tnom tdes kdes kdet k1
+    1,  1, 1, 1, 1,                       // x y eo xp yp
+    0,  0, 0, 0, 0, 0,                    // bf/2tf b/t b/tdes h/tw h/tdes D/t
+    4,  3, 3, 1, 4, 3, 3, 1, 4, 1, 3,     // Ix Zx Sx rx Iy Zy Sy ry Iz rz Sz
+    4,  6, 3, 2, 4, 4, 4, 3, 3,           // J Cw C Wno Sw1 Sw2 Sw3 Qf Qw
+    1,  0, 0, 4,                          // ro H tan(a) Iw
+    1,  1, 1, 1, 1, 1, 3, 3, 3, 3, 3, 3,  // zA zB zC wA wB wC SwA SwB SwC SzA SzB SzC
+    1,  1,                                // rts ho
+    1,  1, 1, 1, 1, 1, 1, 1};             // PA PA2 PB PC PD T WGi WGo
 
 bool Contains(std::string_view text, std::string_view find) {
   if (find.empty()) return true;
@@ -67,8 +67,8 @@ std::vector<PropertyLine> SteelShapeProperties(const tools::fmSect_AISC& shape, 
     if (kPowers[v] < 0) {
       // lb/ft to the document's linear-force unit.
       const double lbPerInch = shape.Value(v) / 12.0;
-      lines.push_back({name, tools::FormatG(lbPerInch / units.Factor(fmUnit::LinearForce)),
-                       units.Label(fmUnit::LinearForce)});
+      lines.push_back(
+          {name, tools::FormatG(lbPerInch / units.Factor(fmUnit::LinearForce)), units.Label(fmUnit::LinearForce)});
     } else {
       lines.push_back(Line(name, shape.Value(v), kPowers[v], units));
     }

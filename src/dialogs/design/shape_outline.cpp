@@ -73,8 +73,18 @@ Outline WideFlangeOutline(double b, double d, double tf, double tw, const std::s
     o.loops.push_back({{0, 0}, {b, 0}, {b, d}, {0, d}});
   } else {
     const double x1 = (b - tw) / 2, x2 = (b + tw) / 2;
-    o.loops.push_back({{0, 0}, {b, 0}, {b, tf}, {x2, tf}, {x2, d - tf}, {b, d - tf}, {b, d}, {0, d}, {0, d - tf},
-                       {x1, d - tf}, {x1, tf}, {0, tf}});
+    o.loops.push_back({{0, 0},
+                       {b, 0},
+                       {b, tf},
+                       {x2, tf},
+                       {x2, d - tf},
+                       {b, d - tf},
+                       {b, d},
+                       {0, d},
+                       {0, d - tf},
+                       {x1, d - tf},
+                       {x1, tf},
+                       {0, tf}});
   }
   MarkWidth(o, "b", b, unit);
   MarkDepth(o, "d", d, unit);
@@ -138,11 +148,16 @@ Outline RingOutline(double D, double t, const std::string& unit) {
 
 Outline RegularSectionOutline(int type, const double dims[4], const std::string& unit) {
   switch (type) {
-    case kRectangle: return RectangleOutline(dims[0], dims[1], unit);
-    case kRound: return RoundOutline(dims[0], unit);
-    case kWideFlange: return WideFlangeOutline(dims[0], dims[1], dims[2], dims[3], unit);
-    case kTee: return TeeOutline(dims[0], dims[1], dims[2], dims[3], unit);
-    default: return {};
+    case kRectangle:
+      return RectangleOutline(dims[0], dims[1], unit);
+    case kRound:
+      return RoundOutline(dims[0], unit);
+    case kWideFlange:
+      return WideFlangeOutline(dims[0], dims[1], dims[2], dims[3], unit);
+    case kTee:
+      return TeeOutline(dims[0], dims[1], dims[2], dims[3], unit);
+    default:
+      return {};
   }
 }
 
@@ -150,7 +165,8 @@ Outline SteelShapeOutline(const tools::fmSect_AISC& s, double unitInInches, cons
   namespace a = tools::aisc;
   const auto v = [&](int i) { return s.Value(i) / unitInInches; };
   const std::string& t = s.type;
-  if (t == "W" || t == "M" || t == "S" || t == "HP") return WideFlangeOutline(v(a::bf), v(a::d), v(a::tf), v(a::tw), in);
+  if (t == "W" || t == "M" || t == "S" || t == "HP")
+    return WideFlangeOutline(v(a::bf), v(a::d), v(a::tf), v(a::tw), in);
   if (t == "WT" || t == "MT" || t == "ST") return TeeOutline(v(a::bf), v(a::d), v(a::tf), v(a::tw), in);
   if (t == "C" || t == "MC") return ChannelOutline(v(a::bf), v(a::d), v(a::tf), v(a::tw), in);
   if (t == "L") return AngleOutline(v(a::b), v(a::d), v(a::t), in);

@@ -7,8 +7,8 @@
 namespace stdmat {
 namespace {
 
-constexpr int kPsi = 69;         // lb/in^2
-constexpr int kLbPerIn3 = 85;    // lb/in^3
+constexpr int kPsi = 69;       // lb/in^2
+constexpr int kLbPerIn3 = 85;  // lb/in^3
 constexpr int kFahrenheit = 103;
 
 struct Steel {

@@ -38,15 +38,18 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmThick> filled) {
       result.thicknesses.clear();
       return result;
     };
-    if (const std::string rule = tools::IsValidLabel(label); !rule.empty()) return fail("Thickness label can only " + rule);
+    if (const std::string rule = tools::IsValidLabel(label); !rule.empty())
+      return fail("Thickness label can only " + rule);
     const std::string& text = sheet.GetData(kThickness, row);
     std::optional<double> value;
-    if (row <= static_cast<int>(filled.size()) && text == tools::FormatG(filled[static_cast<size_t>(row - 1)].thickness))
+    if (row <= static_cast<int>(filled.size()) &&
+        text == tools::FormatG(filled[static_cast<size_t>(row - 1)].thickness))
       value = filled[static_cast<size_t>(row - 1)].thickness;
     else
       value = tools::ParseDouble(text);
     if (!value || !(*value > 0))
-      return fail(tools::Format("Invalid input for thickness %d.", static_cast<int>(sheet.GetInt(kId, row).value_or(row))));
+      return fail(
+          tools::Format("Invalid input for thickness %d.", static_cast<int>(sheet.GetInt(kId, row).value_or(row))));
     fmThick t(row);
     t.SetLabel(label);
     t.thickness = *value;

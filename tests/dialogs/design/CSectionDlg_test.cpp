@@ -1,3 +1,5 @@
+#include "dialogs/design/CSectionDlg.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -7,10 +9,9 @@
 #include "dialogs/design/CAiscDataDlg.h"
 #include "dialogs/design/CNdsDataDlg.h"
 #include "dialogs/design/CRegularSectionDlg.h"
-#include "dialogs/design/CSectionDlg.h"
 #include "dialogs/design/CThickDlg.h"
-#include "dialogs/design/section_grid.h"
 #include "dialogs/design/SectionsDialogTest.h"
+#include "dialogs/design/section_grid.h"
 #include "resources/grid_ids.h"
 #include "resources/sections_ids.h"
 #include "tools/atomic_file.h"
@@ -56,7 +57,8 @@ std::function<void(CDialog&)> Regular(int type, std::vector<const char*> dims) {
   return [type, dims](CDialog& d) {
     auto& reg = static_cast<CRegularSectionDlg&>(d);
     reg.ChooseItem(res::kCtlRegType, type);
-    for (size_t i = 0; i < dims.size(); ++i) reg.Item<QLineEdit>(res::kCtlRegDim1 + static_cast<int>(i))->setText(dims[i]);
+    for (size_t i = 0; i < dims.size(); ++i)
+      reg.Item<QLineEdit>(res::kCtlRegDim1 + static_cast<int>(i))->setText(dims[i]);
     reg.PressButton(IDOK);
   };
 }
@@ -241,11 +243,12 @@ TEST_F(SectionDialogTest, ExportAndImportAskFirstAndReportBadFiles) {
   prompter.QueuePath(files / "shapes.csv");
   dlg.PressButton(res::kCtlSecExportAisc);
   ASSERT_EQ(prompter.prompts().size(), 2u);
-  EXPECT_EQ(prompter.prompts()[0].text.rfind("You are about to export AISC table from this program to a csv (Comma "
-                                             "Delimited) file.  The exported csv file can then be modified in Microsoft "
-                                             "Excel to add/remove/modify AISC steel shapes.\n\nDo you want to continue?",
-                                             0),
-            0u);
+  EXPECT_EQ(
+      prompter.prompts()[0].text.rfind("You are about to export AISC table from this program to a csv (Comma "
+                                       "Delimited) file.  The exported csv file can then be modified in Microsoft "
+                                       "Excel to add/remove/modify AISC steel shapes.\n\nDo you want to continue?",
+                                       0),
+      0u);
   EXPECT_EQ(prompter.prompts()[1].request.title, "Export AISC Sections to a CSV File");
   EXPECT_EQ(prompter.prompts()[1].request.defaultExtension, "csv");
   EXPECT_EQ(prompter.prompts()[1].request.filters, std::vector<std::string>{"CSV Files (*.csv)"});
@@ -292,7 +295,8 @@ TEST_F(SectionDialogTest, AssigningAnActiveRowBeyondTheTableIsReportedAndCleared
   EXPECT_EQ(dlg.ModalResult(), IDOK);
   EXPECT_EQ(dlg.m_bAssignActive, 1);
   EXPECT_EQ(dlg.m_nActiveSection, -1);
-  EXPECT_EQ(Messages(), std::vector<std::string>{"The current section is not valid.\nNo section assignment takes place."});
+  EXPECT_EQ(Messages(),
+            std::vector<std::string>{"The current section is not valid.\nNo section assignment takes place."});
   EXPECT_EQ(sections.size(), 3u);
 }
 

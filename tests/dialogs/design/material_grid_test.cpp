@@ -1,8 +1,9 @@
+#include "dialogs/design/material_grid.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "dialogs/design/material_grid.h"
 #include "dialogs/design/standard_materials.h"
 #include "dialogs/grid/grid_ops.h"
 
@@ -19,7 +20,7 @@ fmMat Steel(int id) {
 }  // namespace
 
 TEST(MaterialGrid, HeadingsNameTheUnits) {
-  const std::vector<std::string> expected = {"Material Id", "Label", "E [kip/in^2]", "Poisson Ratio",
+  const std::vector<std::string> expected = {"Material Id",       "Label",   "E [kip/in^2]", "Poisson Ratio",
                                              "Density [lb/ft^3]", "Tc [1/F]"};
   EXPECT_EQ(matgrid::Headers(fmUnit()), expected);
   EXPECT_EQ(matgrid::StrengthHeaders(matgrid::kConcrete, fmUnit())[4], "fys [kip/in^2]");
@@ -57,8 +58,10 @@ TEST(MaterialGrid, PoissonDensityModulusAndThermalLimits) {
       continue;
     }
     ASSERT_TRUE(r.failure);
-    if (c.message) EXPECT_EQ(r.failure->message, c.message);
-    else EXPECT_EQ(r.failure->message.rfind("Material label can only ", 0), 0u);
+    if (c.message)
+      EXPECT_EQ(r.failure->message, c.message);
+    else
+      EXPECT_EQ(r.failure->message.rfind("Material label can only ", 0), 0u);
     EXPECT_EQ(r.failure->cell, (grid::CellRef{1, 1}));
   }
 }
@@ -81,7 +84,7 @@ TEST(MaterialGrid, RowsKeepTheirStrengthsNewRowsGetDefaultsStandardRowsTheirOwn)
   const auto r = matgrid::Read(sheet, old, {{4, concrete}}, fmUnit());
   ASSERT_FALSE(r.failure) << r.failure->message;
   ASSERT_EQ(r.materials.size(), 4u);
-  EXPECT_EQ(r.materials[1].fy, 50);  // kept from the old record
+  EXPECT_EQ(r.materials[1].fy, 50);        // kept from the old record
   EXPECT_DOUBLE_EQ(r.materials[2].fc, 3);  // 3000 psi in ksi
   EXPECT_DOUBLE_EQ(r.materials[2].fy, 60);
   EXPECT_EQ(r.materials[3].fc, 4);
@@ -151,7 +154,7 @@ TEST(StandardMaterials, ConcreteFourKsiAt145PoundsInEnglishAndSiUnits) {
   ASSERT_NEAR(usE / 1000, 3644, 0.5);
 
   fmUnit english;
-  english.unit[fmUnit::Modulus] = 69;  // psi
+  english.unit[fmUnit::Modulus] = 69;        // psi
   english.unit[fmUnit::WeightDensity] = 86;  // lb/ft^3
   auto table = stdmat::UsTable();
   stdmat::ConvertToDocument(table, english);

@@ -1,6 +1,7 @@
+#include "dialogs/design/section_grid.h"
+
 #include <gtest/gtest.h>
 
-#include "dialogs/design/section_grid.h"
 #include "dialogs/design/thickness_grid.h"
 #include "dialogs/grid/grid_ops.h"
 
@@ -33,8 +34,9 @@ TEST(SectionGrid, HeadingsCarryTheLengthUnitAndItsPowers) {
   fmUnit units;
   units.unit[fmUnit::Length] = 0;  // in
   const auto h = sectiongrid::Headers(units);
-  const std::vector<std::string> expected = {"Section Id", "Label",    "Iz [in^4]", "Iy [in^4]", "J [in^4]", "A [in^2]",
-                                             "Ay [in^2]",  "Az [in^2]", "b [in]",    "d [in]",    "tf [in]",  "tw [in]"};
+  const std::vector<std::string> expected = {"Section Id", "Label",    "Iz [in^4]", "Iy [in^4]",
+                                             "J [in^4]",   "A [in^2]", "Ay [in^2]", "Az [in^2]",
+                                             "b [in]",     "d [in]",   "tf [in]",   "tw [in]"};
   EXPECT_EQ(h, expected);
   units.unit[fmUnit::Length] = 4;  // m
   EXPECT_EQ(sectiongrid::Headers(units)[2], "Iz [m^4]");
@@ -72,9 +74,11 @@ TEST(SectionGrid, OkRulesInOrderWithTheOffendingRowActive) {
       {"J negative", {"S2", "1", "1", "-1", "1", "0", "0"}, "Invalid input for section 2."},
       {"text for Iz", {"S2", "abc", "1", "1", "1", "0", "0"}, "Invalid input for section 2."},
       {"tw negative", {"S2", "1", "1", "1", "1", "0", "0", "", "", "", "-0.1"}, "Invalid input for section 2."},
-      {"rigid link with a property", {"RIGID_LINK", "0", "0", "0", "0", "0", "0", "0", "0.5"},
+      {"rigid link with a property",
+       {"RIGID_LINK", "0", "0", "0", "0", "0", "0", "0", "0.5"},
        "RIGID_LINK section must have zero for every section property."},
-      {"rigid link with a text", {"rigid_link", "0", "0", "0", "0", "x", "0"},
+      {"rigid link with a text",
+       {"rigid_link", "0", "0", "0", "0", "x", "0"},
        "RIGID_LINK section must have zero for every section property."},
   };
   for (const auto& c : cases) {
@@ -83,8 +87,10 @@ TEST(SectionGrid, OkRulesInOrderWithTheOffendingRowActive) {
     t.Row(2, c.row2);
     const auto r = t.Read();
     ASSERT_TRUE(r.failure);
-    if (c.message) EXPECT_EQ(r.failure->message, c.message);
-    else EXPECT_EQ(r.failure->message.rfind("Section label can only ", 0), 0u) << r.failure->message;
+    if (c.message)
+      EXPECT_EQ(r.failure->message, c.message);
+    else
+      EXPECT_EQ(r.failure->message.rfind("Section label can only ", 0), 0u) << r.failure->message;
     EXPECT_EQ(r.failure->cell, (grid::CellRef{1, 2}));
     EXPECT_TRUE(r.sections.empty());
   }
@@ -162,8 +168,10 @@ TEST(ThicknessGrid, EqualLabelsAreRefusedAndThicknessMustBePositive) {
       continue;
     }
     ASSERT_TRUE(r.failure);
-    if (c.message) EXPECT_EQ(r.failure->message, c.message);
-    else EXPECT_EQ(r.failure->message.rfind("Thickness label can only ", 0), 0u);
+    if (c.message)
+      EXPECT_EQ(r.failure->message, c.message);
+    else
+      EXPECT_EQ(r.failure->message.rfind("Thickness label can only ", 0), 0u);
     EXPECT_EQ(r.failure->cell.row, c.row);
   }
   EXPECT_EQ(thickgrid::Headers(fmUnit())[2], "Thickness [ft]");
