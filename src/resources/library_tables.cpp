@@ -5,9 +5,16 @@ namespace res {
 // One table per dialog family; add a family's table here.
 extern const ResourceTable kFrameResources;
 extern const ResourceTable kUnitsResources;
+extern const ResourceTable kDesignResources;
+extern const ResourceTable kGeometryResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
-  static const ResourceTable* const tables[] = {&kFrameResources, &kUnitsResources};
+  static const ResourceTable* const tables[] = {
+      &kFrameResources,
+      &kUnitsResources,
+      &kDesignResources,
+      &kGeometryResources,
+  };
   return tables;
 }
 

@@ -30,4 +30,6 @@ void RegisterAllBindings() {
   done = true;
   RegisterFrameBindings();
   RegisterUnitsBindings();
+  RegisterConcreteDesignBindings();
+  RegisterGeometryBindings();
 }

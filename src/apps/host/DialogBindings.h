@@ -22,4 +22,6 @@ void RegisterDialogBinding(DialogBinding binding);
 // Each family adds its bindings; called once at start-up.
 void RegisterFrameBindings();
 void RegisterUnitsBindings();
+void RegisterConcreteDesignBindings();
+void RegisterGeometryBindings();
 void RegisterAllBindings();

@@ -59,7 +59,9 @@ void HostWindow::RefreshView() {
   add("Nodes", QString::number(doc.nodes.size()));
   add("Model locked", doc.display.modelLocked ? "yes" : "no");
   add("Show only selected", doc.display.showSelectedOnly ? "yes" : "no");
-  statusBar()->showMessage(model_.modified ? "Modified" : "Saved");
+  QString status = model_.modified ? "Modified" : "Saved";
+  if (!model_.status.empty()) status += " - " + QString::fromStdString(model_.status);
+  statusBar()->showMessage(status);
 }
 
 bool HostWindow::OpenModel(const std::string& path) {
@@ -110,6 +112,7 @@ bool HostWindow::SaveModelAs() {
 }
 
 int HostWindow::RunDialog(const std::string& className) {
+  model_.status.clear();
   const int result = RunBoundDialog(className, model_, this);
   RefreshView();
   return result;

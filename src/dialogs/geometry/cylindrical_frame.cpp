@@ -1,9 +1,11 @@
 #include "dialogs/geometry/cylindrical_frame.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <numbers>
 
+#include "model/document.h"
 #include "tools/format.h"
 #include "tools/numeric.h"
 #include "tools/parse_list.h"
@@ -237,6 +239,19 @@ CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters
   if (kind != SupportKind::None)
     for (size_t i = 0; i < perLevel; ++i) f.supports.push_back({firstNodeId + static_cast<uint32_t>(i), kind});
   return result;
+}
+
+CylindricalFrameResult AddCylindricalFrameToDocument(model::ModelDocument& doc, const CylindricalFrameParameters& p) {
+  uint32_t highest = 0;
+  for (const fmNd& n : doc.nodes) highest = std::max(highest, n.id);
+  if (highest == std::numeric_limits<uint32_t>::max()) {
+    CylindricalFrameResult r;
+    r.error = "The new nodes and members cannot be numbered: ids would pass 4294967295";
+    return r;
+  }
+  CylindricalFrameResult r = GenerateCylindricalFrame(p, highest + 1, 1);
+  if (r.ok()) doc.nodes.insert(doc.nodes.end(), r.frame.nodes.begin(), r.frame.nodes.end());
+  return r;
 }
 
 }  // namespace geometry

@@ -7,6 +7,10 @@
 
 #include "model/fm_node.h"
 
+namespace model {
+struct ModelDocument;
+}
+
 // The cylindrical frame generator: checks the three lists as the dialog does on OK, and
 // builds the nodes, members and supports that the host adds to its model.
 //
@@ -95,6 +99,12 @@ struct CylindricalFrameResult {
 // supports, every node of the base level gets one.
 CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters& p, uint32_t firstNodeId,
                                                 uint32_t firstMemberId);
+
+// Generates into a model: the new nodes are numbered after the model's highest node id and
+// appended to it; the model is untouched when the parameters are refused. The document has
+// no member or support records yet, so the members (numbered from 1) and supports are only
+// returned, for the caller to report.
+CylindricalFrameResult AddCylindricalFrameToDocument(model::ModelDocument& doc, const CylindricalFrameParameters& p);
 
 const char* SupportKindName(SupportKind kind);  // "pinned", "fixed", "none"
 
