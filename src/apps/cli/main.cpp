@@ -11,6 +11,15 @@ const cli::Command kCommands[] = {
      "units list                      every unit label with its index and factor\n"
      "  units convert VALUE FROM TO     convert VALUE between two units of one kind",
      cli::UnitsCommand},
+    {"kfactor",
+     "kfactor GA GB                   effective length factor K of a braced and an unbraced column",
+     cli::KFactorCommand},
+    {"cylinder",
+     "cylinder [--radial LIST] [--angles LIST] [--axial LIST] [--insert X,Y,Z] [--axis X|Y|Z]\n"
+     "           [--rotate DEG] [--supports none|pinned|fixed] [--no-members] [--first-node ID]\n"
+     "           [--first-member ID] [--output FILE]\n"
+     "                                  nodes, members and supports of a cylindrical frame",
+     cli::CylinderCommand},
 };
 
 void PrintUsage(std::ostream& out) {

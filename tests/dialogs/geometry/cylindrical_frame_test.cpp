@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "dialogs/geometry/cylindrical_frame.h"
+#include "model/document.h"
 
 namespace {
 
@@ -254,6 +255,28 @@ TEST(CylindricalFrame, RefusesWhatItCannotBuild) {
   EXPECT_EQ(full.frame.nodes.back().id, 4294967295u);
   EXPECT_EQ(GenerateCylindricalFrame(p, 4294967291u, 1).error,
             "The new nodes and members cannot be numbered: ids would pass 4294967295");
+}
+
+TEST(CylindricalFrame, AddsNodesToADocumentAfterItsHighestId) {
+  model::ModelDocument doc;
+  doc.nodes = {{12, 0, 0, 0, 0}, {5, 1, 0, 0, 0}};
+  CylindricalFrameParameters p;
+  p.angleList = "0, 4@90";
+  const CylindricalFrameResult r = AddCylindricalFrameToDocument(doc, p);
+  ASSERT_TRUE(r.ok()) << r.error;
+  ASSERT_EQ(doc.nodes.size(), 2u + 8u);
+  EXPECT_EQ(doc.nodes[1], (fmNd{5, 1, 0, 0, 0}));
+  for (size_t i = 0; i < 8; ++i) EXPECT_EQ(doc.nodes[2 + i].id, 13u + i);
+  EXPECT_EQ(r.frame.members.front().id, 1u);
+
+  // Refused parameters and a model whose ids are used up leave the nodes as they were.
+  p.angleList = "0, 360";
+  EXPECT_EQ(AddCylindricalFrameToDocument(doc, p).error, kClosedFrameNeedsTwoIncrements);
+  EXPECT_EQ(doc.nodes.size(), 10u);
+  p.angleList = "0, 4@90";
+  doc.nodes.push_back({4294967295u, 0, 0, 0, 0});
+  EXPECT_FALSE(AddCylindricalFrameToDocument(doc, p).ok());
+  EXPECT_EQ(doc.nodes.size(), 11u);
 }
 
 }  // namespace
