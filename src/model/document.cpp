@@ -42,6 +42,11 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
     throw DocumentLoadError(fileName, LineAndColumn(text, at),
                             colon == std::string::npos ? "not a valid model document (malformed JSON)"
                                                        : what.substr(colon));
+  } catch (const nlohmann::json::exception& e) {
+    // A number too large for a double ("1e400") is refused while parsing, without a position.
+    std::string what = e.what();
+    const auto bracket = what.find("] ");
+    throw DocumentLoadError(fileName, "", bracket == std::string::npos ? what : what.substr(bracket + 2));
   }
   ModelDocument doc;
   try {
@@ -67,7 +72,7 @@ ModelDocument LoadModelDocument(const std::string& path) {
   try {
     text = tools::ReadWholeFile(path);
   } catch (const tools::FileError& e) {
-    throw DocumentLoadError(path, "", e.what());
+    throw DocumentLoadError(path, "", e.reason().empty() ? e.what() : e.reason());
   }
   return ParseModelDocument(text, path);
 }
