@@ -67,38 +67,6 @@ TEST(ResourceTables, EveryTemplateIsConsistent) {
   EXPECT_GE(templates, 6) << "the frame and units templates at least";
 }
 
-TEST(ResourceTables, FrameAndUnitsTemplatesCarryTheirIds) {
-  struct Case {
-    int templateId, captionString;
-    std::set<int> controls;
-  };
-  const Case cases[] = {
-      {100, 1042, {1003, 1006, 1007, 1008, 1}},
-      {134, 20011, {1003, 1006, 1}},
-      {1545, 20010, {1325}},
-      {130, 1349, {3380, 1010, 1011, 3382, 3381, 1012, 3383, 3384, 1013, 1015, 1014, 3385, 3386, 1339, 3387, 1338,
-                   1016, 1017, 3388, 1163, 1164, 1165, 1166, 1167, 1168, 1172, 1169, 1170, 1171, 1173, 1, 2}},
-      {3135, 1486, {3336, 3011, 3348, 3349, 3357, 3358, 3350, 1, 2}},
-      {8097, 1518, {3410, 3409, 3214, 3210, 3211, 2}},
-  };
-  std::map<int, const res::DialogTemplate*> byId;
-  for (const res::ResourceTable* table : res::LibraryResourceTables())
-    for (const res::DialogTemplate* t : table->templates) byId[t->id] = t;
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.templateId);
-    ASSERT_TRUE(byId.count(c.templateId));
-    const res::DialogTemplate* t = byId[c.templateId];
-    EXPECT_EQ(t->captionStringId, c.captionString);
-    for (int id : c.controls) EXPECT_NE(t->FindControl(id), nullptr) << "control " << id;
-  }
-  // The preferences' labels and buttons use the published string ids.
-  const std::pair<int, int> mapping[] = {{1163, 1350}, {1164, 1351}, {1165, 1352}, {1166, 1353}, {1167, 1354},
-                                         {1168, 1355}, {1172, 1363}, {1010, 1356}, {1011, 1357}, {1013, 1358},
-                                         {1169, 1359}, {1012, 1360}, {1170, 1361}, {1171, 1362}, {1014, 1516},
-                                         {1173, 1585}, {1, 1039},    {2, 1040}};
-  for (const auto& [control, string] : mapping) EXPECT_EQ(byId[130]->FindControl(control)->stringId, string) << control;
-}
-
 TEST(ResourceChain, HostTablesComeFirstAndLeaveCleanly) {
   static const res::StringEntry library[] = {{29800, "library text"}, {29801, "only in the library"}};
   static const res::StringEntry host[] = {{29800, "host text"}};
