@@ -56,6 +56,7 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
     doc.title = r.String("title", "");
     ReadUnits(r, doc);
     ReadNodes(r, doc);
+    ReadLoads(r, doc);
   } catch (const DocumentError& e) {
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
   }
@@ -80,6 +81,7 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   root["title"] = doc.title;
   WriteUnits(doc, root);
   WriteNodes(doc, root);
+  WriteLoads(doc, root);
   return root.dump(1, '\t') + "\n";
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/display_settings.h"
+#include "model/fm_load.h"
 #include "model/fm_node.h"
 #include "tools/fm_unit.h"
 
@@ -16,6 +17,8 @@ struct ModelDocument {
   fmUnit units;
   DisplaySettings display;
   std::vector<fmNd> nodes;
+  std::vector<fmLoadCase> loadCases;
+  std::vector<fmLoadComb> loadCombs;
 };
 
 // The schema version written; older versions stay readable.

@@ -11,5 +11,7 @@ void ReadUnits(const JsonReader& root, ModelDocument& doc);
 void WriteUnits(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadNodes(const JsonReader& root, ModelDocument& doc);
 void WriteNodes(const ModelDocument& doc, nlohmann::ordered_json& root);
+void ReadLoads(const JsonReader& root, ModelDocument& doc);
+void WriteLoads(const ModelDocument& doc, nlohmann::ordered_json& root);
 
 }  // namespace model
