@@ -79,6 +79,7 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
     doc.title = r.String("title", "");
     ReadUnits(r, doc);
     ReadNodes(r, doc);
+    ReadLoads(r, doc);
     ReadMaterials(r, doc);
     ReadSections(r, doc);
     ReadThicknesses(r, doc);
@@ -106,6 +107,7 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   root["title"] = doc.title;
   WriteUnits(doc, root);
   WriteNodes(doc, root);
+  WriteLoads(doc, root);
   WriteMaterials(doc, root);
   WriteSections(doc, root);
   WriteThicknesses(doc, root);

@@ -11,6 +11,12 @@ const cli::Command kCommands[] = {
      "units list                      every unit label with its index and factor\n"
      "  units convert VALUE FROM TO     convert VALUE between two units of one kind",
      cli::UnitsCommand},
+    {"combos",
+     "combos codes                    the design codes: index, name, number of combinations\n"
+     "  combos list CODE                the code's combinations as the check list shows them\n"
+     "  combos generate MODEL CODE [--rows all|1,3,5-8] [--pdelta] [-o OUT]\n"
+     "                                  add the code's standard combinations to the model",
+     cli::CombosCommand},
 };
 
 void PrintUsage(std::ostream& out) {
