@@ -21,5 +21,6 @@ inline constexpr int kRefused = 1;
 inline constexpr int kUsage = 2;
 
 int UnitsCommand(const Args& args, std::ostream& out, std::ostream& err);
+int GridCommand(const Args& args, std::ostream& out, std::ostream& err);
 
 }  // namespace cli

@@ -11,6 +11,11 @@ const cli::Command kCommands[] = {
      "units list                      every unit label with its index and factor\n"
      "  units convert VALUE FROM TO     convert VALUE between two units of one kind",
      cli::UnitsCommand},
+    {"grid",
+     "grid export MODEL TABLE OUT [--append]\n"
+     "                                  save a table of the model (nodes) as .htm, .txt, .xls or .xlsx;\n"
+     "                                  --append adds to an existing .htm or .txt file",
+     cli::GridCommand},
 };
 
 void PrintUsage(std::ostream& out) {
