@@ -7,6 +7,7 @@
 // Each family registers its dialog classes; add a family's function here.
 void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
+void RegisterModelDialogs();
 
 namespace {
 int g_users = 0;
@@ -18,6 +19,7 @@ bool NorvaneDlgsStartup() {
   tools::UnitFactors();  // build the unit tables now rather than inside the first dialog
   RegisterFrameDialogs();
   RegisterUnitsDialogs();
+  RegisterModelDialogs();
   return true;
 }
 

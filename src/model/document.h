@@ -5,7 +5,9 @@
 #include <vector>
 
 #include "model/display_settings.h"
+#include "model/fm_material.h"
 #include "model/fm_node.h"
+#include "model/fm_section.h"
 #include "tools/fm_unit.h"
 
 namespace model {
@@ -16,6 +18,9 @@ struct ModelDocument {
   fmUnit units;
   DisplaySettings display;
   std::vector<fmNd> nodes;
+  std::vector<fmMat> materials;
+  std::vector<fmSect> sections;
+  std::vector<fmThick> thicknesses;
 };
 
 // The schema version written; older versions stay readable.

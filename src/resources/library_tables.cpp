@@ -5,9 +5,12 @@ namespace res {
 // One table per dialog family; add a family's table here.
 extern const ResourceTable kFrameResources;
 extern const ResourceTable kUnitsResources;
+extern const ResourceTable kGridResources;
+extern const ResourceTable kModelResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
-  static const ResourceTable* const tables[] = {&kFrameResources, &kUnitsResources};
+  static const ResourceTable* const tables[] = {&kFrameResources, &kUnitsResources, &kGridResources,
+                                                   &kModelResources};
   return tables;
 }
 

@@ -30,4 +30,5 @@ void RegisterAllBindings() {
   done = true;
   RegisterFrameBindings();
   RegisterUnitsBindings();
+  RegisterModelBindings();
 }

@@ -22,4 +22,5 @@ void RegisterDialogBinding(DialogBinding binding);
 // Each family adds its bindings; called once at start-up.
 void RegisterFrameBindings();
 void RegisterUnitsBindings();
+void RegisterModelBindings();
 void RegisterAllBindings();
