@@ -22,5 +22,6 @@ inline constexpr int kUsage = 2;
 
 int UnitsCommand(const Args& args, std::ostream& out, std::ostream& err);
 int CombosCommand(const Args& args, std::ostream& out, std::ostream& err);
+int GridCommand(const Args& args, std::ostream& out, std::ostream& err);
 
 }  // namespace cli

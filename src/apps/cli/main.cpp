@@ -17,6 +17,11 @@ const cli::Command kCommands[] = {
      "  combos generate MODEL CODE [--rows all|1,3,5-8] [--pdelta] [-o OUT]\n"
      "                                  add the code's standard combinations to the model",
      cli::CombosCommand},
+    {"grid",
+     "grid export MODEL TABLE OUT [--append]\n"
+     "                                  save a table of the model (nodes) as .htm, .txt, .xls or .xlsx;\n"
+     "                                  --append adds to an existing .htm or .txt file",
+     cli::GridCommand},
 };
 
 void PrintUsage(std::ostream& out) {
