@@ -22,6 +22,15 @@ const cli::Command kCommands[] = {
      "                                  save a table of the model (nodes) as .htm, .txt, .xls or .xlsx;\n"
      "                                  --append adds to an existing .htm or .txt file",
      cli::GridCommand},
+    {"kfactor",
+     "kfactor GA GB                   effective length factor K of a braced and an unbraced column",
+     cli::KFactorCommand},
+    {"cylinder",
+     "cylinder [--radial LIST] [--angles LIST] [--axial LIST] [--insert X,Y,Z] [--axis X|Y|Z]\n"
+     "           [--rotate DEG] [--supports none|pinned|fixed] [--no-members] [--first-node ID]\n"
+     "           [--first-member ID] [--output FILE]\n"
+     "                                  nodes, members and supports of a cylindrical frame",
+     cli::CylinderCommand},
 };
 
 void PrintUsage(std::ostream& out) {
