@@ -25,5 +25,7 @@ int CombosCommand(const Args& args, std::ostream& out, std::ostream& err);
 int GridCommand(const Args& args, std::ostream& out, std::ostream& err);
 int KFactorCommand(const Args& args, std::ostream& out, std::ostream& err);
 int CylinderCommand(const Args& args, std::ostream& out, std::ostream& err);
+int SectionCommand(const Args& args, std::ostream& out, std::ostream& err);
+int ShapesCommand(const Args& args, std::ostream& out, std::ostream& err);
 
 }  // namespace cli

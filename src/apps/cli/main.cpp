@@ -31,6 +31,17 @@ const cli::Command kCommands[] = {
      "           [--first-member ID] [--output FILE]\n"
      "                                  nodes, members and supports of a cylindrical frame",
      cli::CylinderCommand},
+    {"section",
+     "section rect|round|wideflange|tee D1 [D2 D3 D4]\n"
+     "                                  properties of a regular section",
+     cli::SectionCommand},
+    {"shapes",
+     "shapes list [TYPE]              labels of the steel shape library\n"
+     "  shapes show LABEL               one shape's table properties\n"
+     "  shapes import FILE | export FILE\n"
+     "                                  replace the library from, or write it to, a csv file\n"
+     "  shapes bundle DATA_DIR          build the bundled library files from their source",
+     cli::ShapesCommand},
 };
 
 void PrintUsage(std::ostream& out) {
