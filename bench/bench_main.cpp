@@ -1,4 +1,4 @@
-// The one main of norvane_bench; each bench/<topic>_bench.cpp only registers benchmarks.
 #include <benchmark/benchmark.h>
 
+// The one entry point of norvane_bench; each topic adds its own bench/<topic>_bench.cpp.
 BENCHMARK_MAIN();

@@ -2,7 +2,7 @@
 
 namespace res {
 
-// One table per dialog family; add a family's table here.
+// One table per dialog family; add a family's table here, one a line.
 extern const ResourceTable kFrameResources;
 extern const ResourceTable kUnitsResources;
 extern const ResourceTable kGridResources;
@@ -12,7 +12,10 @@ extern const ResourceTable kGeometryResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {
-      &kFrameResources, &kUnitsResources, &kGridResources, &kModelResources,
+      &kFrameResources,
+      &kUnitsResources,
+      &kGridResources,
+      &kModelResources,
       &kDesignResources,
       &kGeometryResources,
   };
