@@ -7,10 +7,11 @@ extern const ResourceTable kFrameResources;
 extern const ResourceTable kUnitsResources;
 extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
+extern const ResourceTable kLoadsResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {&kFrameResources, &kUnitsResources, &kGridResources,
-                                                   &kModelResources};
+                                                   &kModelResources, &kLoadsResources};
   return tables;
 }
 

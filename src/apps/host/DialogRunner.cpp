@@ -35,11 +35,13 @@ int RunBoundDialog(const std::string& className, HostModel& model, QWidget* pare
     return IDOK;
   }
   const int result = dlg->DoModal();
+  const DialogBinding* binding = FindDialogBinding(className);
   if (result == IDOK) {
-    const DialogBinding* binding = FindDialogBinding(className);
     // A dialog without a take-back (an about box) leaves the model as it was.
     const bool changed = binding && binding->takeBack && binding->takeBack(*dlg, model);
     if (changed) model.modified = true;
+  } else if (binding && binding->afterCancel && binding->afterCancel(*dlg, model)) {
+    model.modified = true;
   }
   return result;
 }
