@@ -9,6 +9,8 @@ void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
 void RegisterModelDialogs();
 void RegisterLoadsDialogs();
+void RegisterConcreteDesignDialogs();
+void RegisterGeometryDialogs();
 
 namespace {
 int g_users = 0;
@@ -22,6 +24,8 @@ bool NorvaneDlgsStartup() {
   RegisterUnitsDialogs();
   RegisterModelDialogs();
   RegisterLoadsDialogs();
+  RegisterConcreteDesignDialogs();
+  RegisterGeometryDialogs();
   return true;
 }
 

@@ -32,4 +32,6 @@ void RegisterAllBindings() {
   RegisterUnitsBindings();
   RegisterModelBindings();
   RegisterLoadsBindings();
+  RegisterConcreteDesignBindings();
+  RegisterGeometryBindings();
 }

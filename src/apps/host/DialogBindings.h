@@ -26,4 +26,6 @@ void RegisterFrameBindings();
 void RegisterUnitsBindings();
 void RegisterModelBindings();
 void RegisterLoadsBindings();
+void RegisterConcreteDesignBindings();
+void RegisterGeometryBindings();
 void RegisterAllBindings();
