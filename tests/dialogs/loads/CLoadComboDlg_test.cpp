@@ -7,7 +7,6 @@
 #include <QTreeWidget>
 #include <functional>
 
-#include "apps/host/DialogBindings.h"
 #include "dialogs/loads/CLoadComboDlg.h"
 #include "dialogs/loads/CLoadComboItemDlg.h"
 #include "dialogs/loads/CStdLoadCombinationDlg.h"
@@ -262,22 +261,4 @@ TEST_F(ComboDialogTest, GenerateStandardAppendsRefusesASecondRunAndAllowsTheOthe
   EXPECT_TRUE(Messages().empty());
   EXPECT_EQ(combs.size(), 4u);
   EXPECT_EQ(SelectedRow(), 3);
-}
-
-TEST_F(ComboDialogTest, HostKeepsWhatTheListDidEvenAfterCancel) {
-  RegisterAllBindings();
-  HostModel host;
-  host.doc.loadCases = cases;
-  host.doc.loadCombs = {Comb("Default")};
-  const DialogBinding* binding = FindDialogBinding("CLoadComboDlg");
-  ASSERT_TRUE(binding && binding->prepare && binding->afterCancel);
-  CLoadComboDlg list;
-  binding->prepare(list, host);
-  list.InitDialogForTest();
-  EXPECT_FALSE(binding->afterCancel(list, host));
-  list.PressButton(kCtlComboUnitCases);
-  list.PressButton(IDCANCEL);
-  EXPECT_EQ(list.ModalResult(), IDCANCEL);
-  EXPECT_EQ(host.doc.loadCombs.size(), 4u);
-  EXPECT_TRUE(binding->afterCancel(list, host));
 }
