@@ -7,6 +7,7 @@ extern const ResourceTable kFrameResources;
 extern const ResourceTable kUnitsResources;
 extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
+extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
 extern const ResourceTable kSectionsResources;
@@ -20,6 +21,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kDesignResources,
       &kGeometryResources,
       &kSectionsResources,
+      &kLoadsResources,
   };
   return tables;
 }
