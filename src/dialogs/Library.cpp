@@ -8,6 +8,7 @@
 void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
 void RegisterModelDialogs();
+void RegisterGridDialogs();
 
 namespace {
 int g_users = 0;
@@ -20,6 +21,7 @@ bool NorvaneDlgsStartup() {
   RegisterFrameDialogs();
   RegisterUnitsDialogs();
   RegisterModelDialogs();
+  RegisterGridDialogs();
   return true;
 }
 

@@ -31,4 +31,5 @@ void RegisterAllBindings() {
   RegisterFrameBindings();
   RegisterUnitsBindings();
   RegisterModelBindings();
+  RegisterGridBindings();
 }

@@ -23,4 +23,5 @@ void RegisterDialogBinding(DialogBinding binding);
 void RegisterFrameBindings();
 void RegisterUnitsBindings();
 void RegisterModelBindings();
+void RegisterGridBindings();
 void RegisterAllBindings();

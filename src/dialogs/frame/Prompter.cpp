@@ -1,6 +1,9 @@
 #include "dialogs/frame/Prompter.h"
 
+#include <QColorDialog>
 #include <QFileDialog>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QCursor>
 #include <QMenu>
 #include <QMessageBox>
@@ -95,6 +98,18 @@ int WidgetPrompter::ChooseFromMenu(QWidget* parent, const std::vector<std::strin
   return chosen ? static_cast<int>(menu.actions().indexOf(chosen)) : -1;
 }
 
+std::optional<uint32_t> WidgetPrompter::ChooseColor(QWidget* parent, const std::string& title, uint32_t initial) {
+  const QColor chosen = QColorDialog::getColor(QColor::fromRgb(initial), parent, QString::fromStdString(title),
+                                               QColorDialog::DontUseNativeDialog);
+  if (!chosen.isValid()) return std::nullopt;
+  return chosen.rgb() & 0xFFFFFFu;
+}
+
+bool WidgetPrompter::PrintSetup(QWidget* parent, QPrinter& printer) {
+  QPrintDialog dialog(&printer, parent);
+  return dialog.exec() == QDialog::Accepted;
+}
+
 std::string ScriptedPrompter::NextAnswer(const std::string& what) {
   if (answers_.empty()) {
     if (onUnexpected) onUnexpected(what);
@@ -148,6 +163,29 @@ int ScriptedPrompter::ChooseFromMenu(QWidget*, const std::vector<std::string>& e
   if (onPrompt) onPrompt(prompts_.back());
   const std::string a = NextAnswer("menu: " + text);
   return a.empty() ? -1 : std::atoi(a.c_str());
+}
+
+void ScriptedPrompter::QueueColor(uint32_t rgb) {
+  answers_.push_back(QColor::fromRgb(rgb & 0xFFFFFFu).name().toStdString());
+}
+
+std::optional<uint32_t> ScriptedPrompter::ChooseColor(QWidget*, const std::string& title, uint32_t) {
+  prompts_.push_back({PromptKind::Color, title, MessageIcon::Information, {}});
+  if (onPrompt) onPrompt(prompts_.back());
+  const QColor chosen(QString::fromStdString(NextAnswer("color: " + title)));
+  if (!chosen.isValid()) return std::nullopt;
+  return chosen.rgb() & 0xFFFFFFu;
+}
+
+bool ScriptedPrompter::PrintSetup(QWidget*, QPrinter& printer) {
+  const std::string job = printer.docName().toStdString();
+  prompts_.push_back({PromptKind::Print, job, MessageIcon::Information, {}});
+  if (onPrompt) onPrompt(prompts_.back());
+  const std::string path = NextAnswer("print: " + job);
+  if (path.empty() || path == "cancel") return false;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QString::fromStdString(path));
+  return true;
 }
 
 std::vector<std::string> ScriptedPrompter::Texts() const {
