@@ -8,6 +8,8 @@
 void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
 void RegisterModelDialogs();
+void RegisterConcreteDesignDialogs();
+void RegisterGeometryDialogs();
 void RegisterGridDialogs();
 
 namespace {
@@ -21,6 +23,8 @@ bool NorvaneDlgsStartup() {
   RegisterFrameDialogs();
   RegisterUnitsDialogs();
   RegisterModelDialogs();
+  RegisterConcreteDesignDialogs();
+  RegisterGeometryDialogs();
   RegisterGridDialogs();
   return true;
 }

@@ -11,7 +11,7 @@ int32_t ReadId(const JsonReader& item, size_t index) {
 }
 
 std::string ReadLabel(const JsonReader& item) {
-  return std::string(tools::CutToCharacters(item.String("label"), kRecordLabelChars));
+  return tools::CutLabel(item.String("label"), kRecordLabelChars);
 }
 
 // The size of one psi in the document's modulus unit.

@@ -28,6 +28,6 @@ struct fmMat {
   explicit fmMat(int32_t id_) : id(id_) {}
   static const char* name() { return "fmMat"; }
 
-  void SetLabel(std::string_view text) { label = std::string(tools::CutToCharacters(text, kRecordLabelChars)); }
+  void SetLabel(std::string_view text) { label = tools::CutLabel(text, kRecordLabelChars); }
   bool operator==(const fmMat&) const = default;
 };

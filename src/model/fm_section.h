@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "tools/parse.h"
-#include "tools/utf8.h"
+#include "tools/labels.h"
 
 // Labels of model records hold at most this many characters.
 inline constexpr size_t kRecordLabelChars = 127;
@@ -34,7 +34,7 @@ struct fmSect {
   explicit fmSect(int32_t id_) : id(id_) {}
   static const char* name() { return "fmSect"; }
 
-  void SetLabel(std::string_view text) { label = std::string(tools::CutToCharacters(text, kRecordLabelChars)); }
+  void SetLabel(std::string_view text) { label = tools::CutLabel(text, kRecordLabelChars); }
   bool IsRigidLink() const { return IsRigidLinkLabel(label); }
   bool operator==(const fmSect&) const = default;
 };
@@ -49,6 +49,6 @@ struct fmThick {
   explicit fmThick(int32_t id_) : id(id_) {}
   static const char* name() { return "fmThick"; }
 
-  void SetLabel(std::string_view text) { label = std::string(tools::CutToCharacters(text, kRecordLabelChars)); }
+  void SetLabel(std::string_view text) { label = tools::CutLabel(text, kRecordLabelChars); }
   bool operator==(const fmThick&) const = default;
 };

@@ -8,12 +8,21 @@ namespace tools {
 // A file operation that failed; the text names the file and the reason.
 class FileError : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  explicit FileError(const std::string& message, std::string reason = {})
+      : std::runtime_error(message), reason_(std::move(reason)) {}
+  // What went wrong without the file's name ("No such file or directory").
+  const std::string& reason() const { return reason_; }
+
+ private:
+  std::string reason_;
 };
 
 // Writes beside the target and renames into place, so a failure never leaves a partial
 // or truncated file where the old one stood.
 void WriteFileAtomically(const std::string& path, std::string_view contents);
+// Creates an empty file beside `path` for a writer that writes its file itself and renames
+// it into place afterwards; returns its name. Fails as WriteFileAtomically does.
+std::string CreateFileBeside(const std::string& path);
 // Appends, creating the file when missing; never truncates what is there.
 void AppendToFile(const std::string& path, std::string_view contents);
 // Reads a whole file; refuses files larger than maxBytes.

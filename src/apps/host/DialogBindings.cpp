@@ -31,5 +31,7 @@ void RegisterAllBindings() {
   RegisterFrameBindings();
   RegisterUnitsBindings();
   RegisterModelBindings();
+  RegisterConcreteDesignBindings();
+  RegisterGeometryBindings();
   RegisterGridBindings();
 }

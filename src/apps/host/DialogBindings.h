@@ -23,5 +23,7 @@ void RegisterDialogBinding(DialogBinding binding);
 void RegisterFrameBindings();
 void RegisterUnitsBindings();
 void RegisterModelBindings();
+void RegisterConcreteDesignBindings();
+void RegisterGeometryBindings();
 void RegisterGridBindings();
 void RegisterAllBindings();

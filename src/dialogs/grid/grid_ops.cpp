@@ -4,7 +4,7 @@
 #include <unordered_map>
 
 #include "tools/format.h"
-#include "tools/text_case.h"
+#include "tools/labels.h"
 #include "tools/parse.h"
 
 namespace grid {

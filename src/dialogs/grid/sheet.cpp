@@ -1,7 +1,7 @@
 #include "dialogs/grid/sheet.h"
 
 #include "tools/parse.h"
-#include "tools/utf8.h"
+#include "tools/labels.h"
 
 namespace grid {
 namespace {
@@ -36,9 +36,12 @@ const std::string& Sheet::GetData(int col, int row) const {
 void Sheet::SetData(int col, int row, std::string_view text) {
   if (!InGrid(col, row)) return;
   const CellType& type = GetCellType(col, row);
-  if (row > 0 && type.kind == CellType::Edit && type.maxLength > 0)
-    text = tools::CutToCharacters(text, static_cast<size_t>(type.maxLength));
-  columns_[col].cells[row].assign(text);
+  const bool mayBeTooLong = row > 0 && type.kind == CellType::Edit && type.maxLength > 0 &&
+                            text.size() > static_cast<size_t>(type.maxLength);
+  if (mayBeTooLong)
+    columns_[col].cells[row] = tools::CutLabel(text, static_cast<size_t>(type.maxLength));
+  else
+    columns_[col].cells[row].assign(text);
 }
 
 std::optional<int64_t> Sheet::GetInt(int col, int row) const { return tools::ParseInt(GetData(col, row)); }
