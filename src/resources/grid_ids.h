@@ -22,6 +22,12 @@ inline constexpr int kStrFillSeries = 22001;
 // Export and print of any grid.
 inline constexpr int kStrExportTitle = 22002;
 inline constexpr int kStrPrintQuestion = 22003;
+inline constexpr int kStrPrintPage = 22004;
+inline constexpr int kStrPrintFailed = 22005;
+inline constexpr int kStrExportFilterHtml = 22006;
+inline constexpr int kStrExportFilterText = 22007;
+inline constexpr int kStrExportFilterXls = 22008;
+inline constexpr int kStrExportFilterXlsx = 22009;
 
 // CDataSettingsDlg ("Spreadsheet settings").
 inline constexpr int kIddDataSettings = 22100;

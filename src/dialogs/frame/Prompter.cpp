@@ -110,6 +110,11 @@ bool WidgetPrompter::PrintSetup(QWidget* parent, QPrinter& printer) {
   return dialog.exec() == QDialog::Accepted;
 }
 
+namespace {
+// QueueCancel answers a file dialog as its Cancel button does: with no path.
+std::string PathAnswer(std::string answer) { return answer == "cancel" ? std::string() : answer; }
+}  // namespace
+
 std::string ScriptedPrompter::NextAnswer(const std::string& what) {
   if (answers_.empty()) {
     if (onUnexpected) onUnexpected(what);
@@ -141,19 +146,19 @@ Answer ScriptedPrompter::QuestionWithCancel(QWidget*, const std::string& text) {
 std::string ScriptedPrompter::SaveFileName(QWidget*, const FileDialogRequest& request) {
   prompts_.push_back({PromptKind::SaveFile, request.title, MessageIcon::Warning, request});
   if (onPrompt) onPrompt(prompts_.back());
-  return NextAnswer("save file: " + request.title);
+  return PathAnswer(NextAnswer("save file: " + request.title));
 }
 
 std::string ScriptedPrompter::OpenFileName(QWidget*, const FileDialogRequest& request) {
   prompts_.push_back({PromptKind::OpenFile, request.title, MessageIcon::Warning, request});
   if (onPrompt) onPrompt(prompts_.back());
-  return NextAnswer("open file: " + request.title);
+  return PathAnswer(NextAnswer("open file: " + request.title));
 }
 
 std::string ScriptedPrompter::FolderName(QWidget*, const std::string& title, const std::string&) {
   prompts_.push_back({PromptKind::Folder, title, MessageIcon::Warning, {}});
   if (onPrompt) onPrompt(prompts_.back());
-  return NextAnswer("folder: " + title);
+  return PathAnswer(NextAnswer("folder: " + title));
 }
 
 int ScriptedPrompter::ChooseFromMenu(QWidget*, const std::vector<std::string>& entries) {
