@@ -59,12 +59,22 @@ double CurrentRssMB() {
   return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / (1024.0 * 1024.0);
 }
 
-std::string ScratchFile(const std::string& name) {
-  static const std::string folder = [] {
+// A folder for the exported files, removed when the program ends.
+struct ScratchFolder {
+  std::string path;
+  ScratchFolder() {
     std::string pattern = (std::filesystem::temp_directory_path() / "norvane-bench-XXXXXX").string();
-    return ::mkdtemp(pattern.data()) ? pattern : std::string("/tmp");
-  }();
-  return folder + "/" + name;
+    if (::mkdtemp(pattern.data())) path = pattern;
+  }
+  ~ScratchFolder() {
+    std::error_code ec;
+    if (!path.empty()) std::filesystem::remove_all(path, ec);
+  }
+};
+
+std::string ScratchFile(const std::string& name) {
+  static const ScratchFolder folder;
+  return (folder.path.empty() ? std::string("/tmp") : folder.path) + "/" + name;
 }
 
 // Memory first, before the exports' buffers raise the process's peak. Run alone for the
