@@ -12,6 +12,7 @@ void RegisterLoadsDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
 void RegisterSectionsDialogs();
+void RegisterGridDialogs();
 
 namespace {
 int g_users = 0;
@@ -28,6 +29,7 @@ bool NorvaneDlgsStartup() {
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
   RegisterSectionsDialogs();
+  RegisterGridDialogs();
   return true;
 }
 

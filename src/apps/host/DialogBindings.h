@@ -29,4 +29,5 @@ void RegisterLoadsBindings();
 void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
 void RegisterSectionsBindings();
+void RegisterGridBindings();
 void RegisterAllBindings();

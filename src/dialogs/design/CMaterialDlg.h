@@ -24,6 +24,7 @@ class CMaterialDlg : public CPropertyGridDlg {
   std::map<int, fmMat> m_mapStdMaterials;
 
   void FillOneRow(const fmMat& material, int row);
+  std::string PrintTitle() const override { return "Material Table"; }
   // A modulus in psi in the document's stress unit.
   double ConvertModulusFromPsiDocumentUnit(double psi) const;
 

@@ -12,6 +12,9 @@ class CMaterialStrengthDlg : public CPropertyGridDlg {
   std::vector<fmMat>* m_pMaterials = nullptr;
 
   void FillOneRow(const fmMat& material, int row);
+  std::string PrintTitle() const override {
+    return kind_ == matgrid::kConcrete ? "Concrete Material Strength Table" : "Steel Material Strength Table";
+  }
 
  protected:
   CMaterialStrengthDlg(int templateId, matgrid::StrengthKind kind, QWidget* pParent)

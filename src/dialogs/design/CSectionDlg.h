@@ -18,6 +18,7 @@ class CSectionDlg : public CPropertyGridDlg {
   BOOL m_bAiscTableImported = 0;  // set when an import replaced the shape library
 
   void FillOneRow(const fmSect& section, int row);
+  std::string PrintTitle() const override { return "Section Table"; }
 
  protected:
   BOOL OnInitDialog() override;

@@ -10,6 +10,7 @@ class CThickDlg : public CPropertyGridDlg {
   explicit CThickDlg(QWidget* pParent = nullptr);
 
   std::vector<fmThick>* m_pThicknesses = nullptr;
+  std::string PrintTitle() const override { return "Shell Thickness Table"; }
 
  protected:
   void Refresh() override;
