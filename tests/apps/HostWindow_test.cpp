@@ -223,5 +223,8 @@ TEST(HostProgram, ShowRendersADialogAndRefusesWhatItCannot) {
     EXPECT_EQ(r.status, c.status) << c.args[0];
     EXPECT_NE(r.err.find(c.message), std::string::npos) << r.err;
   }
+  r = testsupport::RunProgram(NORVANE_HOST_PATH, {"--list"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_NE(r.out.find("Units\tCUnitConversionDlg\n"), std::string::npos) << r.out;
   fs::remove_all(dir);
 }

@@ -8,6 +8,7 @@
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostWindow.h"
 #include "dialogs/Library.h"
+#include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
 
 namespace {
@@ -15,10 +16,11 @@ namespace {
 const char* kUsage =
     "usage: norvane-host [MODEL] [--screenshot FILE]\n"
     "       norvane-host --show CLASS [--model FILE] [--screenshot FILE]\n"
+    "       norvane-host --list\n"
     "\n"
     "Without --show the main window opens on MODEL (the bundled example by default).\n"
     "--show runs one dialog on the model; with --screenshot it renders the dialog to a PNG\n"
-    "after its set-up and exits.\n";
+    "after its set-up and exits. --list prints the dialog classes by family.\n";
 
 struct Options {
   std::string model;
@@ -43,6 +45,11 @@ bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string&
       if (!value(o.model)) return false;
     } else if (a == "--screenshot") {
       if (!value(o.screenshot)) return false;
+    } else if (a == "--list") {
+      if (args.size() != 1) {
+        error = "--list takes no other option";
+        return false;
+      }
     } else if (!a.empty() && a[0] == '-') {
       error = "unknown option " + a;
       return false;
@@ -80,6 +87,10 @@ int main(int argc, char** argv) {
 
   NorvaneDlgsLibrary library;
   RegisterAllBindings();
+  if (args.size() == 1 && args[0] == "--list") {
+    for (const DialogClassInfo& info : RegisteredDialogClasses()) std::cout << info.family << "\t" << info.className << "\n";
+    return 0;
+  }
 
   HostWindow window;
   const std::string modelPath = options.model.empty() ? ExampleModel() : options.model;
