@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QImage>
 #include <QMenuBar>
+#include <QSettings>
 
 #include <cerrno>
 #include <cstdlib>
@@ -114,6 +115,32 @@ TEST_F(HostWindowTest, OkMarksTheModelModifiedAndCancelDoesNot) {
   EXPECT_EQ(window.model().doc.units.Label(fmUnit::Length), "m");
   EXPECT_DOUBLE_EQ(window.model().doc.nodes[1].x, 20 * 0.3048);
   EXPECT_TRUE(window.windowTitle().startsWith("building.json*")) << window.windowTitle().toStdString();
+}
+
+TEST_F(HostWindowTest, SavedDefaultUnitsStartANewModel) {
+  EXPECT_TRUE(window.NewModel());
+  EXPECT_EQ(window.model().doc.units, fmUnit()) << "English until defaults are saved";
+  EXPECT_TRUE(window.model().path.empty());
+
+  auto dlg = CreateBoundDialog("CUnitsDlg", window.model(), &window);
+  dlg->InitDialogForTest();
+  ASSERT_TRUE(dlg->PressButton(res::kCtlUnitsDefaultMetric));
+  dlg->Item<QAbstractButton>(res::kCtlUnitsSaveDefaults)->setChecked(true);
+  ASSERT_TRUE(dlg->PressButton(IDOK));
+  TakeBackDialogResult("CUnitsDlg", *dlg, dlg->ModalResult(), window.model());
+  prompter.QueueAnswer(false);  // discard the untitled model
+  EXPECT_TRUE(window.NewModel());
+  fmUnit metric;
+  metric.SetMetric();
+  EXPECT_EQ(window.model().doc.units, metric);
+  EXPECT_FALSE(window.model().modified);
+
+  {
+    QSettings settings;  // settings spoiled by hand fall back to English
+    settings.setValue("Units/Unit", "1,2,3");
+  }
+  EXPECT_TRUE(window.NewModel());
+  EXPECT_EQ(window.model().doc.units.unit, fmUnit().unit);
 }
 
 TEST_F(HostWindowTest, DialogsWithoutModelDataLeaveItUnmodified) {
