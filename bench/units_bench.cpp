@@ -55,4 +55,3 @@ BENCHMARK(BM_ParseModelDocument)->Arg(100000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-BENCHMARK_MAIN();

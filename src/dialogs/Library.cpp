@@ -7,6 +7,9 @@
 // Each family registers its dialog classes; add a family's function here.
 void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
+void RegisterModelDialogs();
+void RegisterConcreteDesignDialogs();
+void RegisterGeometryDialogs();
 
 namespace {
 int g_users = 0;
@@ -18,6 +21,9 @@ bool NorvaneDlgsStartup() {
   tools::UnitFactors();  // build the unit tables now rather than inside the first dialog
   RegisterFrameDialogs();
   RegisterUnitsDialogs();
+  RegisterModelDialogs();
+  RegisterConcreteDesignDialogs();
+  RegisterGeometryDialogs();
   return true;
 }
 

@@ -1,5 +1,7 @@
 #include "model/convert_units.h"
 
+#include "model/document_sections.h"
+
 namespace model {
 
 void ChangeDocumentUnits(ModelDocument& doc, const fmUnit& to) {
@@ -14,6 +16,10 @@ void ChangeDocumentUnits(ModelDocument& doc, const fmUnit& to) {
       nd.y *= length;
       nd.z *= length;
     }
+
+  double effective[fmUnit::QuantityCount];
+  for (int q = 0; q < fmUnit::QuantityCount; ++q) effective[q] = factor(static_cast<fmUnit::Quantity>(q));
+  ConvertPropertyUnits(doc, effective);
 
   doc.units = to;
   doc.units.convert.fill(0);  // the flags ask for one conversion; they are not a setting

@@ -79,6 +79,10 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
     doc.title = r.String("title", "");
     ReadUnits(r, doc);
     ReadNodes(r, doc);
+    ReadLoads(r, doc);
+    ReadMaterials(r, doc);
+    ReadSections(r, doc);
+    ReadThicknesses(r, doc);
   } catch (const DocumentError& e) {
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
   }
@@ -103,6 +107,10 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   root["title"] = doc.title;
   WriteUnits(doc, root);
   WriteNodes(doc, root);
+  WriteLoads(doc, root);
+  WriteMaterials(doc, root);
+  WriteSections(doc, root);
+  WriteThicknesses(doc, root);
   return root.dump(1, '\t') + "\n";
 }
 

@@ -5,7 +5,10 @@
 #include <vector>
 
 #include "model/display_settings.h"
+#include "model/fm_load.h"
+#include "model/fm_material.h"
 #include "model/fm_node.h"
+#include "model/fm_section.h"
 #include "tools/fm_unit.h"
 
 namespace model {
@@ -16,6 +19,11 @@ struct ModelDocument {
   fmUnit units;
   DisplaySettings display;
   std::vector<fmNd> nodes;
+  std::vector<fmLoadCase> loadCases;
+  std::vector<fmLoadComb> loadCombs;
+  std::vector<fmMat> materials;
+  std::vector<fmSect> sections;
+  std::vector<fmThick> thicknesses;
 };
 
 // The schema version written; older versions stay readable.

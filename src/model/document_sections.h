@@ -11,5 +11,15 @@ void ReadUnits(const JsonReader& root, ModelDocument& doc);
 void WriteUnits(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadNodes(const JsonReader& root, ModelDocument& doc);
 void WriteNodes(const ModelDocument& doc, nlohmann::ordered_json& root);
+void ReadLoads(const JsonReader& root, ModelDocument& doc);
+void WriteLoads(const ModelDocument& doc, nlohmann::ordered_json& root);
+void ReadMaterials(const JsonReader& root, ModelDocument& doc);
+void WriteMaterials(const ModelDocument& doc, nlohmann::ordered_json& root);
+void ReadSections(const JsonReader& root, ModelDocument& doc);
+void WriteSections(const ModelDocument& doc, nlohmann::ordered_json& root);
+void ReadThicknesses(const JsonReader& root, ModelDocument& doc);
+void WriteThicknesses(const ModelDocument& doc, nlohmann::ordered_json& root);
+// Rescales materials, sections and thicknesses; factor[q] is 1 for a quantity not converted.
+void ConvertPropertyUnits(ModelDocument& doc, const double* factor);
 
 }  // namespace model

@@ -30,4 +30,7 @@ void RegisterAllBindings() {
   done = true;
   RegisterFrameBindings();
   RegisterUnitsBindings();
+  RegisterModelBindings();
+  RegisterConcreteDesignBindings();
+  RegisterGeometryBindings();
 }

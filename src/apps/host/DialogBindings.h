@@ -22,4 +22,7 @@ void RegisterDialogBinding(DialogBinding binding);
 // Each family adds its bindings; called once at start-up.
 void RegisterFrameBindings();
 void RegisterUnitsBindings();
+void RegisterModelBindings();
+void RegisterConcreteDesignBindings();
+void RegisterGeometryBindings();
 void RegisterAllBindings();

@@ -101,7 +101,9 @@ void HostWindow::RefreshView() {
     for (int c = 0; c < 4; ++c) item->setTextAlignment(c, Qt::AlignRight | Qt::AlignVCenter);
     nodes_->addTopLevelItem(item);
   }
-  statusBar()->showMessage(model_.modified ? "Modified" : "Saved");
+  QString status = model_.modified ? "Modified" : "Saved";
+  if (!model_.status.empty()) status += " - " + QString::fromStdString(model_.status);
+  statusBar()->showMessage(status);
 }
 
 bool HostWindow::NewModel() {
@@ -161,6 +163,7 @@ bool HostWindow::SaveModelAs() {
 }
 
 int HostWindow::RunDialog(const std::string& className) {
+  model_.status.clear();
   const int result = RunBoundDialog(className, model_, this);
   RefreshView();
   return result;

@@ -1,7 +1,11 @@
 #include "dialogs/frame/Prompter.h"
 
 #include <QFileDialog>
+#include <QCursor>
+#include <QMenu>
 #include <QMessageBox>
+
+#include <cstdlib>
 
 #include "tools/release.h"
 
@@ -84,6 +88,13 @@ std::string WidgetPrompter::FolderName(QWidget* parent, const std::string& title
       .toStdString();
 }
 
+int WidgetPrompter::ChooseFromMenu(QWidget* parent, const std::vector<std::string>& entries) {
+  QMenu menu(parent);
+  for (const auto& e : entries) menu.addAction(QString::fromStdString(e));
+  QAction* chosen = menu.exec(QCursor::pos());
+  return chosen ? static_cast<int>(menu.actions().indexOf(chosen)) : -1;
+}
+
 std::string ScriptedPrompter::NextAnswer(const std::string& what) {
   if (answers_.empty()) {
     if (onUnexpected) onUnexpected(what);
@@ -128,6 +139,15 @@ std::string ScriptedPrompter::FolderName(QWidget*, const std::string& title, con
   prompts_.push_back({PromptKind::Folder, title, MessageIcon::Warning, {}});
   if (onPrompt) onPrompt(prompts_.back());
   return NextAnswer("folder: " + title);
+}
+
+int ScriptedPrompter::ChooseFromMenu(QWidget*, const std::vector<std::string>& entries) {
+  std::string text;
+  for (const auto& e : entries) text += (text.empty() ? "" : "\n") + e;
+  prompts_.push_back({PromptKind::Menu, text, MessageIcon::Information, {}});
+  if (onPrompt) onPrompt(prompts_.back());
+  const std::string a = NextAnswer("menu: " + text);
+  return a.empty() ? -1 : std::atoi(a.c_str());
 }
 
 std::vector<std::string> ScriptedPrompter::Texts() const {

@@ -30,6 +30,8 @@ class Prompter {
   virtual std::string SaveFileName(QWidget* parent, const FileDialogRequest& request) = 0;
   virtual std::string OpenFileName(QWidget* parent, const FileDialogRequest& request) = 0;
   virtual std::string FolderName(QWidget* parent, const std::string& title, const std::string& start) = 0;
+  // A context menu at the mouse; the chosen entry's position, or -1 when dismissed.
+  virtual int ChooseFromMenu(QWidget* parent, const std::vector<std::string>& entries) = 0;
 };
 
 // Message boxes and Qt's own (non-native) file dialogs.
@@ -41,6 +43,7 @@ class WidgetPrompter : public Prompter {
   std::string SaveFileName(QWidget* parent, const FileDialogRequest& request) override;
   std::string OpenFileName(QWidget* parent, const FileDialogRequest& request) override;
   std::string FolderName(QWidget* parent, const std::string& title, const std::string& start) override;
+  int ChooseFromMenu(QWidget* parent, const std::vector<std::string>& entries) override;
 };
 
 // Records every prompt and answers from a queue. With no queued answer a question is
@@ -48,7 +51,7 @@ class WidgetPrompter : public Prompter {
 // is told, so a test fails on a prompt it did not script.
 class ScriptedPrompter : public Prompter {
  public:
-  enum class PromptKind { Message, Question, SaveFile, OpenFile, Folder };
+  enum class PromptKind { Message, Question, SaveFile, OpenFile, Folder, Menu };
   struct Prompt {
     PromptKind kind;
     std::string text;  // message or question text, or the file dialog's title
@@ -58,6 +61,7 @@ class ScriptedPrompter : public Prompter {
 
   void QueueAnswer(bool yes) { answers_.push_back(yes ? "yes" : "no"); }
   void QueueCancel() { answers_.push_back("cancel"); }
+  void QueueMenuChoice(int index) { answers_.push_back(std::to_string(index)); }
   void QueuePath(const std::string& path) { answers_.push_back(path); }
 
   void Message(QWidget* parent, const std::string& text, MessageIcon icon) override;
@@ -66,6 +70,8 @@ class ScriptedPrompter : public Prompter {
   std::string SaveFileName(QWidget* parent, const FileDialogRequest& request) override;
   std::string OpenFileName(QWidget* parent, const FileDialogRequest& request) override;
   std::string FolderName(QWidget* parent, const std::string& title, const std::string& start) override;
+  // The prompt's text lists the entries, one a line.
+  int ChooseFromMenu(QWidget* parent, const std::vector<std::string>& entries) override;
 
   const std::vector<Prompt>& prompts() const { return prompts_; }
   // The texts of all messages and questions, in order.

@@ -1,0 +1,40 @@
+#pragma once
+#include <cstdint>
+#include <string>
+
+#include "dialogs/frame/CDialog.h"
+#include "dialogs/grid/TSpread.h"
+#include "tools/fm_unit.h"
+
+// What every table dialog (nodes, members, load cases ...) shares: the grid created in place
+// of its placeholder, "New Rows" with its count (1 to 100000), the locked and selected-only
+// handling, and OK's pattern of saving from the grid and ending only when the save succeeds.
+class CDataGridDlg : public CDialog {
+ public:
+  fmUnit* m_pUnits = nullptr;
+  BOOL m_bShowSelectedOnly = 0;
+  BOOL m_bModelLocked = 0;
+  uint32_t m_nNewRows = 1;
+  uint32_t m_crAlternateRowColor = 0xF0F5FF;  // 0xRRGGBB, the host's "Spreadsheet Alternate BackColor"
+
+  TSpread& Spread() { return m_Spread; }
+
+ protected:
+  CDataGridDlg(int templateId, QWidget* pParent);
+
+  // Order: captions, the grid in place, Refresh, the locked-model guard.
+  BOOL OnInitDialog() override;
+  void DoDataExchange(CDataExchange* pDX) override;
+  void OnOK() override;
+
+  // Model to grid: set up the grid and fill it.
+  virtual void Refresh() = 0;
+  // Grid to model; shows the first failure and returns false, the model untouched.
+  virtual bool Save() = 0;
+
+  void OnNewRows();
+  virtual void OnGridRClick(int col, int row);
+  bool IsReadOnly() const { return m_bModelLocked || m_bShowSelectedOnly; }
+
+  TSpread m_Spread;
+};

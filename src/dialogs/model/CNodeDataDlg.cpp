@@ -1,0 +1,41 @@
+#include "dialogs/model/CNodeDataDlg.h"
+
+#include "dialogs/model/node_grid.h"
+#include "resources/model_ids.h"
+#include "resources/resources.h"
+#include "tools/format.h"
+
+CNodeDataDlg::CNodeDataDlg(QWidget* pParent) : CDataGridDlg(8007, pParent) {
+  OnCommand(res::kCtlRoundOff, [this] { OnRoundOff(); });
+}
+
+BOOL CNodeDataDlg::OnInitDialog() {
+  CDataGridDlg::OnInitDialog();
+  SetDlgItemText(res::kCtlEpsilon, tools::Format("Epsilon = %g", m_dEpsilon));
+  if (QWidget* button = GetDlgItem(res::kCtlRoundOff)) {
+    button->setToolTip(QString::fromStdString(res::LoadStringOr(res::kStrRoundOffTip, "")));
+    button->setEnabled(!IsReadOnly());
+  }
+  return 1;
+}
+
+void CNodeDataDlg::Refresh() {
+  filled_.clear();
+  for (const fmNd& nd : *m_pNodes)
+    if (!m_bShowSelectedOnly || nd.IsSelected()) filled_.push_back(nd);
+  TSpread::RedrawGuard guard(m_Spread);
+  nodegrid::Fill(m_Spread.sheet(), *m_pNodes, *m_pUnits, m_bShowSelectedOnly, m_crAlternateRowColor, IsReadOnly());
+}
+
+bool CNodeDataDlg::Save() {
+  nodegrid::ReadResult result = nodegrid::Read(m_Spread.sheet(), filled_);
+  if (!m_Spread.ShowFailure(result.failure)) return false;
+  *m_pNodes = std::move(result.nodes);
+  return true;
+}
+
+void CNodeDataDlg::OnRoundOff() {
+  if (IsReadOnly()) return;
+  TSpread::RedrawGuard guard(m_Spread);
+  nodegrid::RoundOffCoordinates(m_Spread.sheet(), m_dEpsilon);
+}

@@ -1,0 +1,11 @@
+#pragma once
+// Ids of the node and element grid dialogs.
+namespace res {
+
+inline constexpr int kCtlRoundOff = 8010;
+inline constexpr int kCtlEpsilon = 1299;
+inline constexpr int kStrNodeDataCaption = 1170;
+inline constexpr int kStrRoundOff = 1557;
+inline constexpr int kStrRoundOffTip = 23000;
+
+}  // namespace res

@@ -1,0 +1,71 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QHeaderView>
+#include <QSettings>
+#include <QTableView>
+#include <QTest>
+
+#include "dialogs/grid/TSpread.h"
+#include "support/DialogTest.h"
+
+namespace {
+
+class SpreadTest : public DialogTest {
+ protected:
+  void SetUp() override {
+    DialogTest::SetUp();
+    spread.InitializeGrid(0xF0F0F0, 3, 3, {"Id", "A", "B"}, {6, 10, 10}, false);
+    spread.sheet().SetColumnLock(1, true);
+    for (int row = 1; row <= 3; ++row) spread.sheet().SetData(1, row, std::to_string(row));
+    spread.Refresh();
+    spread.resize(400, 300);
+    spread.show();
+  }
+  QTableView* view() { return spread.view(); }
+  TSpread spread;
+};
+
+TEST_F(SpreadTest, TypingAndEnterEditsTheCellAndMovesDown) {
+  QApplication::setActiveWindow(&spread);
+  spread.SetActiveCell(2, 1);
+  view()->setFocus();
+  QTest::keyClick(view(), Qt::Key_1);  // typing starts the edit in place
+  QWidget* editor = QApplication::focusWidget();
+  ASSERT_NE(editor, view());
+  QTest::keyClicks(editor, "2.5");
+  QTest::keyClick(editor, Qt::Key_Return);
+  QApplication::processEvents();  // the delegate commits on the next turn of the event loop
+  EXPECT_EQ(spread.GetData(2, 1), "12.5");
+  EXPECT_EQ(spread.GetActiveCell(), (grid::CellRef{2, 2}));
+}
+
+TEST_F(SpreadTest, LockedCellsCannotBeEdited) {
+  spread.SetActiveCell(1, 2);
+  QTest::keyClicks(view(), "99");
+  QTest::keyClick(view(), Qt::Key_Return);
+  EXPECT_EQ(spread.GetData(1, 2), "2");
+}
+
+TEST_F(SpreadTest, CopyAndPasteExchangeTabSeparatedBlocks) {
+  spread.sheet().SetData(2, 1, "a");
+  spread.sheet().SetData(3, 1, "b\tc");
+  spread.SetSelectBlock({2, 1, 3, 1});
+  spread.CopySelection();
+  EXPECT_EQ(QApplication::clipboard()->text().toStdString(), "a\t\"b\tc\"\r\n");
+  QApplication::clipboard()->setText("1\t2\r\n3\t4\r\n");
+  spread.SetActiveCell(2, 2);
+  spread.PasteClipboard();
+  EXPECT_EQ(spread.GetData(2, 2), "1");
+  EXPECT_EQ(spread.GetData(3, 3), "4");
+}
+
+TEST_F(SpreadTest, RowHeadingsFollowThePreference) {
+  QSettings().setValue("Preferences/ShowGridRowHeader", 0);
+  spread.Refresh();
+  EXPECT_TRUE(view()->verticalHeader()->isHidden());
+  QSettings().setValue("Preferences/ShowGridRowHeader", 1);
+  spread.Refresh();
+  EXPECT_FALSE(view()->verticalHeader()->isHidden());
+}
+
+}  // namespace

@@ -1,0 +1,119 @@
+#include <gtest/gtest.h>
+
+#include "model/convert_units.h"
+#include "model/document.h"
+
+namespace {
+
+const char* kHeader = R"({"format": "norvane-model", "schemaVersion": 1)";
+
+model::ModelDocument Parse(const std::string& body) {
+  return model::ParseModelDocument(std::string(kHeader) + body + "}", "test.json");
+}
+
+}  // namespace
+
+TEST(PropertyTables, OldDocumentWithoutTablesLoadsEmpty) {
+  const auto doc = Parse("");
+  EXPECT_TRUE(doc.materials.empty());
+  EXPECT_TRUE(doc.sections.empty());
+  EXPECT_TRUE(doc.thicknesses.empty());
+}
+
+TEST(PropertyTables, RoundTripKeepsEveryField) {
+  model::ModelDocument doc;
+  fmSect s(3);
+  s.SetLabel("W14X90");
+  s.A = 26.5, s.Ay = 6.16, s.Az = 17.16, s.Iz = 999, s.Iy = 362, s.J = 4.06, s.reserved = 7;
+  s.b = 14.5, s.d = 14, s.tf = 0.71, s.tw = 0.44;
+  doc.sections.push_back(s);
+  fmMat m(1);
+  m.label = "Steel";
+  m.E = 29000, m.nu = 0.3, m.density = 0.000283, m.Tc = 6.5e-6, m.fc = 3, m.fy = 50, m.fys = 65;
+  doc.materials.push_back(m);
+  fmThick t(2);
+  t.label = "Slab";
+  t.thickness = 8;
+  doc.thicknesses.push_back(t);
+  const auto back = model::ParseModelDocument(model::SerializeModelDocument(doc), "x");
+  EXPECT_EQ(back.sections, doc.sections);
+  EXPECT_EQ(back.materials, doc.materials);
+  EXPECT_EQ(back.thicknesses, doc.thicknesses);
+}
+
+TEST(PropertyTables, MissingOptionalFieldsTakeTheirDefaults) {
+  // English units: modulus in ksi, so the psi defaults arrive as 3, 60 and 60.
+  const auto doc = Parse(R"(, "materials": [{"label": "M", "E": 1, "nu": 0.2, "density": 0, "Tc": 1e-5}],
+      "sections": [{"label": "S", "A": 1, "Iz": 2, "Iy": 3, "J": 4}])");
+  ASSERT_EQ(doc.materials.size(), 1u);
+  EXPECT_EQ(doc.materials[0].id, 1);
+  EXPECT_DOUBLE_EQ(doc.materials[0].fc, 3.0);
+  EXPECT_DOUBLE_EQ(doc.materials[0].fy, 60.0);
+  EXPECT_DOUBLE_EQ(doc.materials[0].fys, 60.0);
+  ASSERT_EQ(doc.sections.size(), 1u);
+  EXPECT_EQ(doc.sections[0].Ay, 0);
+  EXPECT_EQ(doc.sections[0].tw, 0);
+}
+
+TEST(PropertyTables, FaultsNameTheirPlace) {
+  const struct {
+    const char* body;
+    const char* place;
+  } cases[] = {
+      {R"(, "sections": [{"label": "S", "A": "x", "Iz": 2, "Iy": 3, "J": 4}])", "/sections/0/A"},
+      {R"(, "sections": [{"A": 1, "Iz": 2, "Iy": 3, "J": 4}])", "/sections/0"},
+      {R"(, "thicknesses": [{"label": "T"}])", "/thicknesses/0"},
+      {R"(, "materials": {"label": "M"})", "/materials"},
+  };
+  for (const auto& c : cases) {
+    try {
+      Parse(c.body);
+      ADD_FAILURE() << c.body;
+    } catch (const model::DocumentLoadError& e) {
+      EXPECT_EQ(e.place(), c.place) << c.body;
+    }
+  }
+}
+
+TEST(PropertyTables, LongLabelsAreCutWithoutSplittingACharacter) {
+  std::string label;
+  for (int i = 0; i < 130; ++i) label += "\xC3\xA9";  // é
+  fmSect s;
+  s.SetLabel(label);
+  EXPECT_EQ(s.label.size(), 127u * 2);
+}
+
+TEST(PropertyTables, ConvertingUnitsRescalesTheTables) {
+  model::ModelDocument doc;  // English: length ft, modulus ksi, density lb/ft^3, temperature F
+  fmSect s(1);
+  s.A = 1, s.Iz = 1, s.b = 1;
+  doc.sections.push_back(s);
+  fmThick t(1);
+  t.thickness = 1;
+  doc.thicknesses.push_back(t);
+  fmMat m(1);
+  m.E = 1, m.fc = 1, m.density = 1, m.Tc = 1;
+  doc.materials.push_back(m);
+  fmUnit to = doc.units;
+  to.unit[fmUnit::Length] = 0;          // in
+  to.unit[fmUnit::Modulus] = 69;        // psi
+  to.unit[fmUnit::WeightDensity] = 85;  // lb/in^3
+  to.unit[fmUnit::Temperature] = 104;   // C
+  to.convert.fill(1);
+  model::ChangeDocumentUnits(doc, to);
+  EXPECT_DOUBLE_EQ(doc.sections[0].A, 144);
+  EXPECT_DOUBLE_EQ(doc.sections[0].Iz, 20736);
+  EXPECT_DOUBLE_EQ(doc.sections[0].b, 12);
+  EXPECT_DOUBLE_EQ(doc.thicknesses[0].thickness, 12);
+  EXPECT_DOUBLE_EQ(doc.materials[0].E, 1000);
+  EXPECT_DOUBLE_EQ(doc.materials[0].fc, 1000);
+  EXPECT_NEAR(doc.materials[0].density, 1.0 / 1728, 1e-15);
+  EXPECT_NEAR(doc.materials[0].Tc, 1.8, 1e-12);
+}
+
+TEST(PropertyTables, ExampleModelHoldsMaterialsSectionsAndThicknesses) {
+  const auto doc = model::LoadModelDocument(NORVANE_EXAMPLES_DIR "/building.json");
+  EXPECT_GE(doc.materials.size(), 2u);
+  EXPECT_GE(doc.sections.size(), 3u);
+  EXPECT_GE(doc.thicknesses.size(), 1u);
+}
