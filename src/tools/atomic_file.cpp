@@ -21,22 +21,6 @@ namespace {
   Fail(action, path, std::string(std::strerror(err)));
 }
 
-std::string FolderOf(const std::string& path) {
-  const auto slash = path.find_last_of('/');
-  if (slash == std::string::npos) return ".";
-  return slash == 0 ? "/" : path.substr(0, slash);
-}
-
-// Why a new file cannot be made beside `path`: a missing folder is named as such.
-[[noreturn]] void FailToCreate(const std::string& path, int err) {
-  struct stat st {};
-  const std::string folder = FolderOf(path);
-  if (err == ENOENT && ::stat(folder.c_str(), &st) != 0)
-    Fail("write", path, "the folder \"" + folder + "\" does not exist");
-  if (err == ENOTDIR) Fail("write", path, "\"" + folder + "\" is not a folder");
-  Fail("write", path, err);
-}
-
 void WriteAll(int fd, std::string_view contents, const std::string& path) {
   const char* p = contents.data();
   size_t left = contents.size();
@@ -58,7 +42,7 @@ void WriteAll(int fd, std::string_view contents, const std::string& path) {
 void WriteFileAtomically(const std::string& path, std::string_view contents) {
   std::string temp = path + ".XXXXXX";
   const int fd = ::mkstemp(temp.data());
-  if (fd < 0) FailToCreate(path, errno);
+  if (fd < 0) Fail("write", path, errno);
   // mkstemp creates 0600; give the file the usual permissions of a new document.
   const mode_t mask = ::umask(0);
   ::umask(mask);
@@ -83,10 +67,7 @@ void WriteFileAtomically(const std::string& path, std::string_view contents) {
 
 void AppendToFile(const std::string& path, std::string_view contents) {
   const int fd = ::open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
-  if (fd < 0) {
-    if (errno == ENOENT || errno == ENOTDIR) FailToCreate(path, errno);
-    Fail("open", path, errno);
-  }
+  if (fd < 0) Fail("open", path, errno);
   WriteAll(fd, contents, path);
   if (::close(fd) != 0) Fail("write", path, errno);
 }

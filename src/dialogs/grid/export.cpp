@@ -13,7 +13,7 @@
 #include "tools/format.h"
 #include "tools/parse.h"
 #include "tools/release.h"
-#include "tools/utf8.h"
+#include "tools/labels.h"
 
 namespace grid {
 namespace {
@@ -121,7 +121,7 @@ std::string WorksheetName(const std::string& title) {
   std::string name;
   for (char c : title) name += (c != '\0' && std::strchr("[]:*?/\\", c)) ? '_' : c;
   while (!name.empty() && name.front() == '\'') name.erase(0, 1);
-  name = std::string(tools::CutToCharacters(name, 31));
+  name = tools::CutLabel(name, 31);
   while (!name.empty() && name.back() == '\'') name.pop_back();
   return tools::Trim(name).empty() ? "Sheet1" : name;
 }
@@ -158,8 +158,8 @@ lxw_error WriteCell(lxw_worksheet* ws, lxw_row_t row, lxw_col_t col, const std::
   if (asNumber)
     if (const auto value = tools::ParseDouble(text)) return worksheet_write_number(ws, row, col, *value, format);
   // Always a string, never a formula: a cell reading "=A1" is the text "=A1".
-  if (text.size() > kWorkbookMaxStringChars && tools::CountCharacters(text) > kWorkbookMaxStringChars)
-    return worksheet_write_string(ws, row, col, std::string(tools::CutToCharacters(text, kWorkbookMaxStringChars)).c_str(),
+  if (text.size() > kWorkbookMaxStringChars && tools::CountChars(text) > kWorkbookMaxStringChars)
+    return worksheet_write_string(ws, row, col, tools::CutLabel(text, kWorkbookMaxStringChars).c_str(),
                                   format);
   return worksheet_write_string(ws, row, col, text.c_str(), format);
 }
