@@ -8,6 +8,7 @@
 void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
 void RegisterModelDialogs();
+void RegisterLoadsDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
 
@@ -22,6 +23,7 @@ bool NorvaneDlgsStartup() {
   RegisterFrameDialogs();
   RegisterUnitsDialogs();
   RegisterModelDialogs();
+  RegisterLoadsDialogs();
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
   return true;

@@ -7,6 +7,7 @@ extern const ResourceTable kFrameResources;
 extern const ResourceTable kUnitsResources;
 extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
+extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
 
@@ -18,6 +19,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kModelResources,
       &kDesignResources,
       &kGeometryResources,
+      &kLoadsResources,
   };
   return tables;
 }

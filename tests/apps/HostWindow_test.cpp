@@ -67,7 +67,7 @@ TEST_F(HostWindowTest, BadFilesAreExplainedAndTheOpenModelIsKept) {
     std::string problem;
   };
   const Case cases[] = {
-      {"missing file", dir.File("nowhere.json"), "", std::strerror(ENOENT)},
+      {"missing file", dir.File("nowhere.json"), "", std::string("No such file or directory")},
       {"a folder", dir.path(), "", "it is a folder, not a file"},
       {"malformed", Write("broken.json", "{\n  \"format\": \"norvane-model\"\n  \"schemaVersion\": 1\n}"),
        "line 3, column 3", "syntax error"},
@@ -192,7 +192,8 @@ TEST_F(HostWindowTest, SaveAsWritesTheChosenFileAndAFailureKeepsTheOldName) {
   EXPECT_EQ(window.model().path, copy);
   EXPECT_TRUE(window.model().modified);
   ASSERT_EQ(Messages().size(), 1u);
-  EXPECT_EQ(Messages()[0], "Cannot write \"" + nowhere + "\": " + std::strerror(ENOENT));
+  EXPECT_EQ(Messages()[0], "Cannot write \"" + nowhere + "\": the folder \"" + dir.File("missing-folder") +
+                              "\" does not exist");
 
   prompter.Clear();
   prompter.QueuePath("");  // the user cancels the file dialog

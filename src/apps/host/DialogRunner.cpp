@@ -41,10 +41,12 @@ int RunBoundDialog(const std::string& className, HostModel& model, QWidget* pare
 }
 
 bool TakeBackDialogResult(const std::string& className, CDialog& dlg, int result, HostModel& model) {
-  if (result != IDOK) return false;
   const DialogBinding* binding = FindDialogBinding(className);
-  // A dialog without a take-back (an about box) leaves the model as it was.
-  const bool changed = binding && binding->takeBack && binding->takeBack(dlg, model);
+  if (!binding) return false;
+  // A dialog without a take-back (an about box) leaves the model as it was; one that acts on
+  // the model at once may have changed it even when cancelled.
+  const auto& takeBack = result == IDOK ? binding->takeBack : binding->afterCancel;
+  const bool changed = takeBack && takeBack(dlg, model);
   if (changed) model.modified = true;
   return changed;
 }
