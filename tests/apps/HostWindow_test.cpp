@@ -16,7 +16,8 @@
 #include "resources/units_ids.h"
 #include "support/DialogTest.h"
 #include "support/run_program.h"
-#include "support/temp_dir.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 #include "tools/atomic_file.h"
 
 namespace fs = std::filesystem;
@@ -30,13 +31,13 @@ class HostWindowTest : public DialogTest {
  protected:
   void SetUp() override {
     DialogTest::SetUp();
-    modelPath = dir.File("building.json");
+    modelPath = dir / "building.json";
     fs::copy_file(kExample, modelPath);
     ASSERT_TRUE(window.OpenModel(modelPath));
   }
   std::string Write(const std::string& name, const std::string& text) {
-    WriteFileText(dir.File(name), text);
-    return dir.File(name);
+    WriteFileText(dir / name, text);
+    return dir / name;
   }
   // Runs the units dialog on the open model as the host does, without a modal loop:
   // length in metres, converting the stored coordinates.
@@ -67,7 +68,7 @@ TEST_F(HostWindowTest, BadFilesAreExplainedAndTheOpenModelIsKept) {
     std::string problem;
   };
   const Case cases[] = {
-      {"missing file", dir.File("nowhere.json"), "", std::string("No such file or directory")},
+      {"missing file", dir / "nowhere.json", "", std::string("No such file or directory")},
       {"a folder", dir.path(), "", "it is a folder, not a file"},
       {"malformed", Write("broken.json", "{\n  \"format\": \"norvane-model\"\n  \"schemaVersion\": 1\n}"),
        "line 3, column 3", "syntax error"},
@@ -178,7 +179,7 @@ TEST_F(HostWindowTest, AnUnchangedModelClosesWithoutAQuestion) {
 
 TEST_F(HostWindowTest, SaveAsWritesTheChosenFileAndAFailureKeepsTheOldName) {
   ChangeLengthToMetres(IDOK);
-  const std::string copy = dir.File("copy.json");
+  const std::string copy = dir / "copy.json";
   prompter.QueuePath(copy);
   EXPECT_TRUE(window.SaveModelAs());
   EXPECT_EQ(window.model().path, copy);
@@ -186,13 +187,13 @@ TEST_F(HostWindowTest, SaveAsWritesTheChosenFileAndAFailureKeepsTheOldName) {
   EXPECT_EQ(model::LoadModelDocument(copy).units.Label(fmUnit::Length), "m");
 
   window.model().modified = true;
-  const std::string nowhere = dir.File("missing-folder/x.json");
+  const std::string nowhere = dir / "missing-folder/x.json";
   prompter.QueuePath(nowhere);
   EXPECT_FALSE(window.SaveModelAs());
   EXPECT_EQ(window.model().path, copy);
   EXPECT_TRUE(window.model().modified);
   ASSERT_EQ(Messages().size(), 1u);
-  EXPECT_EQ(Messages()[0], "Cannot write \"" + nowhere + "\": the folder \"" + dir.File("missing-folder") +
+  EXPECT_EQ(Messages()[0], "Cannot write \"" + nowhere + "\": the folder \"" + dir / "missing-folder" +
                               "\" does not exist");
 
   prompter.Clear();
@@ -217,7 +218,7 @@ TEST_F(HostWindowTest, MenusListTheDialogsByFamily) {
 TEST(HostProgram, ShowRendersADialogAndRefusesWhatItCannot) {
   TempDir tmp;
   const std::string& dir = tmp.path();
-  const std::string png = tmp.File("conversion.png");
+  const std::string png = tmp / "conversion.png";
   auto r = testsupport::RunProgram(NORVANE_HOST_PATH, {"--show", "CUnitConversionDlg", "--screenshot", png});
   EXPECT_EQ(r.status, 0) << r.err;
   const QImage picture(QString::fromStdString(png));

@@ -6,7 +6,8 @@
 
 #include "model/convert_units.h"
 #include "model/document.h"
-#include "support/temp_dir.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 #include "tools/atomic_file.h"
 
 namespace {
@@ -116,8 +117,8 @@ TEST(ModelDocument, RoundTripKeepsEveryValue) {
   EXPECT_EQ(back.nodes, doc.nodes);
 
   TempDir dir;
-  model::SaveModelDocument(doc, dir.File("model.json"));
-  const model::ModelDocument loaded = model::LoadModelDocument(dir.File("model.json"));
+  model::SaveModelDocument(doc, dir / "model.json");
+  const model::ModelDocument loaded = model::LoadModelDocument(dir / "model.json");
   EXPECT_EQ(loaded.nodes, doc.nodes);
   EXPECT_EQ(loaded.units, doc.units);
 }

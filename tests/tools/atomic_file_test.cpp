@@ -9,14 +9,15 @@
 #include <string>
 #include <vector>
 
-#include "support/temp_dir.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 #include "tools/atomic_file.h"
 
 namespace {
 
 class AtomicFileTest : public ::testing::Test {
  protected:
-  std::string Path(const std::string& name) const { return dir.File(name); }
+  std::string Path(const std::string& name) const { return dir / name; }
   TempDir dir;
 };
 
@@ -30,7 +31,7 @@ TEST_F(AtomicFileTest, WritesAndReplacesWithoutLeavingTemporaries) {
   EXPECT_EQ(ReadFileText(path), "second, longer than the first");
   tools::WriteFileAtomically(path, "");
   EXPECT_EQ(ReadFileText(path), "");
-  EXPECT_EQ(dir.Entries(), std::vector<std::string>{"model.json"});
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"model.json"});
   EXPECT_EQ(tools::ReadWholeFile(path), "");
 }
 
@@ -54,7 +55,7 @@ TEST_F(AtomicFileTest, FailureInTheMiddleOfWritingKeepsTheOldFile) {
   std::signal(SIGXFSZ, previousHandler);
   EXPECT_NE(message.find("Cannot write \"" + path + "\""), std::string::npos) << message;
   EXPECT_EQ(ReadFileText(path), "the old model");
-  EXPECT_EQ(dir.Entries(), std::vector<std::string>{"model.json"}) << "no partial file is left behind";
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"model.json"}) << "no partial file is left behind";
 }
 
 TEST_F(AtomicFileTest, ReplacingAFolderFailsAndLeavesIt) {
@@ -62,7 +63,7 @@ TEST_F(AtomicFileTest, ReplacingAFolderFailsAndLeavesIt) {
   std::filesystem::create_directory(path);
   EXPECT_THROW(tools::WriteFileAtomically(path, "data"), tools::FileError);
   EXPECT_TRUE(std::filesystem::is_directory(path));
-  EXPECT_EQ(dir.Entries(), std::vector<std::string>{"taken"});
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"taken"});
 }
 
 TEST_F(AtomicFileTest, MissingFolderIsNamedInTheMessage) {

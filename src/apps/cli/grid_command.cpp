@@ -18,7 +18,7 @@ struct GridTable {
 };
 
 const GridTable kTables[] = {
-    {"nodes", "Node Table",
+    {"nodes", nodegrid::kTableTitle,
      [](const model::ModelDocument& doc, grid::Sheet& sheet) {
        nodegrid::Fill(sheet, doc.nodes, doc.units, false, doc.display.alternateRowColor, false);
      }},
