@@ -12,6 +12,7 @@ void RegisterLoadsDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
 void RegisterGridDialogs();
+void RegisterSectionsDialogs();
 
 namespace {
 int g_users = 0;
@@ -28,6 +29,7 @@ bool NorvaneDlgsStartup() {
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
   RegisterGridDialogs();
+  RegisterSectionsDialogs();
   return true;
 }
 

@@ -10,6 +10,7 @@ extern const ResourceTable kModelResources;
 extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
+extern const ResourceTable kSectionsResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {
@@ -19,6 +20,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kModelResources,
       &kDesignResources,
       &kGeometryResources,
+      &kSectionsResources,
       &kLoadsResources,
   };
   return tables;

@@ -35,4 +35,5 @@ void RegisterAllBindings() {
   RegisterConcreteDesignBindings();
   RegisterGeometryBindings();
   RegisterGridBindings();
+  RegisterSectionsBindings();
 }

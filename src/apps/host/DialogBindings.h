@@ -29,4 +29,5 @@ void RegisterLoadsBindings();
 void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
 void RegisterGridBindings();
+void RegisterSectionsBindings();
 void RegisterAllBindings();
