@@ -1,6 +1,5 @@
 #include "model/element_lookup.h"
 
-#include <algorithm>
 #include <string>
 
 #include "tools/fm_exception.h"
@@ -14,10 +13,25 @@ NodeIndex::NodeIndex(std::span<const fmNd> nodes) : count_(nodes.size()) {
   dense_ = uint64_t(first_) + nodes.size() - 1 <= UINT32_MAX;
   for (size_t i = 0; dense_ && i < nodes.size(); ++i) dense_ = nodes[i].id == first_ + i;
   if (dense_) return;
-  sorted_.reserve(nodes.size());
-  for (size_t i = 0; i < nodes.size(); ++i) sorted_.emplace_back(nodes[i].id, static_cast<uint32_t>(i));
-  // Stable, so that of repeated ids the first in the vector is found.
-  std::stable_sort(sorted_.begin(), sorted_.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  // At most half full, so that probe runs stay short.
+  size_t size = 2;
+  shift_ = 63;
+  while (size < 2 * nodes.size()) {
+    size *= 2;
+    --shift_;
+  }
+  slots_.resize(size);
+  const size_t mask = size - 1;
+  for (size_t i = 0; i < nodes.size(); ++i) {
+    for (size_t s = SlotOf(nodes[i].id);; s = (s + 1) & mask) {
+      Slot& slot = slots_[s];
+      if (slot.positionPlus1 == 0) {
+        slot = {nodes[i].id, static_cast<uint32_t>(i + 1)};
+        break;
+      }
+      if (slot.id == nodes[i].id) break;  // a repeated id: the first one stays
+    }
+  }
 }
 
 std::optional<size_t> NodeIndex::Find(uint32_t id) const {
@@ -25,10 +39,13 @@ std::optional<size_t> NodeIndex::Find(uint32_t id) const {
     if (id < first_ || id - first_ >= count_) return std::nullopt;
     return id - first_;
   }
-  const auto it = std::lower_bound(sorted_.begin(), sorted_.end(), id,
-                                   [](const auto& entry, uint32_t key) { return entry.first < key; });
-  if (it == sorted_.end() || it->first != id) return std::nullopt;
-  return it->second;
+  if (slots_.empty()) return std::nullopt;
+  const size_t mask = slots_.size() - 1;
+  for (size_t s = SlotOf(id);; s = (s + 1) & mask) {
+    const Slot& slot = slots_[s];
+    if (slot.positionPlus1 == 0) return std::nullopt;
+    if (slot.id == id) return slot.positionPlus1 - 1;
+  }
 }
 
 size_t NodeIndex::Require(uint32_t id) const {

@@ -3,7 +3,6 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <utility>
 #include <vector>
 
 #include "model/fm_material.h"
@@ -30,7 +29,15 @@ class NodeIndex {
   bool dense_ = false;
   uint32_t first_ = 0;
   size_t count_ = 0;
-  std::vector<std::pair<uint32_t, uint32_t>> sorted_;  // (id, position), by id
+  // Otherwise an open-addressing table, probed linearly; a slot's position + 1 is 0 when
+  // the slot is free.
+  struct Slot {
+    uint32_t id = 0;
+    uint32_t positionPlus1 = 0;
+  };
+  std::vector<Slot> slots_;
+  int shift_ = 64;
+  size_t SlotOf(uint32_t id) const { return static_cast<size_t>((id * 0x9E3779B97F4A7C15ull) >> shift_); }
 };
 
 const fmMat& LookUpMaterial(std::span<const fmMat> materials, int32_t reference);

@@ -82,12 +82,21 @@ int ItemPosition(const std::vector<std::string>& items, std::string_view text) {
   return -1;
 }
 
-std::string AsciiLower(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower)
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return lower;
-}
+// Hash and compare of item texts without regard to ASCII case, so that a cell's text is
+// looked up as it stands, without a lower-case copy per cell.
+char AsciiLower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+struct NoCaseHash {
+  using is_transparent = void;
+  size_t operator()(std::string_view text) const {
+    size_t h = 14695981039346656037ull;
+    for (char c : text) h = (h ^ static_cast<unsigned char>(AsciiLower(c))) * 1099511628211ull;
+    return h;
+  }
+};
+struct NoCaseEqual {
+  using is_transparent = void;
+  bool operator()(std::string_view a, std::string_view b) const { return tools::EqualsNoCase(a, b); }
+};
 
 void SetCombo(grid::Sheet& sheet, int col, std::vector<std::string> items) {
   grid::CellType combo;
@@ -102,7 +111,7 @@ class ReferenceColumn {
  public:
   explicit ReferenceColumn(std::vector<std::string> items) : items_(std::move(items)) {
     byText_.reserve(items_.size());
-    for (size_t i = 0; i < items_.size(); ++i) byText_.emplace(AsciiLower(items_[i]), static_cast<int32_t>(i) + 1);
+    for (size_t i = 0; i < items_.size(); ++i) byText_.emplace(items_[i], static_cast<int32_t>(i) + 1);
   }
 
   // The item's position + 1; 0 for an empty cell. A filled row whose reference lay outside
@@ -113,14 +122,14 @@ class ReferenceColumn {
     if (inList && text == items_[static_cast<size_t>(*original) - 1]) return *original;
     const std::string_view trimmed = tools::Trim(text);
     if (trimmed.empty()) return original && !inList ? *original : 0;
-    const auto it = byText_.find(AsciiLower(trimmed));
+    const auto it = byText_.find(trimmed);
     if (it == byText_.end()) return std::nullopt;
     return it->second;
   }
 
  private:
   std::vector<std::string> items_;
-  std::unordered_map<std::string, int32_t> byText_;  // lower-case item text to reference
+  std::unordered_map<std::string, int32_t, NoCaseHash, NoCaseEqual> byText_;  // item text to reference
 };
 
 // An empty angle reads as 0. A cell left as filled keeps the record's full precision, not
