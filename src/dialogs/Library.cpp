@@ -8,6 +8,9 @@
 void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
 void RegisterModelDialogs();
+void RegisterLoadsDialogs();
+void RegisterConcreteDesignDialogs();
+void RegisterGeometryDialogs();
 
 namespace {
 int g_users = 0;
@@ -20,6 +23,9 @@ bool NorvaneDlgsStartup() {
   RegisterFrameDialogs();
   RegisterUnitsDialogs();
   RegisterModelDialogs();
+  RegisterLoadsDialogs();
+  RegisterConcreteDesignDialogs();
+  RegisterGeometryDialogs();
   return true;
 }
 
