@@ -18,6 +18,8 @@ class CDataGridDlg : public CDialog {
   uint32_t m_crAlternateRowColor = 0xF0F5FF;  // 0xRRGGBB, the host's "Spreadsheet Alternate BackColor"
 
   TSpread& Spread() { return m_Spread; }
+  // Heading of the printed and saved table ("Node Table"); each table names its own.
+  virtual std::string PrintTitle() const { return {}; }
 
  protected:
   CDataGridDlg(int templateId, QWidget* pParent);

@@ -13,8 +13,7 @@ class CElementDataDlg : public CDataGridDlg {
   std::vector<fmNd>* m_pNodes = nullptr;
   std::vector<fmMat>* m_pMaterials = nullptr;
 
-  // Heading of the printed table ("Member Table" ...).
-  std::string PrintTitle() const { return kind_.printTitle; }
+  std::string PrintTitle() const override { return kind_.printTitle; }
 
  protected:
   CElementDataDlg(int templateId, const elementgrid::Kind& kind, QWidget* pParent);
