@@ -81,19 +81,19 @@ TEST(CliShapes, ListsShowsImportsAndExports) {
   EXPECT_EQ(Cli("shapes show W99X1", user.path()).status, 1);
   EXPECT_EQ(Cli("shapes list XYZ", user.path()).status, 1);
 
-  tools::WriteFileAtomically(files.File("bad.csv"), "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,two,4\n");
-  const CliRun bad = Cli("shapes import '" + (files.File("bad.csv")) + "'", user.path());
+  tools::WriteFileAtomically((files / "bad.csv"), "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,two,4\n");
+  const CliRun bad = Cli("shapes import '" + ((files / "bad.csv")) + "'", user.path());
   EXPECT_EQ(bad.status, 1);
   EXPECT_NE(bad.output.find("line 2, column 5 (Iy): \"two\" is not a number."), std::string::npos) << bad.output;
   EXPECT_EQ(Cli("shapes show W14X90", user.path()).status, 0) << "a refused import changes nothing";
 
-  tools::WriteFileAtomically(files.File("good.csv"), "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,3,4\n");
-  const CliRun good = Cli("shapes import '" + (files.File("good.csv")) + "'", user.path());
+  tools::WriteFileAtomically((files / "good.csv"), "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,3,4\n");
+  const CliRun good = Cli("shapes import '" + ((files / "good.csv")) + "'", user.path());
   EXPECT_EQ(good.status, 0) << good.output;
   EXPECT_EQ(Cli("shapes list", user.path()).output, "X1\n");
-  const CliRun exported = Cli("shapes export '" + (files.File("out.csv")) + "'", user.path());
+  const CliRun exported = Cli("shapes export '" + ((files / "out.csv")) + "'", user.path());
   EXPECT_EQ(exported.status, 0);
-  const std::string csv = tools::ReadWholeFile(files.File("out.csv"));
+  const std::string csv = tools::ReadWholeFile((files / "out.csv"));
   EXPECT_EQ(csv.substr(0, 47), "EDI_Std_Nomenclature,AISC_Manual_Label,Type,T_F");
   EXPECT_NE(csv.find("\n,X1,W,,,1,"), std::string::npos) << csv;
 }

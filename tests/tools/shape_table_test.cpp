@@ -35,8 +35,8 @@ class ShapeLibraryTest : public ::testing::Test {
 
   std::string UserFile(const char* name) const { return user.path() + "/norvane/" + name; }
   std::string WriteCsv(const std::string& name, const std::string& text) const {
-    tools::WriteFileAtomically(files.File(name), text);
-    return files.File(name);
+    tools::WriteFileAtomically((files / name), text);
+    return (files / name);
   }
 
   TempDir user, files;
@@ -237,7 +237,7 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
 }
 
 TEST_F(ShapeLibraryTest, AHundredMegabyteFileIsRefusedUnread) {
-  const std::string path = files.File("huge.csv");
+  const std::string path = (files / "huge.csv");
   {
     std::ofstream f(path, std::ios::binary);
     f << kHeader;
@@ -266,7 +266,7 @@ TEST_F(ShapeLibraryTest, ADamagedUserCopyFallsBackToTheInstalledLibrary) {
 
 TEST_F(ShapeLibraryTest, BundledLibraryExportsAndReimportsUnchanged) {
   const tools::AiscLibrary installed = tools::AiscLibrary::LoadFrom(kDataDir);
-  const std::string csv = files.File("bundled.csv");
+  const std::string csv = (files / "bundled.csv");
   tools::binary_ascii(csv);
   EXPECT_EQ(Read(csv).substr(0, 39), "EDI_Std_Nomenclature,AISC_Manual_Label,");
   tools::ascii_binary(csv);
@@ -280,7 +280,7 @@ TEST_F(ShapeLibraryTest, PublishedDatabaseImportsAndExportsUnchanged) {
   ASSERT_NE(lib, nullptr);
   EXPECT_EQ(lib->size(), 2091u);
   const auto published = tools::ParseAiscCsv(Read(kPublished), kPublished);
-  const std::string exported = files.File("exported.csv");
+  const std::string exported = (files / "exported.csv");
   tools::binary_ascii(exported);
   const auto back = tools::ParseAiscCsv(Read(exported), exported);
   ASSERT_EQ(back.size(), published.size());

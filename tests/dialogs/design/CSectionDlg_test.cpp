@@ -240,7 +240,7 @@ TEST_F(SectionDialogTest, ExportAndImportAskFirstAndReportBadFiles) {
   Open();
   TempDir files;
   prompter.QueueAnswer(true);
-  prompter.QueuePath(files.File("shapes.csv"));
+  prompter.QueuePath((files / "shapes.csv"));
   dlg.PressButton(res::kCtlSecExportAisc);
   ASSERT_EQ(prompter.prompts().size(), 2u);
   EXPECT_EQ(
@@ -252,13 +252,13 @@ TEST_F(SectionDialogTest, ExportAndImportAskFirstAndReportBadFiles) {
   EXPECT_EQ(prompter.prompts()[1].request.title, "Export AISC Sections to a CSV File");
   EXPECT_EQ(prompter.prompts()[1].request.defaultExtension, "csv");
   EXPECT_EQ(prompter.prompts()[1].request.filters, std::vector<std::string>{"CSV Files (*.csv)"});
-  const std::string exported = tools::ReadWholeFile(files.File("shapes.csv"));
+  const std::string exported = tools::ReadWholeFile((files / "shapes.csv"));
   EXPECT_EQ(exported.rfind("EDI_Std_Nomenclature,AISC_Manual_Label,Type,", 0), 0u);
 
   prompter.Clear();
-  tools::WriteFileAtomically(files.File("bad.csv"), "AISC_Manual_Label,Type,A,Ix,Iy\nX,W,1,2,3\n");
+  tools::WriteFileAtomically((files / "bad.csv"), "AISC_Manual_Label,Type,A,Ix,Iy\nX,W,1,2,3\n");
   prompter.QueueAnswer(true);
-  prompter.QueuePath(files.File("bad.csv"));
+  prompter.QueuePath((files / "bad.csv"));
   dlg.PressButton(res::kCtlSecImportAisc);
   ASSERT_EQ(Messages().size(), 2u);
   EXPECT_EQ(Messages()[0],
@@ -274,9 +274,9 @@ TEST_F(SectionDialogTest, ExportAndImportAskFirstAndReportBadFiles) {
   EXPECT_GE(tools::get_shape("W14X90"), 0);
 
   prompter.Clear();
-  tools::WriteFileAtomically(files.File("good.csv"), "AISC_Manual_Label,Type,A,Ix,Iy,J\nW16.99X89.99,W,26,1000,300,4\n");
+  tools::WriteFileAtomically((files / "good.csv"), "AISC_Manual_Label,Type,A,Ix,Iy,J\nW16.99X89.99,W,26,1000,300,4\n");
   prompter.QueueAnswer(true);
-  prompter.QueuePath(files.File("good.csv"));
+  prompter.QueuePath((files / "good.csv"));
   dlg.PressButton(res::kCtlSecImportAisc);
   EXPECT_EQ(Messages().size(), 1u);
   EXPECT_EQ(dlg.m_bAiscTableImported, 1);
