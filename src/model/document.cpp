@@ -59,6 +59,7 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
     ReadMaterials(r, doc);
     ReadSections(r, doc);
     ReadThicknesses(r, doc);
+    ReadResults(r, doc);
   } catch (const DocumentError& e) {
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
   }
@@ -86,6 +87,7 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   WriteMaterials(doc, root);
   WriteSections(doc, root);
   WriteThicknesses(doc, root);
+  WriteResults(doc, root);
   return root.dump(1, '\t') + "\n";
 }
 

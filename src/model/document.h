@@ -8,6 +8,7 @@
 #include "model/fm_material.h"
 #include "model/fm_node.h"
 #include "model/fm_section.h"
+#include "model/fm_solution.h"
 #include "tools/fm_unit.h"
 
 namespace model {
@@ -21,6 +22,7 @@ struct ModelDocument {
   std::vector<fmMat> materials;
   std::vector<fmSect> sections;
   std::vector<fmThick> thicknesses;
+  fmSolution results;  // what the last solver run produced; empty when never solved
 };
 
 // The schema version written; older versions stay readable.
