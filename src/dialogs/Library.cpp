@@ -8,6 +8,8 @@
 void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
 void RegisterModelDialogs();
+void RegisterConcreteDesignDialogs();
+void RegisterGeometryDialogs();
 
 namespace {
 int g_users = 0;
@@ -20,6 +22,8 @@ bool NorvaneDlgsStartup() {
   RegisterFrameDialogs();
   RegisterUnitsDialogs();
   RegisterModelDialogs();
+  RegisterConcreteDesignDialogs();
+  RegisterGeometryDialogs();
   return true;
 }
 

@@ -21,6 +21,24 @@ std::string LineAndColumn(std::string_view text, size_t offset) {
   return tools::Format("line %zu, column %zu", line, column);
 }
 
+// The parser reports the last character of the token it could not take; a user looks for
+// the token's first character ("schemaVersion" rather than its closing quote).
+size_t TokenStart(std::string_view text, size_t at) {
+  if (at >= text.size()) return at;
+  if (text[at] == '"') {
+    for (size_t i = at; i-- > 0;)
+      if (text[i] == '"' && (i == 0 || text[i - 1] != '\\')) return i;
+    return at;
+  }
+  const auto partOfWord = [](char c) {
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '.' || c == '+' ||
+           c == '-';
+  };
+  size_t i = at;
+  while (i > 0 && partOfWord(text[at]) && partOfWord(text[i - 1])) --i;
+  return i;
+}
+
 }  // namespace
 
 DocumentLoadError::DocumentLoadError(const std::string& file, const std::string& place, const std::string& problem)
@@ -36,12 +54,17 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
     root = nlohmann::json::parse(text.begin(), text.end());
   } catch (const nlohmann::json::parse_error& e) {
     // The library reports the byte just past the fault; point at the fault itself.
-    const size_t at = e.byte > 0 ? e.byte - 1 : 0;
+    const size_t at = TokenStart(text, e.byte > 0 ? e.byte - 1 : 0);
     std::string what = e.what();
     const auto colon = what.find("syntax error");
     throw DocumentLoadError(fileName, LineAndColumn(text, at),
                             colon == std::string::npos ? "not a valid model document (malformed JSON)"
                                                        : what.substr(colon));
+  } catch (const nlohmann::json::exception& e) {
+    // A number too large for a double ("1e400") is refused while parsing, without a position.
+    std::string what = e.what();
+    const auto bracket = what.find("] ");
+    throw DocumentLoadError(fileName, "", bracket == std::string::npos ? what : what.substr(bracket + 2));
   }
   ModelDocument doc;
   try {
@@ -56,6 +79,7 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
     doc.title = r.String("title", "");
     ReadUnits(r, doc);
     ReadNodes(r, doc);
+    ReadLoads(r, doc);
     ReadMaterials(r, doc);
     ReadSections(r, doc);
     ReadThicknesses(r, doc);
@@ -71,7 +95,7 @@ ModelDocument LoadModelDocument(const std::string& path) {
   try {
     text = tools::ReadWholeFile(path);
   } catch (const tools::FileError& e) {
-    throw DocumentLoadError(path, "", e.what());
+    throw DocumentLoadError(path, "", e.reason().empty() ? e.what() : e.reason());
   }
   return ParseModelDocument(text, path);
 }
@@ -84,6 +108,7 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   root["title"] = doc.title;
   WriteUnits(doc, root);
   WriteNodes(doc, root);
+  WriteLoads(doc, root);
   WriteMaterials(doc, root);
   WriteSections(doc, root);
   WriteThicknesses(doc, root);

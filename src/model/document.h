@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/display_settings.h"
+#include "model/fm_load.h"
 #include "model/fm_material.h"
 #include "model/fm_node.h"
 #include "model/fm_section.h"
@@ -19,6 +20,8 @@ struct ModelDocument {
   fmUnit units;
   DisplaySettings display;
   std::vector<fmNd> nodes;
+  std::vector<fmLoadCase> loadCases;
+  std::vector<fmLoadComb> loadCombs;
   std::vector<fmMat> materials;
   std::vector<fmSect> sections;
   std::vector<fmThick> thicknesses;

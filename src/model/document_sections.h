@@ -11,6 +11,8 @@ void ReadUnits(const JsonReader& root, ModelDocument& doc);
 void WriteUnits(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadNodes(const JsonReader& root, ModelDocument& doc);
 void WriteNodes(const ModelDocument& doc, nlohmann::ordered_json& root);
+void ReadLoads(const JsonReader& root, ModelDocument& doc);
+void WriteLoads(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadMaterials(const JsonReader& root, ModelDocument& doc);
 void WriteMaterials(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadSections(const JsonReader& root, ModelDocument& doc);

@@ -3,6 +3,7 @@
 namespace res {
 
 inline constexpr int kStrProgressCaption = 20010;
+inline constexpr int kStrPrivateLabelCaption = 20011;
 inline constexpr int kStrPrefGeneral = 20020;
 inline constexpr int kStrPrefSolver = 20021;
 inline constexpr int kStrPrefGraphics = 20022;

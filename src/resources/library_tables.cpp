@@ -2,15 +2,23 @@
 
 namespace res {
 
-// One table per dialog family; add a family's table here.
+// One table per dialog family; add a family's table here, one a line.
 extern const ResourceTable kFrameResources;
 extern const ResourceTable kUnitsResources;
 extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
+extern const ResourceTable kDesignResources;
+extern const ResourceTable kGeometryResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
-  static const ResourceTable* const tables[] = {&kFrameResources, &kUnitsResources, &kGridResources,
-                                                   &kModelResources};
+  static const ResourceTable* const tables[] = {
+      &kFrameResources,
+      &kUnitsResources,
+      &kGridResources,
+      &kModelResources,
+      &kDesignResources,
+      &kGeometryResources,
+  };
   return tables;
 }
 

@@ -42,6 +42,7 @@ enum Flags : uint32_t {
   kAlignRight = 1u << 6,
   kStretchRow = 1u << 7,  // the control's row takes spare height
   kStretchCol = 1u << 8,  // the control's column takes spare width
+  kNarrow = 1u << 9,      // a short number edit: about ten digits wide, kept at the left of its cell
 };
 
 // One control: id, kind, string id (0: none) with the template's own text, its cell in

@@ -13,8 +13,28 @@
 namespace tools {
 namespace {
 
+[[noreturn]] void Fail(const std::string& action, const std::string& path, const std::string& reason) {
+  throw FileError("Cannot " + action + " \"" + path + "\": " + reason, reason);
+}
+
 [[noreturn]] void Fail(const std::string& action, const std::string& path, int err) {
-  throw FileError("Cannot " + action + " \"" + path + "\": " + std::strerror(err));
+  Fail(action, path, std::string(std::strerror(err)));
+}
+
+std::string FolderOf(const std::string& path) {
+  const auto slash = path.find_last_of('/');
+  if (slash == std::string::npos) return ".";
+  return slash == 0 ? "/" : path.substr(0, slash);
+}
+
+// Why a new file cannot be made beside `path`: a missing folder is named as such.
+[[noreturn]] void FailToCreate(const std::string& path, int err) {
+  struct stat st {};
+  const std::string folder = FolderOf(path);
+  if (err == ENOENT && ::stat(folder.c_str(), &st) != 0)
+    Fail("write", path, "the folder \"" + folder + "\" does not exist");
+  if (err == ENOTDIR) Fail("write", path, "\"" + folder + "\" is not a folder");
+  Fail("write", path, err);
 }
 
 void WriteAll(int fd, std::string_view contents, const std::string& path) {
@@ -38,7 +58,7 @@ void WriteAll(int fd, std::string_view contents, const std::string& path) {
 void WriteFileAtomically(const std::string& path, std::string_view contents) {
   std::string temp = path + ".XXXXXX";
   const int fd = ::mkstemp(temp.data());
-  if (fd < 0) Fail("write", path, errno);
+  if (fd < 0) FailToCreate(path, errno);
   // mkstemp creates 0600; give the file the usual permissions of a new document.
   const mode_t mask = ::umask(0);
   ::umask(mask);
@@ -63,19 +83,26 @@ void WriteFileAtomically(const std::string& path, std::string_view contents) {
 
 void AppendToFile(const std::string& path, std::string_view contents) {
   const int fd = ::open(path.c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
-  if (fd < 0) Fail("open", path, errno);
+  if (fd < 0) {
+    if (errno == ENOENT || errno == ENOTDIR) FailToCreate(path, errno);
+    Fail("open", path, errno);
+  }
   WriteAll(fd, contents, path);
   if (::close(fd) != 0) Fail("write", path, errno);
 }
 
 std::string ReadWholeFile(const std::string& path, size_t maxBytes) {
+  struct stat st {};
+  if (::stat(path.c_str(), &st) != 0) Fail("open", path, errno);
+  if (S_ISDIR(st.st_mode)) Fail("open", path, std::string("it is a folder, not a file"));
+  if (!S_ISREG(st.st_mode)) Fail("open", path, std::string("it is not a regular file"));
   std::ifstream in(path, std::ios::binary);
-  if (!in) Fail("open", path, errno ? errno : ENOENT);
+  if (!in) Fail("open", path, errno ? errno : EACCES);
   in.seekg(0, std::ios::end);
   const std::streamoff size = in.tellg();
   if (size < 0) Fail("read", path, EIO);
   if (static_cast<size_t>(size) > maxBytes)
-    throw FileError("Cannot read \"" + path + "\": the file is too large (" + std::to_string(size) + " bytes)");
+    Fail("read", path, "the file is too large (" + std::to_string(size) + " bytes)");
   in.seekg(0);
   std::string data(static_cast<size_t>(size), '\0');
   in.read(data.data(), size);

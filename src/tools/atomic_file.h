@@ -8,7 +8,13 @@ namespace tools {
 // A file operation that failed; the text names the file and the reason.
 class FileError : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  explicit FileError(const std::string& message, std::string reason = {})
+      : std::runtime_error(message), reason_(std::move(reason)) {}
+  // What went wrong without the file's name ("No such file or directory").
+  const std::string& reason() const { return reason_; }
+
+ private:
+  std::string reason_;
 };
 
 // Writes beside the target and renames into place, so a failure never leaves a partial

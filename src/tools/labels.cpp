@@ -37,20 +37,6 @@ std::string DescribeChar(char32_t cp, bool validUtf8) {
   return quoted;
 }
 
-// Calls f(cp, bytes) for each code point of the text, folded.
-template <class F>
-void ForEachFolded(std::string_view text, F f) {
-  size_t pos = 0;
-  while (pos < text.size()) {
-    char32_t cp;
-    bool ok;
-    const size_t n = DecodeUtf8(text, pos, cp, ok);
-    // Bytes that are not UTF-8 compare as themselves, never equal to any character.
-    f(ok ? FoldChar(cp) : 0x110000u + static_cast<unsigned char>(text[pos]));
-    pos += n;
-  }
-}
-
 }  // namespace
 
 size_t DecodeUtf8(std::string_view text, size_t pos, char32_t& cp, bool& ok) {
@@ -208,10 +194,11 @@ std::string FoldCase(std::string_view text) {
   return out;
 }
 
+namespace {
+
 // Length in bytes of the leading run where both texts are ASCII and fold alike; the
 // rest must be compared by code points, since folding can change a character's length
 // (U+212A KELVIN SIGN folds to "k").
-namespace {
 size_t AsciiFoldedPrefix(std::string_view a, std::string_view b, bool& differ) {
   differ = false;
   size_t i = 0;
@@ -225,31 +212,38 @@ size_t AsciiFoldedPrefix(std::string_view a, std::string_view b, bool& differ) {
   }
   return i;
 }
+
+// The next folded code point of text at pos, advancing pos; bytes that are not UTF-8
+// stand for themselves, never equal to any character.
+char32_t NextFolded(std::string_view text, size_t& pos) {
+  char32_t cp;
+  bool ok;
+  const size_t n = DecodeUtf8(text, pos, cp, ok);
+  const char32_t folded = ok ? FoldChar(cp) : 0x110000u + static_cast<unsigned char>(text[pos]);
+  pos += n;
+  return folded;
+}
+
 }  // namespace
 
 bool LabelsEqual(std::string_view a, std::string_view b) {
   bool differ;
-  const size_t i = AsciiFoldedPrefix(a, b, differ);
+  size_t i = AsciiFoldedPrefix(a, b, differ);
   if (differ) return false;
-  if (i == a.size() || i == b.size()) return i == a.size() && i == b.size();
-  std::u32string fa, fb;
-  ForEachFolded(a.substr(i), [&](char32_t c) { fa += c; });
-  ForEachFolded(b.substr(i), [&](char32_t c) { fb += c; });
-  return fa == fb;
+  size_t j = i;
+  while (i < a.size() && j < b.size())
+    if (NextFolded(a, i) != NextFolded(b, j)) return false;
+  return i == a.size() && j == b.size();
 }
 
 bool LabelStartsWith(std::string_view label, std::string_view prefix) {
   bool differ;
-  const size_t i = AsciiFoldedPrefix(label, prefix, differ);
+  size_t i = AsciiFoldedPrefix(label, prefix, differ);
   if (differ) return false;
-  if (i == prefix.size()) return true;
-  if (i == label.size()) return false;
-  std::u32string fl, fp;
-  ForEachFolded(prefix.substr(i), [&](char32_t c) { fp += c; });
-  ForEachFolded(label.substr(i), [&](char32_t c) {
-    if (fl.size() < fp.size()) fl += c;
-  });
-  return fl == fp;
+  size_t j = i;
+  while (i < label.size() && j < prefix.size())
+    if (NextFolded(label, i) != NextFolded(prefix, j)) return false;
+  return j == prefix.size();
 }
 
 }  // namespace tools

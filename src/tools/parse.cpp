@@ -25,9 +25,18 @@ bool EqualsNoCase(std::string_view a, std::string_view b) {
   return true;
 }
 
+namespace {
+
+// from_chars takes no plus sign; one is allowed, but never before another sign ("+-1").
+std::string_view DropPlus(std::string_view text) {
+  if (text.size() > 1 && text.front() == '+' && text[1] != '-' && text[1] != '+') text.remove_prefix(1);
+  return text;
+}
+
+}  // namespace
+
 std::optional<double> ParseDouble(std::string_view text) {
-  text = Trim(text);
-  if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+  text = DropPlus(Trim(text));
   if (text.empty()) return std::nullopt;
   double value = 0;
   const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), value,
@@ -38,8 +47,7 @@ std::optional<double> ParseDouble(std::string_view text) {
 }
 
 std::optional<int64_t> ParseInt(std::string_view text) {
-  text = Trim(text);
-  if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+  text = DropPlus(Trim(text));
   if (text.empty()) return std::nullopt;
   int64_t value = 0;
   const auto [end, ec] = std::from_chars(text.data(), text.data() + text.size(), value);

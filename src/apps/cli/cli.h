@@ -21,5 +21,11 @@ inline constexpr int kRefused = 1;
 inline constexpr int kUsage = 2;
 
 int UnitsCommand(const Args& args, std::ostream& out, std::ostream& err);
+int CombosCommand(const Args& args, std::ostream& out, std::ostream& err);
+int GridCommand(const Args& args, std::ostream& out, std::ostream& err);
+int KFactorCommand(const Args& args, std::ostream& out, std::ostream& err);
+int CylinderCommand(const Args& args, std::ostream& out, std::ostream& err);
+int SectionCommand(const Args& args, std::ostream& out, std::ostream& err);
+int ShapesCommand(const Args& args, std::ostream& out, std::ostream& err);
 
 }  // namespace cli

@@ -11,6 +11,37 @@ const cli::Command kCommands[] = {
      "units list                      every unit label with its index and factor\n"
      "  units convert VALUE FROM TO     convert VALUE between two units of one kind",
      cli::UnitsCommand},
+    {"combos",
+     "combos codes                    the design codes: index, name, number of combinations\n"
+     "  combos list CODE                the code's combinations as the check list shows them\n"
+     "  combos generate MODEL CODE [--rows all|1,3,5-8] [--pdelta] [-o OUT]\n"
+     "                                  add the code's standard combinations to the model",
+     cli::CombosCommand},
+    {"grid",
+     "grid export MODEL TABLE OUT [--append]\n"
+     "                                  save a table of the model (nodes) as .htm, .txt, .xls or .xlsx;\n"
+     "                                  --append adds to an existing .htm or .txt file",
+     cli::GridCommand},
+    {"kfactor",
+     "kfactor GA GB                   effective length factor K of a braced and an unbraced column",
+     cli::KFactorCommand},
+    {"cylinder",
+     "cylinder [--radial LIST] [--angles LIST] [--axial LIST] [--insert X,Y,Z] [--axis X|Y|Z]\n"
+     "           [--rotate DEG] [--supports none|pinned|fixed] [--no-members] [--first-node ID]\n"
+     "           [--first-member ID] [--output FILE]\n"
+     "                                  nodes, members and supports of a cylindrical frame",
+     cli::CylinderCommand},
+    {"section",
+     "section rect|round|wideflange|tee D1 [D2 D3 D4]\n"
+     "                                  properties of a regular section",
+     cli::SectionCommand},
+    {"shapes",
+     "shapes list [TYPE]              labels of the steel shape library\n"
+     "  shapes show LABEL               one shape's table properties\n"
+     "  shapes import FILE | export FILE\n"
+     "                                  replace the library from, or write it to, a csv file\n"
+     "  shapes bundle DATA_DIR          build the bundled library files from their source",
+     cli::ShapesCommand},
 };
 
 void PrintUsage(std::ostream& out) {

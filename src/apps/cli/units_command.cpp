@@ -1,3 +1,4 @@
+#include <cmath>
 #include <ostream>
 
 #include "apps/cli/cli.h"
@@ -43,7 +44,12 @@ int Convert(const Args& args, std::ostream& out, std::ostream& err) {
         << "\" (" << groups[toGroup].name << ")\n";
     return kUsage;
   }
-  out << tools::Format("%.7g", tools::ConvertUnits(*value, from, to)) << "\n";
+  const double result = tools::ConvertUnits(*value, from, to);
+  if (!std::isfinite(result)) {
+    err << "norvane-cli: " << args[1] << " " << args[2] << " is too large to express in " << args[3] << "\n";
+    return kRefused;
+  }
+  out << tools::Format("%.7g", result) << "\n";
   return kOk;
 }
 

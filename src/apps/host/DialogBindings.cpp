@@ -31,4 +31,6 @@ void RegisterAllBindings() {
   RegisterFrameBindings();
   RegisterUnitsBindings();
   RegisterModelBindings();
+  RegisterConcreteDesignBindings();
+  RegisterGeometryBindings();
 }

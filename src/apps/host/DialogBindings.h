@@ -23,4 +23,6 @@ void RegisterDialogBinding(DialogBinding binding);
 void RegisterFrameBindings();
 void RegisterUnitsBindings();
 void RegisterModelBindings();
+void RegisterConcreteDesignBindings();
+void RegisterGeometryBindings();
 void RegisterAllBindings();

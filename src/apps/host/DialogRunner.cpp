@@ -1,6 +1,7 @@
 #include "apps/host/DialogRunner.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QImage>
 #include <QPixmap>
 #include <iostream>
@@ -35,18 +36,23 @@ int RunBoundDialog(const std::string& className, HostModel& model, QWidget* pare
     return IDOK;
   }
   const int result = dlg->DoModal();
-  if (result == IDOK) {
-    const DialogBinding* binding = FindDialogBinding(className);
-    // A dialog without a take-back (an about box) leaves the model as it was.
-    const bool changed = binding && binding->takeBack && binding->takeBack(*dlg, model);
-    if (changed) model.modified = true;
-  }
+  TakeBackDialogResult(className, *dlg, result, model);
   return result;
+}
+
+bool TakeBackDialogResult(const std::string& className, CDialog& dlg, int result, HostModel& model) {
+  if (result != IDOK) return false;
+  const DialogBinding* binding = FindDialogBinding(className);
+  // A dialog without a take-back (an about box) leaves the model as it was.
+  const bool changed = binding && binding->takeBack && binding->takeBack(dlg, model);
+  if (changed) model.modified = true;
+  return changed;
 }
 
 bool RenderWidgetToPng(QWidget& widget, const std::string& pngPath, std::string& error) {
   widget.show();
-  widget.adjustSize();
+  // A dialog takes the size its layout asks for; a main window keeps the size it was given.
+  if (qobject_cast<QDialog*>(&widget)) widget.adjustSize();
   for (int i = 0; i < 3; ++i) QApplication::processEvents();
   const QPixmap picture = widget.grab();
   if (picture.isNull() || !picture.save(QString::fromStdString(pngPath), "PNG")) {

@@ -10,8 +10,11 @@ class QWidget;
 // Creates a registered dialog and sets its members from the model as the host does.
 // Returns null for an unknown class name.
 std::unique_ptr<CDialog> CreateBoundDialog(const std::string& className, HostModel& model, QWidget* parent);
-// DoModal and, after IDOK, the binding's take-back; marks the model modified when it changed.
+// DoModal and then TakeBackDialogResult.
 int RunBoundDialog(const std::string& className, HostModel& model, QWidget* parent);
+// After IDOK, the binding's take-back; marks the model modified when it changed. Other
+// results leave the model as it was. Returns whether the model changed.
+bool TakeBackDialogResult(const std::string& className, CDialog& dlg, int result, HostModel& model);
 // Builds the dialog without a modal loop, runs its set-up and renders it to a PNG.
 // Message boxes raised during set-up are written to stderr instead of waiting for a click.
 bool RenderDialogToPng(const std::string& className, HostModel& model, const std::string& pngPath,

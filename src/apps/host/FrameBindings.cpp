@@ -1,4 +1,5 @@
 #include <QSettings>
+#include <QStandardPaths>
 #include <QGuiApplication>
 
 #include "apps/host/DialogBindings.h"
@@ -31,6 +32,8 @@ void RegisterFrameBindings() {
                            dlg.m_dFrameDuration = 0.1;
                            dlg.m_nGraphicsFontSize = 10;
                            dlg.m_strGraphicsFontName = "DejaVu Sans";
+                           dlg.m_strDataFolder =
+                               QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
                            QSettings settings;
                            prefs::LoadPreferences(dlg, settings);
                          },

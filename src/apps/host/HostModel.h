@@ -8,4 +8,6 @@ struct HostModel {
   model::ModelDocument doc;
   std::string path;
   bool modified = false;
+  // What the last dialog's take-back did, for the status bar (empty: nothing to say).
+  std::string status;
 };

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QMenuBar>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QTreeWidget>
 #include <map>
@@ -13,12 +14,35 @@
 #include "dialogs/frame/Prompter.h"
 #include "tools/format.h"
 
-HostWindow::HostWindow(QWidget* parent) : QMainWindow(parent), summary_(new QTreeWidget(this)) {
+namespace {
+
+// A value in the quantity's display format: indices 0 to 5 fixed, 6 to 11 exponential,
+// with 1 to 6 decimals.
+std::string FormatForDisplay(double value, int formatIndex) {
+  const int decimals = formatIndex % 6 + 1;
+  return formatIndex < 6 ? tools::Format("%.*f", decimals, value) : tools::Format("%.*e", decimals, value);
+}
+
+QTreeWidget* MakeTable(QWidget* parent) {
+  auto* table = new QTreeWidget(parent);
+  table->setRootIsDecorated(false);
+  table->setAlternatingRowColors(true);
+  table->setUniformRowHeights(true);
+  return table;
+}
+
+}  // namespace
+
+HostWindow::HostWindow(QWidget* parent)
+    : QMainWindow(parent), summary_(MakeTable(this)), nodes_(MakeTable(this)) {
   summary_->setHeaderLabels({"Model", "Value"});
-  summary_->setRootIsDecorated(false);
-  summary_->setAlternatingRowColors(true);
   summary_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-  setCentralWidget(summary_);
+  auto* splitter = new QSplitter(Qt::Vertical, this);
+  splitter->addWidget(summary_);
+  splitter->addWidget(nodes_);
+  splitter->setStretchFactor(1, 1);
+  splitter->setSizes({136, 344});
+  setCentralWidget(splitter);
   BuildMenus();
   resize(720, 480);
   RefreshView();
@@ -56,10 +80,27 @@ void HostWindow::RefreshView() {
   add("File", QString::fromStdString(model_.path));
   add("Length unit", QString::fromStdString(doc.units.Label(fmUnit::Length)));
   add("Force unit", QString::fromStdString(doc.units.Label(fmUnit::Force)));
-  add("Nodes", QString::number(doc.nodes.size()));
+  add("Nodes", QString::fromStdString(tools::Format("%zu", doc.nodes.size())));
   add("Model locked", doc.display.modelLocked ? "yes" : "no");
   add("Show only selected", doc.display.showSelectedOnly ? "yes" : "no");
-  statusBar()->showMessage(model_.modified ? "Modified" : "Saved");
+
+  // The nodes in the model's units and display format, as an embedding program shows them.
+  const auto heading = [&](const char* name) { return QString::fromStdString(doc.units.Heading(name, fmUnit::Length)); };
+  nodes_->clear();
+  nodes_->setHeaderLabels({"Node", heading("X"), heading("Y"), heading("Z"), "Selected"});
+  const int format = doc.display.format[fmUnit::Length];
+  for (const fmNd& nd : doc.nodes) {
+    auto* item = new QTreeWidgetItem({QString::fromStdString(tools::Format("%u", nd.id)),
+                                      QString::fromStdString(FormatForDisplay(nd.x, format)),
+                                      QString::fromStdString(FormatForDisplay(nd.y, format)),
+                                      QString::fromStdString(FormatForDisplay(nd.z, format)),
+                                      nd.IsSelected() ? "yes" : ""});
+    for (int c = 0; c < 4; ++c) item->setTextAlignment(c, Qt::AlignRight | Qt::AlignVCenter);
+    nodes_->addTopLevelItem(item);
+  }
+  QString status = model_.modified ? "Modified" : "Saved";
+  if (!model_.status.empty()) status += " - " + QString::fromStdString(model_.status);
+  statusBar()->showMessage(status);
 }
 
 bool HostWindow::OpenModel(const std::string& path) {
@@ -110,6 +151,7 @@ bool HostWindow::SaveModelAs() {
 }
 
 int HostWindow::RunDialog(const std::string& className) {
+  model_.status.clear();
   const int result = RunBoundDialog(className, model_, this);
   RefreshView();
   return result;

@@ -35,4 +35,5 @@ class HostWindow : public QMainWindow {
 
   HostModel model_;
   QTreeWidget* summary_;
+  QTreeWidget* nodes_;
 };

@@ -99,7 +99,8 @@ void CDialog::reject() { Route(IDCANCEL); }
 
 BOOL CDialog::OnInitDialog() {
   if (template_) {
-    LoadDialogCaption(template_->captionStringId);
+    // A template without a caption string (a private-label box) keeps its own caption.
+    if (template_->captionStringId != 0) LoadDialogCaption(template_->captionStringId);
     LoadTemplateCaptions();
   }
   UpdateData(0);

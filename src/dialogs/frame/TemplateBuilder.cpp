@@ -35,6 +35,7 @@ QWidget* MakeWidget(const res::Control& c, QWidget* parent) {
       auto* w = new QLineEdit(text, parent);
       w->setReadOnly(c.flags & res::kReadOnly);
       if (c.flags & res::kAlignRight) w->setAlignment(Qt::AlignRight);
+      if (c.flags & res::kNarrow) w->setFixedWidth(w->fontMetrics().horizontalAdvance(QString(10, '0')) + 16);
       return w;
     }
     case res::Kind::Button: {
@@ -134,7 +135,7 @@ std::unordered_map<int, QWidget*> BuildFromTemplate(QWidget* dialog, const res::
       const auto it = groupLayouts.find(c.group);
       if (it != groupLayouts.end()) grid = it->second;
     }
-    grid->addWidget(w, c.row, c.col, c.rowSpan, c.colSpan);
+    grid->addWidget(w, c.row, c.col, c.rowSpan, c.colSpan, (c.flags & res::kNarrow) ? Qt::AlignLeft : Qt::Alignment());
     if (c.flags & res::kStretchRow) grid->setRowStretch(c.row, 1);
     if (c.flags & res::kStretchCol) grid->setColumnStretch(c.col, 1);
   }

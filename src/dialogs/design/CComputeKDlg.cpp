@@ -1,0 +1,109 @@
+#include "dialogs/design/CComputeKDlg.h"
+
+#include <QFrame>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "dialogs/design/KFactorChart.h"
+#include "dialogs/frame/DataExchange.h"
+#include "resources/design_ids.h"
+#include "tools/format.h"
+#include "tools/parse.h"
+
+using namespace res;
+using design::FrameKind;
+
+CComputeKDlg::CComputeKDlg(QWidget* pParent) : CDialog(kIddComputeK, pParent) {
+  OnCommand(kCtlCompute, [this] { OnCompute(); });
+  OnEditChange(kCtlGA, [this] { OnRatioEdited(); });
+  OnEditChange(kCtlGB, [this] { OnRatioEdited(); });
+}
+
+BOOL CComputeKDlg::OnInitDialog() {
+  CDialog::OnInitDialog();
+  if (auto* place = Item<QFrame>(kCtlKChart)) {
+    auto* layout = new QVBoxLayout(place);
+    layout->setContentsMargins(0, 0, 0, 0);
+    chart_ = new KFactorChart(place);
+    layout->addWidget(chart_);
+    chart_->Plot(m_dGA, m_dGB, nullptr, nullptr);
+  }
+  return 1;
+}
+
+void CComputeKDlg::DoDataExchange(CDataExchange* pDX) {
+  CDialog::DoDataExchange(pDX);
+  DDX_Text(pDX, kCtlGA, m_dGA);
+  DDV_MinMaxDouble(pDX, m_dGA, design::kGMin, design::kGMax);
+  DDX_Text(pDX, kCtlGB, m_dGB);
+  DDV_MinMaxDouble(pDX, m_dGB, design::kGMin, design::kGMax);
+  // The results are shown, never read back: the boxes hold them rounded.
+  if (!pDX->m_bSaveAndValidate) ShowResults();
+}
+
+void CComputeKDlg::ShowResults() {
+  auto shown = [](double k) {
+    return k > 0.0 ? tools::Format("%.2f", k) : res::LoadStringOr(kStrNoRoot, "No root");
+  };
+  SetDlgItemText(kCtlBracedK, shown(m_dBracedK));
+  SetDlgItemText(kCtlUnbracedK, shown(m_dUnbracedK));
+}
+
+void CComputeKDlg::OnCompute() {
+  if (!UpdateData(1)) return;
+  const design::KResult braced = design::SolveK(FrameKind::Braced, m_dGA, m_dGB);
+  const design::KResult unbraced = design::SolveK(FrameKind::Unbraced, m_dGA, m_dGB);
+  m_dBracedK = braced.k.value_or(0.0);
+  m_dUnbracedK = unbraced.k.value_or(0.0);
+  computedFor_ = std::pair{m_dGA, m_dGB};
+  UpdateData(0);
+  if (chart_) chart_->Plot(m_dGA, m_dGB, &braced, &unbraced);
+
+  // Both failures in one message, each under the name of its result.
+  std::string message;
+  for (const auto& [result, label] : {std::pair{&braced, res::LoadStringOr(kStrBracedK, "Braced K:")},
+                                      std::pair{&unbraced, res::LoadStringOr(kStrUnbracedK, "Unbraced K:")}}) {
+    if (result->k) continue;
+    if (!message.empty()) message += "\n";
+    message += label + " " + result->error;
+  }
+  if (!message.empty()) MessageBox(message, MessageIcon::Error);
+}
+
+void CComputeKDlg::OnRatioEdited() {
+  const auto ga = tools::ParseDouble(GetDlgItemText(kCtlGA));
+  const auto gb = tools::ParseDouble(GetDlgItemText(kCtlGB));
+  // Writing the computed ratios back into their boxes is no edit.
+  if (computedFor_ && ga == computedFor_->first && gb == computedFor_->second) return;
+  if (computedFor_) {
+    computedFor_.reset();
+    m_dBracedK = m_dUnbracedK = 1.0;
+    ShowResults();
+  }
+  if (chart_ && ga && gb && *ga >= design::kGMin && *ga <= design::kGMax && *gb >= design::kGMin &&
+      *gb <= design::kGMax)
+    chart_->Plot(*ga, *gb, nullptr, nullptr);
+}
+
+void CComputeKDlg::OnOK() {
+  if (m_dBracedK == 1.0 && m_dUnbracedK != 0.0) {
+    MessageBox("Invalid Ks");
+    return;
+  }
+  CDialog::OnOK();
+}
+
+void CComputeKDlg::keyPressEvent(QKeyEvent* event) {
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!enter || (event->modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier) {
+    CDialog::keyPressEvent(event);
+    return;
+  }
+  // On a focused push button Enter presses it; anywhere else it is OK.
+  if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button && button->isEnabled())
+    button->click();
+  else
+    accept();
+}

@@ -1,0 +1,38 @@
+#pragma once
+#include "dialogs/design/effective_length.h"
+#include "dialogs/frame/CDialog.h"
+
+class KFactorChart;
+class QKeyEvent;
+
+// The effective length factor K of a column from the stiffness ratios at its two ends,
+// for a braced and an unbraced frame. The host reads both K back after IDOK.
+class CComputeKDlg : public CDialog {
+ public:
+  explicit CComputeKDlg(QWidget* pParent = nullptr);
+
+  // 1.0 until computed. A computation that finds no root in the bracket leaves 0.0, which
+  // no column has, so a host never takes a failed K for a result.
+  double m_dBracedK = 1.0;
+  double m_dUnbracedK = 1.0;
+  double m_dGA = 0.47;  // top joint, 0 to 1000
+  double m_dGB = 0.47;  // bottom joint, 0 to 1000
+
+  KFactorChart* Chart() const { return chart_; }
+
+ protected:
+  BOOL OnInitDialog() override;
+  void DoDataExchange(CDataExchange* pDX) override;
+  void OnOK() override;
+  void OnCompute();
+  // Enter ends the dialog through OnOK, as it does in a dialog without an OK button.
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void ShowResults();
+  void OnRatioEdited();
+
+  KFactorChart* chart_ = nullptr;
+  // The ratios the shown results belong to; editing either away from them clears the results.
+  std::optional<std::pair<double, double>> computedFor_;
+};

@@ -1,0 +1,4 @@
+#include "dialogs/design/CComputeKDlg.h"
+#include "dialogs/frame/DialogRegistry.h"
+
+void RegisterConcreteDesignDialogs() { RegisterDialog<CComputeKDlg>("CComputeKDlg", "Concrete design"); }

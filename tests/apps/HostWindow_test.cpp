@@ -1,0 +1,227 @@
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QImage>
+#include <QMenuBar>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <map>
+
+#include "apps/host/DialogRunner.h"
+#include "apps/host/HostWindow.h"
+#include "dialogs/frame/CDialog.h"
+#include "resources/units_ids.h"
+#include "support/DialogTest.h"
+#include "support/run_program.h"
+#include "tools/atomic_file.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+const std::string kExample = std::string(NORVANE_EXAMPLES_DIR) + "/building.json";
+const std::string kSaveQuestion = "The model has been changed.\nDo you want to save the changes?";
+
+class HostWindowTest : public DialogTest {
+ protected:
+  void SetUp() override {
+    DialogTest::SetUp();
+    std::string pattern = (fs::temp_directory_path() / "norvane-host.XXXXXX").string();
+    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
+    dir = pattern;
+    modelPath = (dir / "building.json").string();
+    fs::copy_file(kExample, modelPath);
+    ASSERT_TRUE(window.OpenModel(modelPath));
+  }
+  void TearDown() override {
+    fs::remove_all(dir);
+    DialogTest::TearDown();
+  }
+  std::string Write(const std::string& name, const std::string& text) {
+    const std::string path = (dir / name).string();
+    std::ofstream(path, std::ios::binary) << text;
+    return path;
+  }
+  // Runs the units dialog on the open model as the host does, without a modal loop:
+  // length in metres, converting the stored coordinates.
+  void ChangeLengthToMetres(int button) {
+    auto dlg = CreateBoundDialog("CUnitsDlg", window.model(), &window);
+    ASSERT_NE(dlg, nullptr);
+    dlg->InitDialogForTest();
+    auto* lengths = dlg->Item<QComboBox>(res::kCtlUnitsUnit + fmUnit::Length);
+    ASSERT_TRUE(dlg->ChooseItem(res::kCtlUnitsUnit + fmUnit::Length, lengths->findText("m")));
+    dlg->Item<QAbstractButton>(res::kCtlUnitsConvert + fmUnit::Length)->setChecked(true);
+    ASSERT_TRUE(dlg->PressButton(button));
+    TakeBackDialogResult("CUnitsDlg", *dlg, dlg->ModalResult(), window.model());
+    window.RefreshView();
+  }
+
+  fs::path dir;
+  std::string modelPath;
+  HostWindow window;
+};
+
+}  // namespace
+
+TEST_F(HostWindowTest, BadFilesAreExplainedAndTheOpenModelIsKept) {
+  struct Case {
+    const char* name;
+    std::string path;
+    std::string place;
+    std::string problem;
+  };
+  const Case cases[] = {
+      {"missing file", (dir / "nowhere.json").string(), "", std::strerror(ENOENT)},
+      {"a folder", dir.string(), "", "it is a folder, not a file"},
+      {"malformed", Write("broken.json", "{\n  \"format\": \"norvane-model\"\n  \"schemaVersion\": 1\n}"),
+       "line 3, column 3", "syntax error"},
+      {"wrong type", Write("text-x.json", R"({"format": "norvane-model", "schemaVersion": 1,
+          "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0}, {"id": 2, "x": 0, "y": 0, "z": 0},
+                    {"id": 3, "x": 0, "y": 0, "z": 0}, {"id": 4, "x": "5 ft", "y": 0, "z": 0}]})"),
+       "/nodes/3/x", "expected a number"},
+      {"newer schema", Write("future.json", R"({"format": "norvane-model", "schemaVersion": 99})"), "/schemaVersion",
+       "schema version 99 is newer than this program reads (1)"},
+      {"not a model", Write("package.json", R"({"name": "left-pad"})"), "/", "not a Norvane model document"},
+  };
+  const model::ModelDocument before = window.model().doc;
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    prompter.Clear();
+    EXPECT_FALSE(window.OpenModel(c.path));
+    ASSERT_EQ(prompter.prompts().size(), 1u);
+    EXPECT_EQ(prompter.prompts()[0].icon, MessageIcon::Error);
+    const std::string& text = prompter.prompts()[0].text;
+    EXPECT_NE(text.find("\"" + c.path + "\""), std::string::npos) << text;
+    EXPECT_NE(text.find(c.place), std::string::npos) << text;
+    EXPECT_NE(text.find(c.problem), std::string::npos) << text;
+    EXPECT_EQ(window.model().path, modelPath);
+    EXPECT_EQ(window.model().doc.nodes, before.nodes);
+    EXPECT_EQ(window.model().doc.title, before.title);
+    EXPECT_FALSE(window.model().modified);
+  }
+}
+
+TEST_F(HostWindowTest, OkMarksTheModelModifiedAndCancelDoesNot) {
+  ChangeLengthToMetres(IDCANCEL);
+  EXPECT_FALSE(window.model().modified);
+  EXPECT_EQ(window.model().doc.units.Label(fmUnit::Length), "ft");
+
+  ChangeLengthToMetres(IDOK);
+  EXPECT_TRUE(window.model().modified);
+  EXPECT_EQ(window.model().doc.units.Label(fmUnit::Length), "m");
+  EXPECT_DOUBLE_EQ(window.model().doc.nodes[1].x, 20 * 0.3048);
+  EXPECT_TRUE(window.windowTitle().startsWith("building.json*")) << window.windowTitle().toStdString();
+}
+
+TEST_F(HostWindowTest, DialogsWithoutModelDataLeaveItUnmodified) {
+  auto about = CreateBoundDialog("CAboutDlg", window.model(), &window);
+  ASSERT_NE(about, nullptr);
+  about->InitDialogForTest();
+  ASSERT_TRUE(about->PressButton(IDOK));
+  EXPECT_FALSE(TakeBackDialogResult("CAboutDlg", *about, IDOK, window.model()));
+  EXPECT_FALSE(window.model().modified);
+  EXPECT_EQ(CreateBoundDialog("CNoSuchDlg", window.model(), &window), nullptr);
+}
+
+TEST_F(HostWindowTest, QuittingAModifiedModelAsks) {
+  ChangeLengthToMetres(IDOK);
+  const std::string saved = fs::exists(modelPath) ? modelPath : "";
+
+  prompter.QueueCancel();  // Cancel: stay
+  EXPECT_FALSE(window.close());
+  EXPECT_EQ(Messages(), std::vector<std::string>{kSaveQuestion});
+
+  prompter.Clear();
+  prompter.QueueAnswer(true);  // Yes: saved in place, then closed
+  EXPECT_TRUE(window.close());
+  EXPECT_EQ(Messages(), std::vector<std::string>{kSaveQuestion});
+  EXPECT_FALSE(window.model().modified);
+  const model::ModelDocument reread = model::LoadModelDocument(modelPath);
+  EXPECT_EQ(reread.units.Label(fmUnit::Length), "m");
+  EXPECT_DOUBLE_EQ(reread.nodes[1].x, 20 * 0.3048);
+}
+
+TEST_F(HostWindowTest, QuittingWithoutSavingLeavesTheFile) {
+  const std::string original = tools::ReadWholeFile(modelPath);
+  ChangeLengthToMetres(IDOK);
+  prompter.QueueAnswer(false);
+  EXPECT_TRUE(window.close());
+  EXPECT_EQ(Messages(), std::vector<std::string>{kSaveQuestion});
+  EXPECT_EQ(tools::ReadWholeFile(modelPath), original);
+}
+
+TEST_F(HostWindowTest, AnUnchangedModelClosesWithoutAQuestion) {
+  EXPECT_TRUE(window.close());
+  EXPECT_TRUE(Messages().empty());
+}
+
+TEST_F(HostWindowTest, SaveAsWritesTheChosenFileAndAFailureKeepsTheOldName) {
+  ChangeLengthToMetres(IDOK);
+  const std::string copy = (dir / "copy.json").string();
+  prompter.QueuePath(copy);
+  EXPECT_TRUE(window.SaveModelAs());
+  EXPECT_EQ(window.model().path, copy);
+  EXPECT_FALSE(window.model().modified);
+  EXPECT_EQ(model::LoadModelDocument(copy).units.Label(fmUnit::Length), "m");
+
+  window.model().modified = true;
+  const std::string nowhere = (dir / "missing-folder" / "x.json").string();
+  prompter.QueuePath(nowhere);
+  EXPECT_FALSE(window.SaveModelAs());
+  EXPECT_EQ(window.model().path, copy);
+  EXPECT_TRUE(window.model().modified);
+  ASSERT_EQ(Messages().size(), 1u);
+  EXPECT_NE(Messages()[0].find("does not exist"), std::string::npos) << Messages()[0];
+
+  prompter.Clear();
+  prompter.QueuePath("");  // the user cancels the file dialog
+  EXPECT_FALSE(window.SaveModelAs());
+  EXPECT_EQ(window.model().path, copy);
+}
+
+TEST_F(HostWindowTest, MenusListTheDialogsByFamily) {
+  std::map<std::string, std::vector<std::string>> menus;
+  for (QAction* top : window.menuBar()->actions()) {
+    if (top->text() != "&Dialogs") continue;
+    for (QAction* family : top->menu()->actions())
+      for (QAction* entry : family->menu()->actions())
+        menus[family->text().toStdString()].push_back(entry->text().toStdString());
+  }
+  EXPECT_EQ(menus["Library frame"],
+            (std::vector<std::string>{"CAboutDlg", "CPrivateLabelAboutDlg", "CProgressDlg", "CPreferencesDlg"}));
+  EXPECT_EQ(menus["Units"], (std::vector<std::string>{"CUnitsDlg", "CUnitConversionDlg"}));
+}
+
+TEST(HostProgram, ShowRendersADialogAndRefusesWhatItCannot) {
+  std::string dir = (fs::temp_directory_path() / "norvane-shot.XXXXXX").string();
+  ASSERT_NE(mkdtemp(dir.data()), nullptr);
+  const std::string png = dir + "/conversion.png";
+  auto r = testsupport::RunProgram(NORVANE_HOST_PATH, {"--show", "CUnitConversionDlg", "--screenshot", png});
+  EXPECT_EQ(r.status, 0) << r.err;
+  const QImage picture(QString::fromStdString(png));
+  EXPECT_GT(picture.width(), 200);
+  EXPECT_GT(picture.height(), 100);
+
+  struct Case {
+    std::vector<std::string> args;
+    int status;
+    std::string message;
+  };
+  const Case cases[] = {
+      {{"--show", "CNoSuchDlg", "--screenshot", png}, 1, "norvane-host: Unknown dialog class \"CNoSuchDlg\""},
+      {{"--show"}, 2, "norvane-host: --show needs a value"},
+      {{"--frobnicate"}, 2, "norvane-host: unknown option --frobnicate"},
+      {{"--model", dir + "/none.json", "--show", "CUnitsDlg", "--screenshot", png}, 1,
+       "norvane-host: Cannot open model \"" + dir + "/none.json\""},
+  };
+  for (const Case& c : cases) {
+    r = testsupport::RunProgram(NORVANE_HOST_PATH, c.args);
+    EXPECT_TRUE(r.exited);
+    EXPECT_EQ(r.status, c.status) << c.args[0];
+    EXPECT_NE(r.err.find(c.message), std::string::npos) << r.err;
+  }
+  fs::remove_all(dir);
+}

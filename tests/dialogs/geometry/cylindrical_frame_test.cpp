@@ -1,0 +1,282 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <set>
+#include <utility>
+
+#include "dialogs/geometry/cylindrical_frame.h"
+#include "model/document.h"
+
+namespace {
+
+using namespace geometry;
+using Values = std::vector<double>;
+
+TEST(CylinderCheck, AcceptsAndRefusesListsInTheDialogsOrder) {
+  const struct {
+    const char* radial;
+    const char* angles;
+    const char* axial;
+    const char* message;  // empty: accepted
+    CylinderList list;
+  } cases[] = {
+      {"20,10", "0, 2@30", "", "", CylinderList::None},
+      {"20,10", "2@30", "", "", CylinderList::None},
+      {"20,10", "0", "", kInvalidAngleIncrements, CylinderList::Angle},
+      {"20,10", "", "", kInvalidAngleIncrements, CylinderList::Angle},
+      {"20,10", "0, 30, 0", "", kZeroAngleIncrement, CylinderList::Angle},
+      {"20,10", "0, 4@90", "", "", CylinderList::None},
+      {"20,10", "0, 360", "", kClosedFrameNeedsTwoIncrements, CylinderList::Angle},
+      {"20,10", "360", "", kClosedFrameNeedsTwoIncrements, CylinderList::Angle},
+      {"20,10", "0, 180, 180.0000001", "", "", CylinderList::None},
+      {"20,10", "0, 180, 180.000001", "", kTotalAngleAbove360, CylinderList::Angle},
+      {"20,10", "0, 200, 200", "", kTotalAngleAbove360, CylinderList::Angle},
+      {"20,10", "0, -30, 30", "", kNegativeAngleIncrement, CylinderList::Angle},
+      {"20,10", "2@-10", "", kNegativeAngleIncrement, CylinderList::Angle},
+      {"20,10", "-30", "", kNegativeAngleIncrement, CylinderList::Angle},
+      {"0", "0, 2@30", "", "", CylinderList::None},
+      {"-5, 10", "0, 2@30", "", kNegativeRadialDistance, CylinderList::Radial},
+      {"2@-10", "0, 2@30", "", kNegativeRadialDistance, CylinderList::Radial},
+      {"", "0, 2@30", "", kInvalidRadialList, CylinderList::Radial},
+      {"  ", "0, 2@30", "", kInvalidRadialList, CylinderList::Radial},
+      {"20,10", "0, 2@30", "12, 3@20, 2@15", "", CylinderList::None},
+      {"20,10", "0, 2@30", "2@-10", kNegativeAxialDistance, CylinderList::Axial},
+      // The radial checks come before the angle checks.
+      {"-5", "0, 200, 200", "", kNegativeRadialDistance, CylinderList::Radial},
+      // Parsing all three lists comes first of all.
+      {"", "0", "abc", "Y direction distance list: \"abc\" (item 1) is not a number", CylinderList::Axial},
+      {"abc", "0", "", "Radial distance list: \"abc\" (item 1) is not a number", CylinderList::Radial},
+      {"10", "3@", "", "Angle increment list: \"3@\" (item 1) has no value after @", CylinderList::Angle},
+      {"10", "@5", "", "Angle increment list: \"@5\" (item 1) has no repeat count before @", CylinderList::Angle},
+      {"1e999", "0, 30", "", "Radial distance list: \"1e999\" (item 1) is out of range", CylinderList::Radial},
+      {"10", "0, 30", "-2@10",
+       "Y direction distance list: \"-2@10\" (item 1) has a repeat count that is not a whole number from 1 to 100000",
+       CylinderList::Axial},
+      {"100@1", "0, 100@1", "100@1",
+       "The cylindrical frame would have 1020100 nodes; at most 1000000 can be generated at once", CylinderList::None},
+  };
+  for (const auto& c : cases) {
+    const CylinderCheck check = CheckCylindricalFrameLists(c.radial, c.angles, c.axial);
+    EXPECT_EQ(check.message, c.message) << c.radial << " | " << c.angles << " | " << c.axial;
+    EXPECT_EQ(check.list, c.list) << c.radial << " | " << c.angles << " | " << c.axial;
+  }
+}
+
+TEST(CylinderCheck, PutsTheLeadingZeroInPlaceAndFindsClosedFrames) {
+  const struct {
+    const char* angles;
+    Values expected;
+    bool closed;
+  } cases[] = {
+      {"2@30", {0, 30, 30}, false},
+      {"0, 2@30", {0, 30, 30}, false},
+      {"0, 4@90", {0, 90, 90, 90, 90}, true},
+      {"0, 180, 180.0000001", {0, 180, 180.0000001}, true},
+      {"0, 120, 120, 119.9999", {0, 120, 120, 119.9999}, false},
+  };
+  for (const auto& c : cases) {
+    const CylinderCheck check = CheckCylindricalFrameLists("10", c.angles, "");
+    ASSERT_TRUE(check.ok()) << c.angles << ": " << check.message;
+    EXPECT_EQ(check.angles, c.expected) << c.angles;
+    EXPECT_EQ(check.closed, c.closed) << c.angles;
+  }
+}
+
+CylindricalFrame Generate(const CylindricalFrameParameters& p, uint32_t firstNode = 1, uint32_t firstMember = 1) {
+  const CylindricalFrameResult r = GenerateCylindricalFrame(p, firstNode, firstMember);
+  EXPECT_TRUE(r.ok()) << r.error;
+  return r.frame;
+}
+
+// Every member joins two distinct existing nodes, and no two members join the same pair.
+void ExpectSoundConnectivity(const CylindricalFrame& f) {
+  std::set<uint32_t> ids;
+  for (const fmNd& n : f.nodes) ids.insert(n.id);
+  std::set<std::pair<uint32_t, uint32_t>> pairs;
+  for (const GeneratedMember& m : f.members) {
+    EXPECT_NE(m.nodeI, m.nodeJ);
+    EXPECT_TRUE(ids.count(m.nodeI) && ids.count(m.nodeJ));
+    EXPECT_TRUE(pairs.insert(std::minmax(m.nodeI, m.nodeJ)).second) << m.nodeI << "-" << m.nodeJ;
+  }
+  for (size_t i = 0; i < f.nodes.size(); ++i)
+    for (size_t j = i + 1; j < f.nodes.size(); ++j) {
+      const double d = std::hypot(f.nodes[i].x - f.nodes[j].x, f.nodes[i].y - f.nodes[j].y, f.nodes[i].z - f.nodes[j].z);
+      EXPECT_GT(d, 1e-9) << "nodes " << f.nodes[i].id << " and " << f.nodes[j].id << " coincide";
+    }
+}
+
+TEST(CylindricalFrame, CountsNodesMembersAndSupports) {
+  const struct {
+    const char* radial;
+    const char* angles;
+    const char* axial;
+    int supports;
+    bool members;
+    size_t nodes, memberCount, supportCount;
+    bool closed;
+  } cases[] = {
+      // Open: 2 rings x 3 angles; 2 ring members per ring, 3 radial.
+      {"20,10", "0, 2@30", "", 0, true, 6, 7, 0, false},
+      // Closed: 4 angles; 4 ring members per ring (the ring is closed), 4 radial.
+      {"20,10", "0, 4@90", "", 2, true, 8, 12, 8, true},
+      // Closed on three levels: 3 x (8 + 4) in the levels, 2 x 8 between them; pinned base.
+      {"20,10", "0, 4@90", "12, 3", 1, true, 24, 52, 8, true},
+      // Open on two levels: 2 x 7 in the levels and 6 columns.
+      {"20,10", "0, 2@30", "10", 0, true, 12, 20, 0, false},
+      // Members not asked for.
+      {"20,10", "0, 4@90", "12, 3", 2, false, 24, 0, 8, true},
+      // A centre node and one ring: spokes and ring members; one column per node.
+      {"0, 10", "0, 3@120", "5", 2, true, 8, 2 * (3 + 3) + 4, 4, true},
+      // A closed ring of two nodes has one member between them, not two.
+      {"10", "0, 180, 180", "", 0, true, 2, 1, 0, true},
+      // Zero increments merge rings and levels instead of stacking duplicate nodes.
+      {"10, 0", "0, 90", "0, 5, 0", 0, true, 4, 1 + 1 + 2, 0, false},
+      // Only the centre: one node per level, joined upwards.
+      {"0", "0, 2@30", "3@4", 1, true, 4, 3, 1, false},
+  };
+  for (const auto& c : cases) {
+    CylindricalFrameParameters p;
+    p.radialList = c.radial;
+    p.angleList = c.angles;
+    p.axialList = c.axial;
+    p.supports = c.supports;
+    p.generateMembers = c.members;
+    const CylindricalFrame f = Generate(p);
+    SCOPED_TRACE(std::string(c.radial) + " | " + c.angles + " | " + c.axial);
+    EXPECT_EQ(f.nodes.size(), c.nodes);
+    EXPECT_EQ(f.members.size(), c.memberCount);
+    EXPECT_EQ(f.supports.size(), c.supportCount);
+    EXPECT_EQ(f.closed, c.closed);
+    ExpectSoundConnectivity(f);
+  }
+}
+
+TEST(CylindricalFrame, PlacesAndNumbersAnOpenFrame) {
+  CylindricalFrameParameters p;  // the dialog's defaults: rings 20 and 30 at 0, 30, 60 degrees
+  p.supports = 1;
+  const CylindricalFrame f = Generate(p, 101, 7);
+  const double c30 = std::sqrt(3.0) / 2;
+  const struct {
+    uint32_t id;
+    double x, y, z;
+  } nodes[] = {
+      {101, 20, 0, 0}, {102, 20 * c30, 0, -10}, {103, 10, 0, -20 * c30},
+      {104, 30, 0, 0}, {105, 30 * c30, 0, -15}, {106, 15, 0, -30 * c30},
+  };
+  ASSERT_EQ(f.nodes.size(), std::size(nodes));
+  for (size_t i = 0; i < f.nodes.size(); ++i) {
+    EXPECT_EQ(f.nodes[i].id, nodes[i].id);
+    EXPECT_NEAR(f.nodes[i].x, nodes[i].x, 1e-12) << nodes[i].id;
+    EXPECT_NEAR(f.nodes[i].y, nodes[i].y, 1e-12) << nodes[i].id;
+    EXPECT_NEAR(f.nodes[i].z, nodes[i].z, 1e-12) << nodes[i].id;
+    EXPECT_FALSE(std::signbit(f.nodes[i].x) && f.nodes[i].x == 0) << "a -0 coordinate";
+  }
+  const std::vector<GeneratedMember> members = {
+      {7, 101, 102}, {8, 102, 103}, {9, 104, 105}, {10, 105, 106}, {11, 101, 104}, {12, 102, 105}, {13, 103, 106},
+  };
+  EXPECT_EQ(f.members, members);
+  // A single level is the base: every node is supported.
+  ASSERT_EQ(f.supports.size(), 6u);
+  for (size_t i = 0; i < 6; ++i) EXPECT_EQ(f.supports[i], (GeneratedSupport{101u + uint32_t(i), SupportKind::Pinned}));
+}
+
+TEST(CylindricalFrame, ClosesTheRingAndJoinsLevels) {
+  CylindricalFrameParameters p;
+  p.radialList = "10";
+  p.angleList = "0, 4@90";
+  p.axialList = "5";
+  p.supports = 2;
+  const CylindricalFrame f = Generate(p);
+  ASSERT_EQ(f.nodes.size(), 8u);
+  // Quarter turns are exact: (10, 0, 0), (0, 0, -10), (-10, 0, 0), (0, 0, 10) on each level.
+  const double expected[][3] = {{10, 0, 0}, {0, 0, -10}, {-10, 0, 0}, {0, 0, 10},
+                                {10, 5, 0}, {0, 5, -10}, {-10, 5, 0}, {0, 5, 10}};
+  for (size_t i = 0; i < 8; ++i) {
+    EXPECT_EQ(f.nodes[i].x, expected[i][0]);
+    EXPECT_EQ(f.nodes[i].y, expected[i][1]);
+    EXPECT_EQ(f.nodes[i].z, expected[i][2]);
+  }
+  const std::vector<GeneratedMember> members = {
+      {1, 1, 2}, {2, 2, 3}, {3, 3, 4}, {4, 4, 1},                          // base ring, closed
+      {5, 5, 6}, {6, 6, 7}, {7, 7, 8}, {8, 8, 5},                          // upper ring
+      {9, 1, 5}, {10, 2, 6}, {11, 3, 7}, {12, 4, 8},                       // columns
+  };
+  EXPECT_EQ(f.members, members);
+  ASSERT_EQ(f.supports.size(), 4u);
+  for (const auto& s : f.supports) EXPECT_EQ(s.kind, SupportKind::Fixed);
+}
+
+TEST(CylindricalFrame, RotatesAboutAGlobalAxisThenMovesToTheInsertionPoint) {
+  const struct {
+    int axis;
+    double angle;
+    double x, y, z;  // where the local point (10, 5, 0) lands
+  } cases[] = {
+      {0, 0, 10, 5, 0},
+      {0, 90, 10, 0, 5},    // about X: Y turns to Z
+      {1, 90, 0, 5, -10},   // about Y: X turns to -Z
+      {2, 90, -5, 10, 0},   // about Z: X turns to Y, Y to -X
+      {2, -90, 5, -10, 0},
+      {0, 180, 10, -5, 0},
+  };
+  for (const auto& c : cases) {
+    CylindricalFrameParameters p;
+    p.radialList = "10";
+    p.angleList = "0, 90";
+    p.axialList = "5";
+    p.rotationAxis = c.axis;
+    p.rotationAngle = c.angle;
+    p.insertX = 100, p.insertY = 200, p.insertZ = 300;
+    const CylindricalFrame f = Generate(p);
+    ASSERT_EQ(f.nodes.size(), 4u);
+    const fmNd& n = f.nodes[2];  // level 1, angle 0: local (10, 5, 0)
+    EXPECT_NEAR(n.x, 100 + c.x, 1e-12) << c.axis << " " << c.angle;
+    EXPECT_NEAR(n.y, 200 + c.y, 1e-12) << c.axis << " " << c.angle;
+    EXPECT_NEAR(n.z, 300 + c.z, 1e-12) << c.axis << " " << c.angle;
+  }
+}
+
+TEST(CylindricalFrame, RefusesWhatItCannotBuild) {
+  CylindricalFrameParameters p;
+  p.angleList = "0, 200, 200";
+  EXPECT_EQ(GenerateCylindricalFrame(p, 1, 1).error, kTotalAngleAbove360);
+  p = {};
+  p.rotationAxis = 3;
+  EXPECT_EQ(GenerateCylindricalFrame(p, 1, 1).error, "Invalid rotation axis 3 (0 global X, 1 global Y, 2 global Z)");
+  p = {};
+  p.supports = -1;
+  EXPECT_EQ(GenerateCylindricalFrame(p, 1, 1).error, "Invalid support kind -1 (0 none, 1 pinned, 2 fixed)");
+  p = {};
+  p.insertX = std::nan("");
+  EXPECT_EQ(GenerateCylindricalFrame(p, 1, 1).error, "Insertion point and rotation angle must be finite numbers");
+  p = {};
+  const auto full = GenerateCylindricalFrame(p, 4294967290u, 1);  // 6 nodes end at 4294967295
+  EXPECT_TRUE(full.ok());
+  EXPECT_EQ(full.frame.nodes.back().id, 4294967295u);
+  EXPECT_EQ(GenerateCylindricalFrame(p, 4294967291u, 1).error,
+            "The new nodes and members cannot be numbered: ids would pass 4294967295");
+}
+
+TEST(CylindricalFrame, AddsNodesToADocumentAfterItsHighestId) {
+  model::ModelDocument doc;
+  doc.nodes = {{12, 0, 0, 0, 0}, {5, 1, 0, 0, 0}};
+  CylindricalFrameParameters p;
+  p.angleList = "0, 4@90";
+  const CylindricalFrameResult r = AddCylindricalFrameToDocument(doc, p);
+  ASSERT_TRUE(r.ok()) << r.error;
+  ASSERT_EQ(doc.nodes.size(), 2u + 8u);
+  EXPECT_EQ(doc.nodes[1], (fmNd{5, 1, 0, 0, 0}));
+  for (size_t i = 0; i < 8; ++i) EXPECT_EQ(doc.nodes[2 + i].id, 13u + i);
+  EXPECT_EQ(r.frame.members.front().id, 1u);
+
+  // Refused parameters and a model whose ids are used up leave the nodes as they were.
+  p.angleList = "0, 360";
+  EXPECT_EQ(AddCylindricalFrameToDocument(doc, p).error, kClosedFrameNeedsTwoIncrements);
+  EXPECT_EQ(doc.nodes.size(), 10u);
+  p.angleList = "0, 4@90";
+  doc.nodes.push_back({4294967295u, 0, 0, 0, 0});
+  EXPECT_FALSE(AddCylindricalFrameToDocument(doc, p).ok());
+  EXPECT_EQ(doc.nodes.size(), 11u);
+}
+
+}  // namespace

@@ -1,0 +1,288 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <numbers>
+
+#include "support/TempDir.h"
+#include "tools/atomic_file.h"
+#include "tools/fm_exception.h"
+#include "tools/shape_bundle.h"
+#include "tools/shape_table.h"
+
+namespace {
+
+const std::string kDataDir = NORVANE_SOURCE_DATA_DIR;
+// The shared test data beside the project; NORVANE_TEST_DATA_DIR in the environment
+// points elsewhere (a worktree checked out away from it).
+std::string TestDataDir() {
+  const char* dir = std::getenv("NORVANE_TEST_DATA_DIR");
+  return dir && *dir ? dir : NORVANE_TEST_DATA_DIR;
+}
+const std::string kPublished = TestDataDir() + "/aisc-shapes-v15.0-US.csv";
+
+bool Exists(const std::string& path) { return std::filesystem::exists(path); }
+
+std::string Read(const std::string& path) { return Exists(path) ? tools::ReadWholeFile(path) : std::string(); }
+
+// The library reads the bundled tables as installed, and a private user folder.
+class ShapeLibraryTest : public ::testing::Test {
+ protected:
+  void SetUp() override { tools::SetShapeLibraryLocations({kDataDir, user.path() + "/norvane"}); }
+  void TearDown() override { tools::SetShapeLibraryLocations({}); }
+
+  std::string UserFile(const char* name) const { return user.path() + "/norvane/" + name; }
+  std::string WriteCsv(const std::string& name, const std::string& text) const {
+    tools::WriteFileAtomically(files / name, text);
+    return files / name;
+  }
+
+  TempDir user, files;
+};
+
+const std::string kHeader =
+    "EDI_Std_Nomenclature,AISC_Manual_Label,Type,T_F,W,A,d,bf,tw,tf,kdes,Ix,Iy,J,Comment\n";
+const std::string kGoodRows =
+    "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,light\n"
+    "W8X31,W8X31,W,F,31,9.13,8,8,0.285,0.435,0.829,110,37.1,0.536,\n";
+
+}  // namespace
+
+TEST(ShapeColumns, NamedValueIndicesMatchThePublishedLayout) {
+  const std::pair<int, const char*> named[] = {
+      {tools::aisc::W, "W"},     {tools::aisc::A, "A"},   {tools::aisc::d, "d"},       {tools::aisc::Ht, "Ht"},
+      {tools::aisc::h, "h"},     {tools::aisc::OD, "OD"}, {tools::aisc::bf, "bf"},     {tools::aisc::B, "B"},
+      {tools::aisc::b, "b"},     {tools::aisc::tw, "tw"}, {tools::aisc::tf, "tf"},     {tools::aisc::t, "t"},
+      {tools::aisc::tnom, "tnom"}, {tools::aisc::tdes, "tdes"}, {tools::aisc::kdes, "kdes"}, {tools::aisc::Ix, "Ix"},
+      {tools::aisc::Zx, "Zx"},   {tools::aisc::Sx, "Sx"}, {tools::aisc::rx, "rx"},     {tools::aisc::Iy, "Iy"},
+      {tools::aisc::Zy, "Zy"},   {tools::aisc::Sy, "Sy"}, {tools::aisc::ry, "ry"},     {tools::aisc::J, "J"},
+      {tools::aisc::Cw, "Cw"}};
+  for (const auto& [index, name] : named) EXPECT_EQ(tools::AiscValueIndex(name), index) << name;
+  EXPECT_EQ(tools::AiscValueIndex("AISC_Manual_Label"), -1);
+  EXPECT_EQ(std::string(tools::AiscColumnNames().back()), "WGo");
+}
+
+TEST(BundledShapes, CommittedFilesAreWhatTheBuilderMakes) {
+  const tools::BundledTables fresh = tools::BuildBundledTables(kDataDir);
+  EXPECT_TRUE(Read(kDataDir + "/aisc14u.idx") == fresh.aiscIndex) << "run: norvane-cli shapes bundle data";
+  EXPECT_TRUE(Read(kDataDir + "/aisc14u.tbl") == fresh.aiscTable) << "run: norvane-cli shapes bundle data";
+  EXPECT_TRUE(Read(kDataDir + "/nds.tbl") == fresh.nds) << "run: norvane-cli shapes bundle data";
+}
+
+TEST(BundledShapes, HoldTheCommonTypes) {
+  const auto lib = tools::AiscLibrary::LoadFrom(kDataDir);
+  for (const char* type : {"W", "HSS", "PIPE", "C", "MC", "L", "WT", "HP", "S"}) {
+    size_t n = 0;
+    for (const auto& s : lib.shapes()) n += s.type == type;
+    EXPECT_GT(n, 10u) << type;
+  }
+  for (const char* label : {"W14X90", "HSS6X6X1/2", "HSS6.625X0.500", "Pipe4STD", "C10X30", "L4X4X1/2"})
+    EXPECT_GE(lib.Find(label), 0) << label;
+}
+
+// Every W shape: its area and Ix agree with its flanges, web and four root fillets
+// (radius kdes - tf) within the rounding of the published figures.
+TEST(BundledShapes, EveryWShapeIsConsistentWithItsDimensions) {
+  const auto lib = tools::AiscLibrary::LoadFrom(kDataDir);
+  size_t checked = 0;
+  for (const auto& s : lib.shapes()) {
+    if (s.type != "W") continue;
+    namespace a = tools::aisc;
+    const double d = s.Value(a::d), bf = s.Value(a::bf), tf = s.Value(a::tf), tw = s.Value(a::tw);
+    const double r = s.Value(a::kdes) - tf, h = d - 2 * tf;
+    const double fillets = 4 * (1 - std::numbers::pi / 4) * r * r;
+    const double plates = 2 * bf * tf + h * tw;
+    const double fromCentroid = h / 2 - r * (10 - 3 * std::numbers::pi) / (12 - 3 * std::numbers::pi);
+    const double Ix = (bf * d * d * d - (bf - tw) * h * h * h) / 12 + fillets * fromCentroid * fromCentroid;
+    EXPECT_NEAR(s.Value(a::A), plates + fillets, 0.01 * s.Value(a::A)) << s.label;
+    EXPECT_GE(s.Value(a::A), plates * 0.99) << s.label;
+    EXPECT_NEAR(s.Value(a::Ix), Ix, 0.015 * s.Value(a::Ix)) << s.label;
+    EXPECT_GT(s.Value(a::Ix), s.Value(a::Iy)) << s.label;
+    ++checked;
+  }
+  EXPECT_GT(checked, 250u);
+}
+
+TEST(BundledShapes, LumberHasDressedSizesAndTheirProperties) {
+  const auto table = tools::ParseNdsTable(Read(kDataDir + "/nds.tbl"), "nds.tbl");
+  const struct {
+    const char* label;
+    double b, d;
+  } sizes[] = {{"1x4", 0.75, 3.5}, {"2x4", 1.5, 3.5},  {"2x6", 1.5, 5.5},  {"2x8", 1.5, 7.25},
+               {"2x12", 1.5, 11.25}, {"4x4", 3.5, 3.5}, {"6x6", 5.5, 5.5},  {"6x10", 5.5, 9.5},
+               {"8x8", 7.5, 7.5}};
+  for (const auto& size : sizes) {
+    const auto it = std::find_if(table.begin(), table.end(), [&](const auto& s) { return s.label == size.label; });
+    ASSERT_NE(it, table.end()) << size.label;
+    EXPECT_DOUBLE_EQ(it->b, size.b) << size.label;
+    EXPECT_DOUBLE_EQ(it->d, size.d) << size.label;
+  }
+  const auto& s = table[static_cast<size_t>(
+      std::find_if(table.begin(), table.end(), [](const auto& x) { return x.label == "2x4"; }) - table.begin())];
+  EXPECT_DOUBLE_EQ(s.A, 5.25);
+  EXPECT_NEAR(s.Sx, 3.0625, 1e-12);
+  EXPECT_NEAR(s.Ix, 5.359375, 1e-12);
+  EXPECT_NEAR(s.Iy, 0.984375, 1e-12);
+}
+
+TEST_F(ShapeLibraryTest, LooksUpShapesWithoutRegardToCase) {
+  std::vector<tools::AiscShapeIndexEntry> index;
+  ASSERT_TRUE(tools::get_shape_index(index));
+  const int i = tools::get_shape("w14x90");
+  ASSERT_GE(i, 0);
+  EXPECT_EQ(index[static_cast<size_t>(i)].label, "W14X90");
+  EXPECT_LT(tools::get_shape("W14X91"), 0);
+  EXPECT_LT(tools::get_shape(""), 0);
+  EXPECT_GE(tools::get_nds_shape("2X4"), 0);
+  EXPECT_LT(tools::get_nds_shape("2x5x7"), 0);
+}
+
+TEST_F(ShapeLibraryTest, TransformsShapesIntoSections) {
+  const struct {
+    const char* label;
+    double A, Ay, Az, Iz, Iy, J, b, d, tf, tw;
+  } cases[] = {
+      {"W14X90", 26.5, 0.44 * 14, 2 * 14.5 * 0.71 / 1.2, 999, 362, 4.06, 14.5, 14, 0.71, 0.44},
+      {"HSS6X6X1/2", 9.74, 2 * 6 * 0.465, 2 * 6 * 0.465, 48.3, 48.3, 81.1, 6, 6, 0.465, 0.465},
+      {"HSS6.625X0.500", 9, 4.5, 4.5, 42.9, 42.9, 85.9, 6.63, 6.63, 0.465, 0.465},
+      {"Pipe4STD", 2.96, 1.48, 1.48, 6.82, 6.82, 13.6, 4.5, 4.5, 0.221, 0.221},
+      {"L4X4X1/2", 3.75, 2, 2, 5.52, 5.52, 0.322, 4, 4, 0.5, 0.5},
+  };
+  for (const auto& c : cases) {
+    tools::fmSect_AISC shape;
+    ASSERT_TRUE(tools::get_aisc_shape(tools::get_shape(c.label), shape)) << c.label;
+    fmSect s(-1);
+    tools::transform_aisc_to_norvane_section(s, shape);
+    EXPECT_EQ(s.label, c.label);
+    const double got[] = {s.A, s.Ay, s.Az, s.Iz, s.Iy, s.J, s.b, s.d, s.tf, s.tw};
+    const double want[] = {c.A, c.Ay, c.Az, c.Iz, c.Iy, c.J, c.b, c.d, c.tf, c.tw};
+    for (size_t k = 0; k < std::size(got); ++k) EXPECT_NEAR(got[k], want[k], 1e-9 * (1 + want[k])) << c.label << " " << k;
+  }
+  fmSect wood;
+  tools::transform_nds_to_norvane_section(wood, (*tools::CurrentNdsTable())[size_t(tools::get_nds_shape("2x4"))]);
+  EXPECT_EQ(wood.label, "2x4");
+  EXPECT_DOUBLE_EQ(wood.A, 5.25);
+  EXPECT_DOUBLE_EQ(wood.Ay, 5.25 / 1.2);
+  EXPECT_DOUBLE_EQ(wood.b, 1.5);
+  EXPECT_DOUBLE_EQ(wood.d, 3.5);
+  tools::ScaleSectionFromInches(wood, 12);  // to feet
+  EXPECT_DOUBLE_EQ(wood.A, 5.25 / 144);
+  EXPECT_DOUBLE_EQ(wood.d, 3.5 / 12);
+}
+
+TEST_F(ShapeLibraryTest, ImportShadowsTheInstalledLibraryAndKeepsABackup) {
+  const std::string installedIdx = Read(kDataDir + "/aisc14u.idx");
+  const std::string csv = WriteCsv("small.csv", kHeader + kGoodRows);
+  tools::ascii_binary(csv);
+  ASSERT_TRUE(Exists(UserFile("aisc14u.idx")));
+  EXPECT_EQ(tools::ActiveAiscDirectory(), user.path() + "/norvane");
+  ASSERT_NE(tools::CurrentAiscLibrary(), nullptr);
+  EXPECT_EQ(tools::CurrentAiscLibrary()->size(), 2u);
+  EXPECT_LT(tools::get_shape("W14X90"), 0);
+  tools::fmSect_AISC s;
+  ASSERT_TRUE(tools::get_aisc_shape(tools::get_shape("W8X31"), s));
+  EXPECT_EQ(s.Value("Ix"), 110);
+  EXPECT_TRUE(std::isnan(s.Value("Zx"))) << "columns the file lacks are not applicable";
+
+  const std::string firstImport = Read(UserFile("aisc14u.tbl"));
+  tools::ascii_binary(WriteCsv("one.csv", kHeader + "W8X31,W8X31,W,F,31,9.13,8,8,0.285,0.435,0.829,110,37.1,0.536,\n"));
+  EXPECT_EQ(tools::CurrentAiscLibrary()->size(), 1u);
+  EXPECT_EQ(Read(UserFile("aisc14u.tbl.bak")), firstImport);
+  EXPECT_EQ(Read(kDataDir + "/aisc14u.idx"), installedIdx) << "the installed library is never written";
+}
+
+TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
+  tools::ascii_binary(WriteCsv("base.csv", kHeader + kGoodRows));
+  const std::string idx = Read(UserFile("aisc14u.idx")), tbl = Read(UserFile("aisc14u.tbl"));
+
+  const std::string noIx = "EDI_Std_Nomenclature,AISC_Manual_Label,Type,A,Iy,J\nX,X,W,1,2,3\n";
+  const struct {
+    const char* name;
+    std::string text;
+    const char* message;
+  } cases[] = {
+      {"missing column", noIx, "line 1: the header lacks the column(s) Ix."},
+      {"text for a number", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,5x3.8,2.18,0.0547,\n",
+       "line 2, column 12 (Ix): \"5x3.8\" is not a number."},
+      {"duplicate label", kHeader + kGoodRows + "W8x31,W8x31,W,F,31,9.13,8,8,0.285,0.435,0.829,110,37.1,0.536,\n",
+       "line 4, column 2 (AISC_Manual_Label): the label W8x31 is already used on line 3."},
+      {"empty file", "", "the file is empty."},
+      {"blank lines only", "\n \r\n", "the file is empty."},
+      {"binary file", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), "this is not a text file (it holds binary data)."},
+      {"not UTF-8", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,caf\xE9\n",
+       "line 2: the text is not UTF-8"},
+      {"short row", kHeader + "W10X12,W10X12,W,F,12\n", "line 2: 5 fields where the header names 15."},
+      {"unclosed quote", kHeader + "\"W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,x\n",
+       "line 2, column 1: a quoted field is not closed."},
+      {"no area", kHeader + "W10X12,W10X12,W,F,12,,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,\n",
+       "line 2, column 6 (A): the shape W10X12 needs a positive value."},
+      {"header only", kHeader, "the file names its columns but holds no shapes."},
+  };
+  for (const auto& c : cases) {
+    const std::string path = WriteCsv("bad.csv", c.text);
+    try {
+      tools::ascii_binary(path);
+      ADD_FAILURE() << c.name << " was accepted";
+    } catch (const fmException& e) {
+      const std::string what = e.what();
+      EXPECT_EQ(what.rfind("Cannot import \"" + path + "\": ", 0), 0u) << c.name << ": " << what;
+      EXPECT_NE(what.find(c.message), std::string::npos) << c.name << ": " << what;
+    }
+    EXPECT_TRUE(Read(UserFile("aisc14u.idx")) == idx) << c.name;
+    EXPECT_TRUE(Read(UserFile("aisc14u.tbl")) == tbl) << c.name;
+    EXPECT_FALSE(Exists(UserFile("aisc14u.tbl.new"))) << c.name;
+  }
+}
+
+TEST_F(ShapeLibraryTest, AHundredMegabyteFileIsRefusedUnread) {
+  const std::string path = files / "huge.csv";
+  {
+    std::ofstream f(path, std::ios::binary);
+    f << kHeader;
+  }
+  std::filesystem::resize_file(path, size_t(100) << 20);
+  try {
+    tools::ascii_binary(path);
+    ADD_FAILURE() << "a 100 MB file was accepted";
+  } catch (const fmException& e) {
+    EXPECT_NE(std::string(e.what()).find("too large"), std::string::npos) << e.what();
+  }
+  EXPECT_FALSE(Exists(UserFile("aisc14u.idx")));
+  EXPECT_EQ(tools::ActiveAiscDirectory(), kDataDir);
+}
+
+TEST_F(ShapeLibraryTest, ADamagedUserCopyFallsBackToTheInstalledLibrary) {
+  tools::ascii_binary(WriteCsv("base.csv", kHeader + kGoodRows));
+  std::string tbl = Read(UserFile("aisc14u.tbl"));
+  tbl[tbl.size() - 3] ^= 0x55;  // one flipped byte: the index's checksum no longer matches
+  tools::WriteFileAtomically(UserFile("aisc14u.tbl"), tbl);
+  tools::ReloadShapeLibrary();
+  EXPECT_THROW(tools::AiscLibrary::LoadFrom(user.path() + "/norvane"), fmException);
+  ASSERT_NE(tools::CurrentAiscLibrary(), nullptr);
+  EXPECT_GE(tools::get_shape("W14X90"), 0);
+}
+
+TEST_F(ShapeLibraryTest, BundledLibraryExportsAndReimportsUnchanged) {
+  const tools::AiscLibrary installed = tools::AiscLibrary::LoadFrom(kDataDir);
+  const std::string csv = files / "bundled.csv";
+  tools::binary_ascii(csv);
+  EXPECT_EQ(Read(csv).substr(0, 39), "EDI_Std_Nomenclature,AISC_Manual_Label,");
+  tools::ascii_binary(csv);
+  EXPECT_TRUE(tools::CurrentAiscLibrary()->shapes() == installed.shapes());
+}
+
+TEST_F(ShapeLibraryTest, PublishedDatabaseImportsAndExportsUnchanged) {
+  if (!Exists(kPublished)) GTEST_SKIP() << "the published shapes database is not present at " << kPublished;
+  tools::ascii_binary(kPublished);
+  const tools::AiscLibrary* lib = tools::CurrentAiscLibrary();
+  ASSERT_NE(lib, nullptr);
+  EXPECT_EQ(lib->size(), 2091u);
+  const auto published = tools::ParseAiscCsv(Read(kPublished), kPublished);
+  const std::string exported = files / "exported.csv";
+  tools::binary_ascii(exported);
+  const auto back = tools::ParseAiscCsv(Read(exported), exported);
+  ASSERT_EQ(back.size(), published.size());
+  for (size_t i = 0; i < back.size(); ++i) EXPECT_TRUE(back[i] == published[i]) << published[i].label;
+  EXPECT_TRUE(Read(exported) == Read(kPublished)) << "the export writes the published layout";
+}
