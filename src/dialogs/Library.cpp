@@ -10,6 +10,7 @@ void RegisterUnitsDialogs();
 void RegisterModelDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
+void RegisterResultsDialogs();
 
 namespace {
 int g_users = 0;
@@ -24,6 +25,7 @@ bool NorvaneDlgsStartup() {
   RegisterModelDialogs();
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
+  RegisterResultsDialogs();
   return true;
 }
 

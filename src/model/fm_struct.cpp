@@ -5,6 +5,8 @@
 #include <unordered_map>
 
 #include "model/id_index.h"
+#include "tools/fm_exception.h"
+#include "tools/format.h"
 
 const std::array<const char*, 6>& DofNames() {
   static const std::array<const char*, 6> names = {"X", "Y", "Z", "OX", "OY", "OZ"};
@@ -84,6 +86,14 @@ const fmCaseResults* CfmStruct::GetCaseResults(int index) const {
   if (index < 0 || index >= GetNumLoadCases() || static_cast<size_t>(index) >= m_Solution.results.size())
     return nullptr;
   return &m_Solution.results[static_cast<size_t>(index)];
+}
+
+const fmCaseResults& CfmStruct::GetResults(int index) const {
+  if (const fmCaseResults* results = GetCaseResults(index)) return *results;
+  if (index >= 0 && index < GetNumLoadCases())
+    throw fmException(tools::Format("The results of load case %d [%s] are not available.", index + 1,
+                                    GetCaseName(index).c_str()));
+  throw fmException(tools::Format("There is no load case %d.", index + 1));
 }
 
 CfmStruct::Indexes& CfmStruct::Idx() const {

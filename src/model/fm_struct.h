@@ -127,6 +127,8 @@ class CfmStruct {
   // The results of case i, or of the response-spectrum combination for -1; null when the
   // index names no case or the case has no results.
   const fmCaseResults* GetCaseResults(int index) const;
+  // The same for a report: a case whose results are missing throws fmException naming it.
+  const fmCaseResults& GetResults(int index) const;
 
   // Look-ups by number; null when there is none. Found through an index built on first use
   // and rebuilt when a table's size or storage changes (call TablesChanged after editing

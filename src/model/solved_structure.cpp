@@ -16,6 +16,12 @@ CfmStruct SolvedStructure(const ModelDocument& doc) {
   s.m_Sections = doc.sections;
   s.m_Thicknesses = doc.thicknesses;
   s.m_Solution = doc.results;
+  if (s.m_Solution.cases.empty()) {
+    // Never solved: the cases and combinations are listed and their results are missing.
+    s.m_Solution.cases = doc.loadCases;
+    for (const fmLoadComb& comb : doc.loadCombs)
+      s.m_Solution.cases.emplace_back(static_cast<int32_t>(s.m_Solution.cases.size() + 1), comb.name);
+  }
   return s;
 }
 

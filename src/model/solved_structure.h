@@ -8,7 +8,8 @@
 namespace model {
 
 // The solved structure of a document: its nodes, properties, units, display settings and
-// show-selected flag with the solution of its "results" section.
+// show-selected flag with the solution of its "results" section. A document never solved
+// lists its load cases and combinations, without results.
 CfmStruct SolvedStructure(const ModelDocument& doc);
 
 // Where the solution does not fit the model: result records naming nodes the model does not

@@ -9,6 +9,7 @@ extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
+extern const ResourceTable kResultsResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {
@@ -18,6 +19,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kModelResources,
       &kDesignResources,
       &kGeometryResources,
+      &kResultsResources,
   };
   return tables;
 }

@@ -522,6 +522,7 @@ void FillInfoSheet(grid::Sheet& sheet, grid::Color alternateRowColor, const std:
   int rows = static_cast<int>(lines.size()) + 1;
   for (size_t i = 0; i < lines.size(); ++i)
     if (isSection(i)) ++rows;
+  sheet = grid::Sheet();
   grid::InitializeGrid(sheet, alternateRowColor, rows, 1, {heading}, {95}, true);
   int row = 1;
   for (size_t i = 0; i < lines.size(); ++i) {

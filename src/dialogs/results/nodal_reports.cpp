@@ -71,7 +71,9 @@ class CellWriter {
   char buffer_[400];
 };
 
+// Each report starts from a new grid: nothing of an earlier report (a red sum) stays.
 void SetUpGrid(const ReportContext& ctx, int rows, const std::vector<std::string>& headers, double width) {
+  ctx.sheet = grid::Sheet();
   grid::InitializeGrid(ctx.sheet, ctx.alternateRowColor, rows, static_cast<int>(headers.size()), headers,
                        std::vector<double>(headers.size(), width), true);
 }
@@ -118,9 +120,8 @@ void Node_Forces(const ReportContext& ctx, int /*mode*/, const std::vector<fmRes
 }
 
 void Support_Reactions(const ReportContext& ctx, int caseIndex) {
-  const fmCaseResults* results = ctx.model.GetCaseResults(caseIndex);
-  if (!results || results->reactions.empty()) return;
-  const std::vector<fmResult6Val>& reactions = results->reactions;
+  const std::vector<fmResult6Val>& reactions = ctx.model.GetResults(caseIndex).reactions;
+  if (reactions.empty()) return;
   const CfmStruct& m = ctx.model;
   const bool selectedOnly = ShowSelected(ctx);
   auto shows = [&](int64_t node) { return m.IsNodeSelected(node); };
@@ -162,8 +163,7 @@ SpringKind SpringKindOf(int reportType) {
 }
 
 void Spring_Reactions(const ReportContext& ctx, int caseIndex) {
-  const fmCaseResults* results = ctx.model.GetCaseResults(caseIndex);
-  if (!results) return;
+  const fmCaseResults* results = &ctx.model.GetResults(caseIndex);
   const CfmStruct& m = ctx.model;
   const SpringKind kind = SpringKindOf(ctx.reportType);
   const std::vector<fmResult6Val>* records = &results->nodalSpringReactions;
@@ -216,8 +216,8 @@ void Spring_Reactions(const ReportContext& ctx, int caseIndex) {
 }
 
 void Multi_DOF_Constraint_Forces(const ReportContext& ctx, int caseIndex) {
-  const fmCaseResults* results = ctx.model.GetCaseResults(caseIndex);
-  if (!results || results->constraintForces.empty()) return;
+  const fmCaseResults* results = &ctx.model.GetResults(caseIndex);
+  if (results->constraintForces.empty()) return;
   const CfmStruct& m = ctx.model;
   const bool selectedOnly = ShowSelected(ctx);
   // A constraint belongs to the selection when either of its nodes is selected.

@@ -66,14 +66,8 @@ const char* FixedTitle(int kind) {
   }
 }
 
-const std::vector<fmResult6Val>& NoRecords() {
-  static const std::vector<fmResult6Val> none;
-  return none;
-}
-
 const std::vector<fmResult6Val>& Displacements(const CfmStruct& m, int caseIndex) {
-  const fmCaseResults* r = m.GetCaseResults(caseIndex);
-  return r ? r->displacements : NoRecords();
+  return m.GetResults(caseIndex).displacements;
 }
 
 const fmSpectrumMode* SpectrumMode(const CfmStruct& m, int mode) {

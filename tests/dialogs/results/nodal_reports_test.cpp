@@ -3,6 +3,7 @@
 #include "dialogs/grid/grid_ops.h"
 #include "dialogs/results/nodal_reports.h"
 #include "dialogs/results/sample_struct.h"
+#include "tools/fm_exception.h"
 
 using namespace results;
 
@@ -79,8 +80,15 @@ TEST_F(NodalReports, SupportReactionsEndWithARedSumOfTheRowsShown) {
   s.m_nShowSelected = 0;
   Support_Reactions(Context(42), -1);
   EXPECT_EQ(Row(1), (Cells{"1", "1.000", "0.000", "0.000", "0.000", "0.000", "0.000"}));
-  Support_Reactions(Context(1), 7);
-  EXPECT_EQ(sheet.MaxRows(), 0);
+  // A case the solution has no results for is the model library's error.
+  EXPECT_THROW(Support_Reactions(Context(1), 7), fmException);
+  s.m_Solution.results.resize(1);
+  try {
+    Spring_Reactions(Context(2), 2);
+    ADD_FAILURE() << "no error";
+  } catch (const fmException& e) {
+    EXPECT_STREQ(e.GetMessage(), "The results of load case 3 [D+W] are not available.");
+  }
 }
 
 TEST_F(NodalReports, TheNextReportDoesNotKeepTheRedSum) {
