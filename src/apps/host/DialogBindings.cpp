@@ -33,4 +33,5 @@ void RegisterAllBindings() {
   RegisterModelBindings();
   RegisterConcreteDesignBindings();
   RegisterGeometryBindings();
+  RegisterResultsBindings();
 }

@@ -14,6 +14,9 @@ struct DialogBinding {
   std::function<void(CDialog& dlg, HostModel& model)> prepare;
   // After IDOK; returns whether the model changed.
   std::function<bool(CDialog& dlg, HostModel& model)> takeBack;
+  // After the dialog closed, whatever its result (a dialog without OK that still writes to
+  // the model); returns whether the model changed.
+  std::function<bool(CDialog& dlg, HostModel& model)> afterClose = nullptr;
 };
 
 const DialogBinding* FindDialogBinding(std::string_view className);
@@ -25,4 +28,5 @@ void RegisterUnitsBindings();
 void RegisterModelBindings();
 void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
+void RegisterResultsBindings();
 void RegisterAllBindings();

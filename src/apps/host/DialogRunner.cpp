@@ -41,10 +41,13 @@ int RunBoundDialog(const std::string& className, HostModel& model, QWidget* pare
 }
 
 bool TakeBackDialogResult(const std::string& className, CDialog& dlg, int result, HostModel& model) {
-  if (result != IDOK) return false;
   const DialogBinding* binding = FindDialogBinding(className);
-  // A dialog without a take-back (an about box) leaves the model as it was.
-  const bool changed = binding && binding->takeBack && binding->takeBack(dlg, model);
+  bool changed = binding && binding->afterClose && binding->afterClose(dlg, model);
+  if (result == IDOK) {
+    // A dialog without a take-back (an about box) leaves the model as it was.
+    changed = (binding && binding->takeBack && binding->takeBack(dlg, model)) || changed;
+  }
+  model.dialogState.reset();
   if (changed) model.modified = true;
   return changed;
 }

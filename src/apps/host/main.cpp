@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <iostream>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -9,21 +10,25 @@
 #include "apps/host/HostWindow.h"
 #include "dialogs/Library.h"
 #include "dialogs/frame/Prompter.h"
+#include "tools/parse.h"
 
 namespace {
 
 const char* kUsage =
     "usage: norvane-host [MODEL] [--screenshot FILE]\n"
     "       norvane-host --show CLASS [--model FILE] [--screenshot FILE]\n"
+    "       norvane-host --show CResultsDlg --kind N [--case N] [--query ID] ...\n"
     "\n"
     "Without --show the main window opens on MODEL (the bundled example by default).\n"
     "--show runs one dialog on the model; with --screenshot it renders the dialog to a PNG\n"
-    "after its set-up and exits.\n";
+    "after its set-up and exits. --kind, --case and --query are handed to the dialog's\n"
+    "binding (the results dialog: report kind, 1-based case or mode, object number).\n";
 
 struct Options {
   std::string model;
   std::string showClass;
   std::string screenshot;
+  std::map<std::string, std::string> showOptions;  // "kind" -> "1"
 };
 
 bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string& error) {
@@ -43,6 +48,14 @@ bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string&
       if (!value(o.model)) return false;
     } else if (a == "--screenshot") {
       if (!value(o.screenshot)) return false;
+    } else if (a == "--kind" || a == "--case" || a == "--query") {
+      std::string number;
+      if (!value(number)) return false;
+      if (!tools::ParseInt32(number)) {
+        error = a + " needs a whole number";
+        return false;
+      }
+      o.showOptions[a.substr(2)] = number;
     } else if (!a.empty() && a[0] == '-') {
       error = "unknown option " + a;
       return false;
@@ -88,6 +101,7 @@ int main(int argc, char** argv) {
     try {
       window.model().doc = model::LoadModelDocument(modelPath);
       window.model().path = modelPath;
+      window.model().showOptions = options.showOptions;
       window.RefreshView();
     } catch (const std::exception& e) {
       std::cerr << "norvane-host: " << e.what() << "\n";
