@@ -8,6 +8,7 @@
 void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
 void RegisterModelDialogs();
+void RegisterLoadsDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
 void RegisterResultsDialogs();
@@ -23,6 +24,7 @@ bool NorvaneDlgsStartup() {
   RegisterFrameDialogs();
   RegisterUnitsDialogs();
   RegisterModelDialogs();
+  RegisterLoadsDialogs();
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
   RegisterResultsDialogs();

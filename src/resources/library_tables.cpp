@@ -7,6 +7,7 @@ extern const ResourceTable kFrameResources;
 extern const ResourceTable kUnitsResources;
 extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
+extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
 extern const ResourceTable kResultsResources;
@@ -19,6 +20,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kModelResources,
       &kDesignResources,
       &kGeometryResources,
+      &kLoadsResources,
       &kResultsResources,
   };
   return tables;

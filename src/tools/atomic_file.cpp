@@ -4,6 +4,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <locale.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -18,7 +20,7 @@ namespace {
 }
 
 [[noreturn]] void Fail(const std::string& action, const std::string& path, int err) {
-  Fail(action, path, std::string(std::strerror(err)));
+  Fail(action, path, SystemErrorText(err));
 }
 
 std::string FolderOf(const std::string& path) {
@@ -53,16 +55,48 @@ void WriteAll(int fd, std::string_view contents, const std::string& path) {
   }
 }
 
-}  // namespace
-
-void WriteFileAtomically(const std::string& path, std::string_view contents) {
-  std::string temp = path + ".XXXXXX";
+// An empty file beside `path`, with the usual permissions of a new document; its descriptor.
+int CreateBeside(const std::string& path, std::string& temp) {
+  temp = path + ".XXXXXX";
   const int fd = ::mkstemp(temp.data());
   if (fd < 0) FailToCreate(path, errno);
-  // mkstemp creates 0600; give the file the usual permissions of a new document.
   const mode_t mask = ::umask(0);
   ::umask(mask);
   ::fchmod(fd, 0666 & ~mask);
+  return fd;
+}
+
+void RenameInto(const std::string& temp, const std::string& path) {
+  if (::rename(temp.c_str(), path.c_str()) != 0) {
+    const int err = errno;
+    ::unlink(temp.c_str());
+    Fail("replace", path, err);
+  }
+}
+
+}  // namespace
+
+std::string SystemErrorText(int err) {
+  // Messages are in the program's language, whatever the user's locale.
+  static const locale_t c = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
+  return c ? strerror_l(err, c) : std::strerror(err);
+}
+
+void ReplaceFileWith(const std::string& path, const std::function<void(const std::string& tempPath)>& write) {
+  std::string temp;
+  ::close(CreateBeside(path, temp));
+  try {
+    write(temp);
+  } catch (...) {
+    ::unlink(temp.c_str());
+    throw;
+  }
+  RenameInto(temp, path);
+}
+
+void WriteFileAtomically(const std::string& path, std::string_view contents) {
+  std::string temp;
+  const int fd = CreateBeside(path, temp);
   try {
     WriteAll(fd, contents, path);
   } catch (...) {
@@ -74,11 +108,7 @@ void WriteFileAtomically(const std::string& path, std::string_view contents) {
     ::unlink(temp.c_str());
     Fail("write", path, err);
   }
-  if (::rename(temp.c_str(), path.c_str()) != 0) {
-    const int err = errno;
-    ::unlink(temp.c_str());
-    Fail("replace", path, err);
-  }
+  RenameInto(temp, path);
 }
 
 void AppendToFile(const std::string& path, std::string_view contents) {

@@ -1,4 +1,5 @@
 #pragma once
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -22,6 +23,12 @@ class FileError : public std::runtime_error {
 void WriteFileAtomically(const std::string& path, std::string_view contents);
 // Appends, creating the file when missing; never truncates what is there.
 void AppendToFile(const std::string& path, std::string_view contents);
+// For writers that write a file by name (a workbook library): `write` fills an empty file
+// made beside `path`, which is then renamed into place; if `write` throws, the file is
+// removed and the old one stays.
+void ReplaceFileWith(const std::string& path, const std::function<void(const std::string& tempPath)>& write);
+// The C library's text for an error number, always in English.
+std::string SystemErrorText(int err);
 // Reads a whole file; refuses files larger than maxBytes.
 std::string ReadWholeFile(const std::string& path, size_t maxBytes = size_t(1) << 30);
 

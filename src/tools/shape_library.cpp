@@ -46,13 +46,13 @@ void MakeFolders(const std::string& dir) {
     if (i < dir.size() && dir[i] != '/') continue;
     const std::string part = dir.substr(0, i);
     if (::mkdir(part.c_str(), 0777) != 0 && errno != EEXIST)
-      throw fmException("Cannot create the folder \"" + part + "\": " + std::strerror(errno));
+      throw fmException("Cannot create the folder \"" + part + "\": " + SystemErrorText(errno));
   }
 }
 
 void Rename(const std::string& from, const std::string& to) {
   if (std::rename(from.c_str(), to.c_str()) != 0)
-    throw fmException("Cannot replace \"" + to + "\": " + std::strerror(errno));
+    throw fmException("Cannot replace \"" + to + "\": " + SystemErrorText(errno));
 }
 
 }  // namespace

@@ -74,7 +74,7 @@ TEST_F(HostWindowTest, BadFilesAreExplainedAndTheOpenModelIsKept) {
     std::string problem;
   };
   const Case cases[] = {
-      {"missing file", (dir / "nowhere.json").string(), "", std::strerror(ENOENT)},
+      {"missing file", (dir / "nowhere.json").string(), "", std::string("No such file or directory")},
       {"a folder", dir.string(), "", "it is a folder, not a file"},
       {"malformed", Write("broken.json", "{\n  \"format\": \"norvane-model\"\n  \"schemaVersion\": 1\n}"),
        "line 3, column 3", "syntax error"},

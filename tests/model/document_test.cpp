@@ -104,8 +104,8 @@ TEST(ModelDocument, MissingFileNamesTheFileAndTheReason) {
   } catch (const model::DocumentLoadError& e) {
     EXPECT_EQ(e.file(), path);
     EXPECT_EQ(e.place(), "");
-    EXPECT_EQ(e.problem(), std::strerror(ENOENT));
-    EXPECT_EQ(std::string(e.what()), "Cannot open model \"" + path + "\": " + std::strerror(ENOENT));
+    EXPECT_EQ(e.problem(), std::string("No such file or directory"));
+    EXPECT_EQ(std::string(e.what()), "Cannot open model \"" + path + "\": " + std::string("No such file or directory"));
   }
 }
 

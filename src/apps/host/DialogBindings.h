@@ -14,9 +14,8 @@ struct DialogBinding {
   std::function<void(CDialog& dlg, HostModel& model)> prepare;
   // After IDOK; returns whether the model changed.
   std::function<bool(CDialog& dlg, HostModel& model)> takeBack;
-  // After the dialog closed, whatever its result (a dialog without OK that still writes to
-  // the model); returns whether the model changed.
-  std::function<bool(CDialog& dlg, HostModel& model)> afterClose = nullptr;
+  // After IDCANCEL, for dialogs that act on the host's data at once; returns whether the model changed.
+  std::function<bool(CDialog& dlg, HostModel& model)> afterCancel = nullptr;
 };
 
 const DialogBinding* FindDialogBinding(std::string_view className);
@@ -26,6 +25,7 @@ void RegisterDialogBinding(DialogBinding binding);
 void RegisterFrameBindings();
 void RegisterUnitsBindings();
 void RegisterModelBindings();
+void RegisterLoadsBindings();
 void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
 void RegisterResultsBindings();

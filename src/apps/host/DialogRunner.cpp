@@ -42,11 +42,11 @@ int RunBoundDialog(const std::string& className, HostModel& model, QWidget* pare
 
 bool TakeBackDialogResult(const std::string& className, CDialog& dlg, int result, HostModel& model) {
   const DialogBinding* binding = FindDialogBinding(className);
-  bool changed = binding && binding->afterClose && binding->afterClose(dlg, model);
-  if (result == IDOK) {
-    // A dialog without a take-back (an about box) leaves the model as it was.
-    changed = (binding && binding->takeBack && binding->takeBack(dlg, model)) || changed;
-  }
+  if (!binding) return false;
+  // A dialog without a take-back (an about box) leaves the model as it was; one that acts on
+  // the model at once may have changed it even when cancelled.
+  const auto& takeBack = result == IDOK ? binding->takeBack : binding->afterCancel;
+  const bool changed = takeBack && takeBack(dlg, model);
   model.dialogState.reset();
   if (changed) model.modified = true;
   return changed;

@@ -12,9 +12,9 @@ class QWidget;
 std::unique_ptr<CDialog> CreateBoundDialog(const std::string& className, HostModel& model, QWidget* parent);
 // DoModal and then TakeBackDialogResult.
 int RunBoundDialog(const std::string& className, HostModel& model, QWidget* parent);
-// The binding's after-close (whatever the result), then after IDOK its take-back; marks the
-// model modified when it changed. Other results leave the model as it was unless the
-// after-close wrote to it. Returns whether the model changed.
+// After IDOK, the binding's take-back; after any other result its after-cancel, for dialogs
+// that act on the model at once. Marks the model modified when it changed and returns
+// whether it did.
 bool TakeBackDialogResult(const std::string& className, CDialog& dlg, int result, HostModel& model);
 // Builds the dialog without a modal loop, runs its set-up and renders it to a PNG.
 // Message boxes raised during set-up are written to stderr instead of waiting for a click.

@@ -32,8 +32,8 @@ void RegisterResultsBindings() {
         dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
       },
       nullptr};
-  // "Show selected only" is the model's data option, kept however the dialog closes.
-  binding.afterClose = [](CDialog& d, HostModel& m) {
+  // "Show selected only" is the model's data option, kept when the dialog closes (it has no OK).
+  binding.afterCancel = [](CDialog& d, HostModel& m) {
     const CfmStruct* solved = static_cast<CResultsDlg&>(d).m_pStruct;
     const bool selectedOnly = solved && solved->m_nShowSelected != 0;
     if (!solved || selectedOnly == m.doc.display.showSelectedOnly) return false;

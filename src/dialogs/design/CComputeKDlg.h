@@ -1,4 +1,7 @@
 #pragma once
+#include <optional>
+#include <utility>
+
 #include "dialogs/design/effective_length.h"
 #include "dialogs/frame/CDialog.h"
 

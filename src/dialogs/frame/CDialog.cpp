@@ -157,6 +157,12 @@ QString WidgetText(const QWidget* w) {
   if (auto* edit = qobject_cast<const QLineEdit*>(w)) return edit->text();
   if (auto* folder = dynamic_cast<const FolderBrowseEdit*>(w)) return folder->text();
   if (auto* combo = qobject_cast<const QComboBox*>(w)) return combo->currentText();
+  if (auto* tree = qobject_cast<const QTreeWidget*>(w)) {
+    // A report list's text is its column headings, as SetWidgetText takes them.
+    QStringList headings;
+    for (int col = 0; col < tree->columnCount(); ++col) headings << tree->headerItem()->text(col);
+    return headings.join('\t');
+  }
   return w->windowTitle();
 }
 

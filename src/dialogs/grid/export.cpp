@@ -201,7 +201,7 @@ std::optional<std::string> WriteWorkbook(const Sheet& sheet, const std::string& 
     }
   }
   if (const lxw_error err = book.Close(); err != LXW_NO_ERROR) {
-    if (err == LXW_ERROR_CREATING_XLSX_FILE && errno != 0) return CannotWrite(target, std::strerror(errno));
+    if (err == LXW_ERROR_CREATING_XLSX_FILE && errno != 0) return CannotWrite(target, tools::SystemErrorText(errno));
     return CannotWrite(target, lxw_strerror(err));
   }
   return std::nullopt;
@@ -218,20 +218,15 @@ std::optional<std::string> ExportWorkbook(const Sheet& sheet, const std::string&
 
   // The library writes the file itself, so it writes beside the target and the finished
   // workbook is renamed into place.
-  std::string temp = path + ".tmpXXXXXX";
-  const int fd = ::mkstemp(temp.data());
-  if (fd < 0) return CannotWrite(path, std::strerror(errno));
-  const mode_t mask = ::umask(0);
-  ::umask(mask);
-  ::fchmod(fd, 0666 & ~mask);
-  ::close(fd);
-
-  errno = 0;
-  std::optional<std::string> failure = WriteWorkbook(sheet, temp, path, title);
-  if (!failure && ::rename(temp.c_str(), path.c_str()) != 0)
-    failure = "Cannot replace \"" + path + "\": " + std::strerror(errno);
-  if (failure) ::unlink(temp.c_str());
-  return failure;
+  try {
+    tools::ReplaceFileWith(path, [&](const std::string& temp) {
+      errno = 0;
+      if (auto failure = WriteWorkbook(sheet, temp, path, title)) throw tools::FileError(*failure);
+    });
+  } catch (const tools::FileError& e) {
+    return std::string(e.what());
+  }
+  return std::nullopt;
 }
 
 }  // namespace

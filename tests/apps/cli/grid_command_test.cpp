@@ -54,7 +54,7 @@ TEST(CliGridExport, RefusalsGiveAMessageAnExitStatusAndNoFile) {
       {"grid export " + dir.File("missing.json") + " nodes " + dir.File("n.txt"), 1, "No such file or directory"},
       {"grid export " + dir.File("broken.json") + " nodes " + dir.File("n.txt"), 1, "Cannot open model"},
       {"grid export " + kModel + " nodes " + dir.File("no/n.txt"), 1,
-       "Cannot write \"" + dir.File("no/n.txt") + "\": No such file or directory"},
+       "Cannot write \"" + dir.File("no/n.txt") + "\": the folder \"" + dir.File("no") + "\" does not exist"},
       {"grid export " + kModel + " nodes", 2, "usage: norvane-cli grid export MODEL TABLE OUT [--append]"},
       {"grid export " + kModel + " nodes " + dir.File("n.txt") + " --force", 2, "unknown option --force"},
       {"grid print", 2, "usage:"},

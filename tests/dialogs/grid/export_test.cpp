@@ -354,10 +354,10 @@ TEST(ExportSheet, UnwritablePlacesGiveAMessageAndLeaveNoFile) {
     for (bool append : {false, true}) {
       const std::string missing = dir.File("missing/nodes.") + ext;
       EXPECT_EQ(grid::ExportSheet(sheet, missing, append, "Node Table"),
-                "Cannot write \"" + missing + "\": No such file or directory");
+                "Cannot write \"" + missing + "\": the folder \"" + dir.File("missing") + "\" does not exist");
       const std::string underFile = dir.File("plain/nodes.") + ext;
       EXPECT_EQ(grid::ExportSheet(sheet, underFile, append, "Node Table"),
-                "Cannot write \"" + underFile + "\": Not a directory");
+                "Cannot write \"" + underFile + "\": \"" + dir.File("plain") + "\" is not a folder");
     }
   }
   EXPECT_EQ(dir.Entries(), std::vector<std::string>{"plain"});

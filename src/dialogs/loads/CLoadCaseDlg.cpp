@@ -1,0 +1,82 @@
+#include "dialogs/loads/CLoadCaseDlg.h"
+
+#include "dialogs/loads/load_grids.h"
+#include "dialogs/loads/load_messages.h"
+#include "resources/grid_ids.h"
+#include "resources/loads_ids.h"
+#include "resources/resources.h"
+
+using namespace res;
+
+CLoadCaseDlg::CLoadCaseDlg(QWidget* pParent) : CDataGridDlg(kTplLoadCase, pParent) {
+  OnCommand(kCtlNewRows, [this] { OnNewCaseRows(); });
+  OnCommand(kCtlCaseDeleteRows, [this] { OnDeleteRows(); });
+}
+
+BOOL CLoadCaseDlg::OnInitDialog() {
+  // The data-grid set-up without its locked-model guard: this table has its own wording,
+  // and OK itself reads "Close".
+  CDialog::OnInitDialog();
+  m_Spread.CreateInPlace(this, kCtlGridPlaceholder, kCtlGrid);
+  Refresh();
+  if (IsReadOnly()) {
+    for (int id : {kCtlNewRowCount, kCtlNewRows, kCtlCaseDeleteRows}) EnableDlgItem(id, false);
+    SetDlgItemText(IDOK, LoadStringOr(kStrClose, "Close"));
+    ShowDlgItem(IDCANCEL, false);
+    MessageBox(loads::kMsgModelLocked, MessageIcon::Information);
+  }
+  return 1;
+}
+
+void CLoadCaseDlg::Refresh() {
+  filledRows_ = static_cast<int>(m_pLoadCases->size());
+  TSpread::RedrawGuard guard(m_Spread);
+  loadgrid::FillCases(m_Spread.sheet(), *m_pLoadCases, m_crAlternateRowColor, IsReadOnly());
+}
+
+void CLoadCaseDlg::OnOK() {
+  if (IsReadOnly()) {
+    EndDialog(IDCANCEL);
+    return;
+  }
+  CDataGridDlg::OnOK();
+}
+
+bool CLoadCaseDlg::Save() {
+  loadgrid::CaseReadResult result = loadgrid::ReadCases(m_Spread.sheet(), filledRows_);
+  if (!m_Spread.ShowFailure(result.failure)) return false;
+  *m_pLoadCases = std::move(result.cases);
+  return true;
+}
+
+void CLoadCaseDlg::OnNewCaseRows() {
+  if (IsReadOnly()) return;
+  const int before = m_Spread.sheet().MaxRows();
+  OnNewRows();
+  if (m_Spread.sheet().MaxRows() == before) return;
+  TSpread::RedrawGuard guard(m_Spread);
+  loadgrid::PrepareNewCaseRows(m_Spread.sheet(), before + 1);
+}
+
+void CLoadCaseDlg::OnDeleteRows() {
+  if (IsReadOnly()) return;
+  grid::Sheet& sheet = m_Spread.sheet();
+  grid::Block block = sheet.SelectBlock();
+  if (block.IsEmpty()) {
+    const grid::CellRef active = sheet.ActiveCell();
+    if (active.row < 1) return;
+    block = {1, active.row, 1, active.row};
+  }
+  std::optional<grid::GridFailure> refusal;
+  {
+    TSpread::RedrawGuard guard(m_Spread);
+    refusal = loadgrid::DeleteCaseRows(sheet, block.row1, block.row2);
+    if (!refusal) {
+      const int deletedFilled = std::max(0, std::min(block.row2, filledRows_) - block.row1 + 1);
+      filledRows_ -= deletedFilled;
+      sheet.SetSelectBlock({});
+    }
+  }
+  if (refusal) m_Spread.ShowFailure(refusal);
+  else m_Spread.SetSelectBlock({});
+}

@@ -1,0 +1,26 @@
+#pragma once
+#include <vector>
+
+#include "dialogs/grid/CDataGridDlg.h"
+#include "model/fm_load.h"
+
+// The load case table: number, label and load type of every static load case. OK replaces
+// the host's cases; the first case keeps its label and can never be deleted.
+class CLoadCaseDlg : public CDataGridDlg {
+ public:
+  explicit CLoadCaseDlg(QWidget* pParent = nullptr);
+
+  std::vector<fmLoadCase>* m_pLoadCases = nullptr;
+
+ protected:
+  BOOL OnInitDialog() override;
+  void OnOK() override;
+  void Refresh() override;
+  bool Save() override;
+
+  void OnNewCaseRows();
+  void OnDeleteRows();
+
+ private:
+  int filledRows_ = 0;  // rows filled from the host's cases and still in the grid
+};

@@ -1,0 +1,73 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+
+#include "dialogs/loads/CStdLoadCombinationDlg.h"
+#include "resources/loads_ids.h"
+#include "support/DialogTest.h"
+
+using namespace res;
+
+namespace {
+
+class StdDialogTest : public DialogTest {
+ protected:
+  QListWidget* List() { return dlg.Item<QListWidget>(kCtlStdList); }
+  int Checked() {
+    int n = 0;
+    for (int i = 0; i < List()->count(); ++i) n += List()->item(i)->checkState() == Qt::Checked;
+    return n;
+  }
+  CStdLoadCombinationDlg dlg;
+};
+
+}  // namespace
+
+TEST_F(StdDialogTest, OpensOnTheFirstCodeWithEveryLineUnchecked) {
+  dlg.InitDialogForTest();
+  EXPECT_EQ(dlg.windowTitle().toStdString(), "Standard Load Combinations");
+  auto* codes = dlg.Item<QComboBox>(kCtlStdCode);
+  QStringList titles;
+  for (int i = 0; i < codes->count(); ++i) titles << codes->itemText(i);
+  EXPECT_EQ(titles.join('|').toStdString(),
+            "IBC-2015 LRFD|IBC-2015 ASD|ACI 318-11/14|ACI 318-11/14 (Service Wind)|ACI 318-02/05/08|ACI 318-1999|"
+            "AISC-LRFD93|AISC-ASD89");
+  EXPECT_EQ(codes->currentIndex(), 0);
+  ASSERT_EQ(List()->count(), 36);
+  EXPECT_EQ(List()->item(13)->text().toStdString(), "IBC-2015_Eq16-3g:  1.2D + 1.6Lr - 0.5W");
+  EXPECT_EQ(Checked(), 0);
+  EXPECT_EQ(dlg.GetDlgItemText(kCtlStdPDelta), "Perform P-Delta Analyses on the load combinations");
+}
+
+TEST_F(StdDialogTest, ChangingTheCodeResetsTheList) {
+  dlg.InitDialogForTest();
+  dlg.PressButton(kCtlStdSelectAll);
+  EXPECT_EQ(Checked(), 36);
+  dlg.ChooseItem(kCtlStdCode, 5);
+  ASSERT_EQ(List()->count(), 9);
+  EXPECT_EQ(List()->item(0)->text().toStdString(), "ACI-1999_Eq9-1:  1.4D + 1.7L");
+  EXPECT_EQ(Checked(), 0);
+}
+
+TEST_F(StdDialogTest, SelectAllClearAllAndOkCopyTheChecks) {
+  dlg.m_nCode = 7;
+  dlg.InitDialogForTest();
+  ASSERT_EQ(List()->count(), 10);
+  dlg.PressButton(kCtlStdSelectAll);
+  dlg.PressButton(kCtlStdClearAll);
+  List()->item(1)->setCheckState(Qt::Checked);
+  List()->item(9)->setCheckState(Qt::Checked);
+  dlg.Item<QCheckBox>(kCtlStdPDelta)->setChecked(true);
+  ASSERT_TRUE(dlg.PressButton(IDOK));
+  EXPECT_EQ(dlg.ModalResult(), IDOK);
+  EXPECT_EQ(dlg.m_nCode, 7);
+  EXPECT_EQ(dlg.m_bPDelta, 1);
+  EXPECT_EQ(dlg.m_checks, (std::vector<int32_t>{0, 1, 0, 0, 0, 0, 0, 0, 0, 1}));
+}
+
+TEST_F(StdDialogTest, CodeOutOfRangeOpensOnTheFirst) {
+  dlg.m_nCode = 12;
+  dlg.InitDialogForTest();
+  EXPECT_EQ(dlg.Item<QComboBox>(kCtlStdCode)->currentIndex(), 0);
+  EXPECT_EQ(List()->count(), 36);
+}
