@@ -13,6 +13,7 @@ void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
 void RegisterGridDialogs();
 void RegisterSectionsDialogs();
+void RegisterResultsDialogs();
 
 namespace {
 int g_users = 0;
@@ -30,6 +31,7 @@ bool NorvaneDlgsStartup() {
   RegisterGeometryDialogs();
   RegisterGridDialogs();
   RegisterSectionsDialogs();
+  RegisterResultsDialogs();
   return true;
 }
 

@@ -36,4 +36,5 @@ void RegisterAllBindings() {
   RegisterGeometryBindings();
   RegisterGridBindings();
   RegisterSectionsBindings();
+  RegisterResultsBindings();
 }

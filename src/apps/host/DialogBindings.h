@@ -30,4 +30,5 @@ void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
 void RegisterGridBindings();
 void RegisterSectionsBindings();
+void RegisterResultsBindings();
 void RegisterAllBindings();
