@@ -11,8 +11,9 @@ void RegisterModelDialogs();
 void RegisterLoadsDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
-void RegisterSectionsDialogs();
 void RegisterGridDialogs();
+void RegisterSectionsDialogs();
+void RegisterResultsDialogs();
 
 namespace {
 int g_users = 0;
@@ -28,8 +29,9 @@ bool NorvaneDlgsStartup() {
   RegisterLoadsDialogs();
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
-  RegisterSectionsDialogs();
   RegisterGridDialogs();
+  RegisterSectionsDialogs();
+  RegisterResultsDialogs();
   return true;
 }
 

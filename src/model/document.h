@@ -5,10 +5,12 @@
 #include <vector>
 
 #include "model/display_settings.h"
+#include "model/fm_element.h"
 #include "model/fm_load.h"
 #include "model/fm_material.h"
 #include "model/fm_node.h"
 #include "model/fm_section.h"
+#include "model/fm_solution.h"
 #include "tools/fm_unit.h"
 
 namespace model {
@@ -24,6 +26,10 @@ struct ModelDocument {
   std::vector<fmMat> materials;
   std::vector<fmSect> sections;
   std::vector<fmThick> thicknesses;
+  std::vector<fmBm> members;
+  std::vector<fmShell4> shells;
+  std::vector<fmBrick> bricks;
+  fmSolution results;  // what the last solver run produced; empty when never solved
 };
 
 // The schema version written; older versions stay readable.

@@ -11,6 +11,7 @@ extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
 extern const ResourceTable kSectionsResources;
+extern const ResourceTable kResultsResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {
@@ -22,6 +23,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kGeometryResources,
       &kSectionsResources,
       &kLoadsResources,
+      &kResultsResources,
   };
   return tables;
 }

@@ -34,6 +34,7 @@ void RegisterAllBindings() {
   RegisterLoadsBindings();
   RegisterConcreteDesignBindings();
   RegisterGeometryBindings();
-  RegisterSectionsBindings();
   RegisterGridBindings();
+  RegisterSectionsBindings();
+  RegisterResultsBindings();
 }

@@ -28,6 +28,7 @@ void RegisterModelBindings();
 void RegisterLoadsBindings();
 void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
-void RegisterSectionsBindings();
 void RegisterGridBindings();
+void RegisterSectionsBindings();
+void RegisterResultsBindings();
 void RegisterAllBindings();
