@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <string>
 
-#include "support/temp_dir.h"
+#include "support/TempDir.h"
 #include "tools/atomic_file.h"
 
 namespace {

@@ -7,7 +7,7 @@
 #include <fstream>
 #include <numbers>
 
-#include "support/temp_dir.h"
+#include "support/TempDir.h"
 #include "tools/atomic_file.h"
 #include "tools/fm_exception.h"
 #include "tools/shape_bundle.h"

@@ -5,7 +5,7 @@
 
 #include "dialogs/frame/CDialog.h"
 #include "support/DialogTest.h"
-#include "support/temp_dir.h"
+#include "support/TempDir.h"
 #include "tools/shape_table.h"
 
 // Dialog tests of the section family: the shape library reads the source tree's bundled
