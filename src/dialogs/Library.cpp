@@ -11,6 +11,8 @@ void RegisterModelDialogs();
 void RegisterLoadsDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
+void RegisterGridDialogs();
+void RegisterSectionsDialogs();
 void RegisterResultsDialogs();
 
 namespace {
@@ -27,6 +29,8 @@ bool NorvaneDlgsStartup() {
   RegisterLoadsDialogs();
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
+  RegisterGridDialogs();
+  RegisterSectionsDialogs();
   RegisterResultsDialogs();
   return true;
 }

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/display_settings.h"
+#include "model/fm_element.h"
 #include "model/fm_load.h"
 #include "model/fm_material.h"
 #include "model/fm_node.h"
@@ -25,6 +26,9 @@ struct ModelDocument {
   std::vector<fmMat> materials;
   std::vector<fmSect> sections;
   std::vector<fmThick> thicknesses;
+  std::vector<fmBm> members;
+  std::vector<fmShell4> shells;
+  std::vector<fmBrick> bricks;
   fmSolution results;  // what the last solver run produced; empty when never solved
 };
 

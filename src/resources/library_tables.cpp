@@ -10,6 +10,7 @@ extern const ResourceTable kModelResources;
 extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
+extern const ResourceTable kSectionsResources;
 extern const ResourceTable kResultsResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
@@ -20,6 +21,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kModelResources,
       &kDesignResources,
       &kGeometryResources,
+      &kSectionsResources,
       &kLoadsResources,
       &kResultsResources,
   };

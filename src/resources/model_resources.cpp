@@ -17,6 +17,9 @@ const StringEntry kStrings[] = {
     {kStrRoundOffTip,
      "Rounds every coordinate in the table to the number of decimals that Epsilon implies\n"
      "(Epsilon = 0.001 keeps three decimals; 1 or more rounds to whole numbers)."},
+    {kStrBeamDataCaption, "Member Data"},
+    {kStrShell4DataCaption, "Shell4 Data"},
+    {kStrBrickDataCaption, "Brick Data"},
 };
 
 // The data-grid layout: the grid, a column of buttons on the right, OK and Cancel below.
@@ -35,7 +38,29 @@ const DialogTemplate kNodeData = {
     },
     640, 420};
 
-const DialogTemplate* const kTemplates[] = {&kNodeData};
+// The element grids: the same layout without the node grid's round-off.
+DialogTemplate ElementData(int id, int captionId, const char* caption) {
+  return {id,
+          captionId,
+          caption,
+          {
+              {kCtlGridPlaceholder, K::Placeholder, 0, "", 0, 0, 1, 1, 0, kStretchRow | kStretchCol},
+              {kCtlNewRowCount, K::Edit, 0, "1", kSide, 0},
+              {kCtlNewRows, K::Button, kStrNewRows, "New Rows", kSide, 1},
+              {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 2},
+              {kCtlSave, K::Button, kStrSave, "Save...", kSide, 3},
+              {IDOK_, K::Button, 1039, "OK", kBar, 0},
+              {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+          },
+          1020,
+          460};
+}
+
+const DialogTemplate kBeamData = ElementData(kIddBeamData, kStrBeamDataCaption, "Members");
+const DialogTemplate kShell4Data = ElementData(kIddShell4Data, kStrShell4DataCaption, "Shell4s");
+const DialogTemplate kBrickData = ElementData(kIddBrickData, kStrBrickDataCaption, "Bricks");
+
+const DialogTemplate* const kTemplates[] = {&kNodeData, &kBeamData, &kShell4Data, &kBrickData};
 
 }  // namespace
 

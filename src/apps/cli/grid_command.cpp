@@ -3,6 +3,7 @@
 #include "apps/cli/cli.h"
 #include "dialogs/grid/export.h"
 #include "dialogs/grid/sheet.h"
+#include "dialogs/model/element_grid.h"
 #include "dialogs/model/node_grid.h"
 #include "model/document.h"
 
@@ -17,11 +18,27 @@ struct GridTable {
   void (*fill)(const model::ModelDocument& doc, grid::Sheet& sheet);
 };
 
+elementgrid::ElementLists ElementListsOf(const model::ModelDocument& doc) {
+  return {doc.nodes, doc.materials, doc.sections, doc.thicknesses};
+}
+
+template <class Record>
+void FillElements(const model::ModelDocument& doc, const std::vector<Record>& elements, grid::Sheet& sheet) {
+  elementgrid::Fill(sheet, std::span<const Record>(elements), ElementListsOf(doc), doc.display.alternateRowColor,
+                    false);
+}
+
 const GridTable kTables[] = {
-    {"nodes", "Node Table",
+    {"nodes", nodegrid::kTableTitle,
      [](const model::ModelDocument& doc, grid::Sheet& sheet) {
        nodegrid::Fill(sheet, doc.nodes, doc.units, false, doc.display.alternateRowColor, false);
      }},
+    {"members", elementgrid::kMembers.printTitle,
+     [](const model::ModelDocument& doc, grid::Sheet& sheet) { FillElements(doc, doc.members, sheet); }},
+    {"shells", elementgrid::kShells.printTitle,
+     [](const model::ModelDocument& doc, grid::Sheet& sheet) { FillElements(doc, doc.shells, sheet); }},
+    {"bricks", elementgrid::kBricks.printTitle,
+     [](const model::ModelDocument& doc, grid::Sheet& sheet) { FillElements(doc, doc.bricks, sheet); }},
 };
 
 const char* kUsageText = "usage: norvane-cli grid export MODEL TABLE OUT [--append]\n";

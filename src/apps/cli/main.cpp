@@ -19,7 +19,8 @@ const cli::Command kCommands[] = {
      cli::CombosCommand},
     {"grid",
      "grid export MODEL TABLE OUT [--append]\n"
-     "                                  save a table of the model (nodes) as .htm, .txt, .xls or .xlsx;\n"
+     "                                  save a table of the model (nodes, members, shells, bricks)\n"
+     "                                  as .htm, .txt, .xls or .xlsx;\n"
      "                                  --append adds to an existing .htm or .txt file",
      cli::GridCommand},
     {"kfactor",

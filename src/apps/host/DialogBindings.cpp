@@ -34,5 +34,7 @@ void RegisterAllBindings() {
   RegisterLoadsBindings();
   RegisterConcreteDesignBindings();
   RegisterGeometryBindings();
+  RegisterGridBindings();
+  RegisterSectionsBindings();
   RegisterResultsBindings();
 }

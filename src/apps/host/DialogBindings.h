@@ -28,5 +28,7 @@ void RegisterModelBindings();
 void RegisterLoadsBindings();
 void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
+void RegisterGridBindings();
+void RegisterSectionsBindings();
 void RegisterResultsBindings();
 void RegisterAllBindings();

@@ -1,5 +1,8 @@
 #include "apps/host/DialogBindings.h"
+#include "dialogs/model/CBeamDataDlg.h"
+#include "dialogs/model/CBrickDataDlg.h"
 #include "dialogs/model/CNodeDataDlg.h"
+#include "dialogs/model/CShell4DataDlg.h"
 
 namespace {
 
@@ -9,6 +12,13 @@ void PrepareGrid(CDataGridDlg& dlg, HostModel& m) {
   dlg.m_bShowSelectedOnly = m.doc.display.showSelectedOnly;
   dlg.m_bModelLocked = m.doc.display.modelLocked;
   dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
+}
+
+// The element grids also check nodes and materials.
+void PrepareElementGrid(CElementDataDlg& dlg, HostModel& m) {
+  PrepareGrid(dlg, m);
+  dlg.m_pNodes = &m.doc.nodes;
+  dlg.m_pMaterials = &m.doc.materials;
 }
 
 // Grid dialogs write into the host's vectors themselves on OK.
@@ -22,6 +32,29 @@ void RegisterModelBindings() {
                            auto& dlg = static_cast<CNodeDataDlg&>(d);
                            PrepareGrid(dlg, m);
                            dlg.m_pNodes = &m.doc.nodes;
+                         },
+                         WroteThrough});
+  RegisterDialogBinding({"CBeamDataDlg",
+                         [](CDialog& d, HostModel& m) {
+                           auto& dlg = static_cast<CBeamDataDlg&>(d);
+                           PrepareElementGrid(dlg, m);
+                           dlg.m_pSections = &m.doc.sections;
+                           dlg.m_pBeams = &m.doc.members;
+                         },
+                         WroteThrough});
+  RegisterDialogBinding({"CShell4DataDlg",
+                         [](CDialog& d, HostModel& m) {
+                           auto& dlg = static_cast<CShell4DataDlg&>(d);
+                           PrepareElementGrid(dlg, m);
+                           dlg.m_pThicknesses = &m.doc.thicknesses;
+                           dlg.m_pShells = &m.doc.shells;
+                         },
+                         WroteThrough});
+  RegisterDialogBinding({"CBrickDataDlg",
+                         [](CDialog& d, HostModel& m) {
+                           auto& dlg = static_cast<CBrickDataDlg&>(d);
+                           PrepareElementGrid(dlg, m);
+                           dlg.m_pBricks = &m.doc.bricks;
                          },
                          WroteThrough});
 }

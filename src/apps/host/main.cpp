@@ -9,6 +9,7 @@
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostWindow.h"
 #include "dialogs/Library.h"
+#include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
 #include "tools/parse.h"
 
@@ -16,18 +17,22 @@ namespace {
 
 const char* kUsage =
     "usage: norvane-host [MODEL] [--screenshot FILE]\n"
-    "       norvane-host --show CLASS [--model FILE] [--screenshot FILE]\n"
+    "       norvane-host --show CLASS [--model FILE] [--screenshot FILE] [--print-to-pdf FILE]\n"
     "       norvane-host --show CResultsDlg --kind N [--case N] [--query ID] ...\n"
+    "       norvane-host --list\n"
     "\n"
     "Without --show the main window opens on MODEL (the bundled example by default).\n"
     "--show runs one dialog on the model; with --screenshot it renders the dialog to a PNG\n"
-    "after its set-up and exits. --kind, --case and --query are handed to the dialog's\n"
-    "binding (the results dialog: report kind, 1-based case or mode, object number).\n";
+    "after its set-up and exits; with --print-to-pdf it prints the dialog's whole table to a\n"
+    "PDF file, as \"Print...\" lays it out, and exits. --kind, --case and --query are handed to\n"
+    "the dialog's binding (the results dialog: report kind, 1-based case or mode, object number).\n"
+    "--list prints the dialog classes by family.\n";
 
 struct Options {
   std::string model;
   std::string showClass;
   std::string screenshot;
+  std::string printToPdf;
   std::map<std::string, std::string> showOptions;  // "kind" -> "1"
 };
 
@@ -48,6 +53,13 @@ bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string&
       if (!value(o.model)) return false;
     } else if (a == "--screenshot") {
       if (!value(o.screenshot)) return false;
+    } else if (a == "--print-to-pdf") {
+      if (!value(o.printToPdf)) return false;
+    } else if (a == "--list") {
+      if (args.size() != 1) {
+        error = "--list takes no other option";
+        return false;
+      }
     } else if (a == "--kind" || a == "--case" || a == "--query") {
       std::string number;
       if (!value(number)) return false;
@@ -65,6 +77,10 @@ bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string&
       error = "more than one model file given";
       return false;
     }
+  }
+  if (!o.printToPdf.empty() && o.showClass.empty()) {
+    error = "--print-to-pdf needs --show CLASS";
+    return false;
   }
   return true;
 }
@@ -93,6 +109,10 @@ int main(int argc, char** argv) {
 
   NorvaneDlgsLibrary library;
   RegisterAllBindings();
+  if (args.size() == 1 && args[0] == "--list") {
+    for (const DialogClassInfo& info : RegisteredDialogClasses()) std::cout << info.family << "\t" << info.className << "\n";
+    return 0;
+  }
 
   HostWindow window;
   const std::string modelPath = options.model.empty() ? ExampleModel() : options.model;
@@ -111,6 +131,15 @@ int main(int argc, char** argv) {
     window.OpenModel(modelPath);
   }
 
+  if (!options.printToPdf.empty()) {
+    int pages = 0;
+    if (!PrintDialogGridToPdf(options.showClass, window.model(), options.printToPdf, error, &pages)) {
+      std::cerr << "norvane-host: " << error << "\n";
+      return 1;
+    }
+    std::cout << "Wrote " << options.printToPdf << " (" << pages << (pages == 1 ? " page)\n" : " pages)\n");
+    if (options.screenshot.empty()) return 0;
+  }
   if (!options.showClass.empty()) {
     if (options.screenshot.empty()) {
       const int result = window.RunDialog(options.showClass);

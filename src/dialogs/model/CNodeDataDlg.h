@@ -13,6 +13,8 @@ class CNodeDataDlg : public CDataGridDlg {
   std::vector<fmNd>* m_pNodes = nullptr;
   double m_dEpsilon = 1e-10;  // round-off tolerance
 
+  std::string PrintTitle() const override;
+
  protected:
   BOOL OnInitDialog() override;
   void Refresh() override;

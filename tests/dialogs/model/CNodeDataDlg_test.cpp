@@ -37,6 +37,7 @@ class NodeDialogTest : public DialogTest {
 TEST_F(NodeDialogTest, FillsOneRowPerNodeWithUnitHeadingsAndStatus) {
   Open();
   EXPECT_EQ(dlg.windowTitle().toStdString(), "Node Data");
+  EXPECT_EQ(dlg.PrintTitle(), "Node Table");
   EXPECT_EQ(dlg.GetDlgItemText(res::kCtlEpsilon), "Epsilon = 1e-10");
   ASSERT_EQ(sheet().MaxRows(), 4);
   EXPECT_EQ(sheet().GetData(2, 0), "X [ft]");
