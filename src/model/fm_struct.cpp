@@ -2,6 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+#include <limits>
 #include <unordered_map>
 
 #include "model/id_index.h"
@@ -159,26 +164,47 @@ double CfmStruct::BaseLevel() const {
 
 namespace {
 
-// A value that is not a number never wins against one that is.
-inline void Take(fmEnvelopeValue6& e, const fmResult6Val& r, int32_t caseIndex) {
+// No case has given a value yet; stands above every case index so a first value of -inf
+// still takes the place.
+constexpr int32_t kNoCase = INT32_MAX;
+
+// Takes a record into its envelope. Of equal values the lower case index wins, whatever
+// order the cases come in; a value that is not a number never wins. This runs a hundred
+// million times for a large model.
+inline void Take(fmEnvelopeValue6& e, const fmResult6Val& r, int32_t c) {
+  // After the first few cases most records change nothing: find that out first, two values
+  // at a time.
+#if defined(__SSE2__)
+  __m128d reaches = _mm_setzero_pd();
+  for (int k = 0; k < 6; k += 2) {
+    const __m128d v = _mm_loadu_pd(&r.v[k]);
+    reaches = _mm_or_pd(reaches, _mm_or_pd(_mm_cmpge_pd(v, _mm_loadu_pd(&e.max[k])),
+                                           _mm_cmple_pd(v, _mm_loadu_pd(&e.min[k]))));
+  }
+  if (_mm_movemask_pd(reaches) == 0) return;
+#else
+  bool reaches = false;
+  for (int k = 0; k < 6; ++k) reaches |= (r.v[k] >= e.max[k]) | (r.v[k] <= e.min[k]);
+  if (!reaches) return;
+#endif
   for (int k = 0; k < 6; ++k) {
     const double v = r.v[k];
-    if (e.maxCase[k] < 0 || v > e.max[k] || (std::isnan(e.max[k]) && !std::isnan(v))) {
-      e.max[k] = v;
-      e.maxCase[k] = caseIndex;
-    }
-    if (e.minCase[k] < 0 || v < e.min[k] || (std::isnan(e.min[k]) && !std::isnan(v))) {
-      e.min[k] = v;
-      e.minCase[k] = caseIndex;
-    }
+    const bool above = (v > e.max[k]) | ((v == e.max[k]) & (c < e.maxCase[k]));
+    const bool below = (v < e.min[k]) | ((v == e.min[k]) & (c < e.minCase[k]));
+    e.max[k] = above ? v : e.max[k];
+    e.maxCase[k] = above ? c : e.maxCase[k];
+    e.min[k] = below ? v : e.min[k];
+    e.minCase[k] = below ? c : e.minCase[k];
   }
 }
 
 inline fmEnvelopeValue6 NewEnvelope(int32_t number) {
   fmEnvelopeValue6 e;
   e.number = number;
-  e.maxCase.fill(-1);
-  e.minCase.fill(-1);
+  e.max.fill(-std::numeric_limits<double>::infinity());
+  e.min.fill(std::numeric_limits<double>::infinity());
+  e.maxCase.fill(kNoCase);
+  e.minCase.fill(kNoCase);
   return e;
 }
 
@@ -191,9 +217,16 @@ bool StrictlyIncreasing(const std::vector<fmResult6Val>& records) {
 void Envelope(const CfmStruct& s, const std::vector<bool>& marked, std::vector<fmEnvelopeValue6>& out,
               std::vector<fmResult6Val> fmCaseResults::*vector) {
   out.clear();
+  std::vector<std::pair<int32_t, const std::vector<fmResult6Val>*>> cases;
+  const int count = std::min(s.GetNumLoadCases(), static_cast<int>(marked.size()));
+  for (int c = 0; c < count; ++c)
+    if (marked[static_cast<size_t>(c)])
+      if (const fmCaseResults* r = s.GetCaseResults(c)) cases.emplace_back(c, &(r->*vector));
+  if (cases.empty()) return;
+
   std::unordered_map<int32_t, size_t> slots;  // built only when records do not line up
   bool slotsBuilt = false;
-  auto slowTake = [&](const fmResult6Val& r, int32_t c) {
+  auto lookUpAndTake = [&](const fmResult6Val& r, int32_t c) {
     if (!slotsBuilt) {
       slots.reserve(out.size() * 2);
       for (size_t i = 0; i < out.size(); ++i) slots.emplace(out[i].number, i);
@@ -204,32 +237,53 @@ void Envelope(const CfmStruct& s, const std::vector<bool>& marked, std::vector<f
     Take(out[it->second], r, c);
   };
 
-  const int cases = std::min(s.GetNumLoadCases(), static_cast<int>(marked.size()));
-  for (int c = 0; c < cases; ++c) {
-    if (!marked[static_cast<size_t>(c)]) continue;
-    const fmCaseResults* results = s.GetCaseResults(c);
-    if (!results) continue;
-    const std::vector<fmResult6Val>& records = results->*vector;
-    if (out.empty() && StrictlyIncreasing(records)) {
-      // The first vector sets the order; with no number repeated it needs no look-up.
-      out.reserve(records.size());
-      for (const fmResult6Val& r : records) {
-        out.push_back(NewEnvelope(r.number));
-        Take(out.back(), r, c);
+  // The first case sets the order. Vectors of one solver run list the nodes in the same
+  // order, so the others are taken by position while they line up, and looked up where not.
+  size_t first = 0;
+  const std::vector<fmResult6Val>& reference = *cases[0].second;
+  if (StrictlyIncreasing(reference)) {
+    out.reserve(reference.size());
+    for (const fmResult6Val& r : reference) out.push_back(NewEnvelope(r.number));
+  } else {
+    for (const fmResult6Val& r : reference) lookUpAndTake(r, cases[0].first);
+    first = 1;
+  }
+  // A block of nodes at a time through all cases, so the block's envelope stays in the cache
+  // while the case vectors stream past.
+  const size_t lined = out.size();
+  constexpr size_t kBlock = 16384;
+  for (size_t begin = 0; begin < lined; begin += kBlock) {
+    const size_t end = std::min(begin + kBlock, lined);
+    for (size_t k = first; k < cases.size(); ++k) {
+      const auto& [c, records] = cases[k];
+      const size_t stop = std::min(end, records->size());
+      const fmResult6Val* data = records->data();
+      for (size_t i = begin; i < stop; ++i) {
+        if (i + 16 < stop) __builtin_prefetch(data + i + 16);
+        const fmResult6Val& r = data[i];
+        if (out[i].number == r.number)
+          Take(out[i], r, c);
+        else
+          lookUpAndTake(r, c);
       }
-      continue;
-    }
-    // Vectors of the same solver run list the nodes in the same order: take them by
-    // position while they line up and look the rest up.
-    const size_t n = records.size();
-    for (size_t i = 0; i < n; ++i) {
-      const fmResult6Val& r = records[i];
-      if (i < out.size() && out[i].number == r.number)
-        Take(out[i], r, c);
-      else
-        slowTake(r, c);
     }
   }
+  for (size_t k = first; k < cases.size(); ++k) {
+    const auto& [c, records] = cases[k];
+    for (size_t i = lined; i < records->size(); ++i) lookUpAndTake((*records)[i], c);
+  }
+  // A value no case gave (every one was not a number) shows as such, with no case.
+  for (fmEnvelopeValue6& e : out)
+    for (int k = 0; k < 6; ++k) {
+      if (e.maxCase[k] == kNoCase) {
+        e.max[k] = std::numeric_limits<double>::quiet_NaN();
+        e.maxCase[k] = -1;
+      }
+      if (e.minCase[k] == kNoCase) {
+        e.min[k] = std::numeric_limits<double>::quiet_NaN();
+        e.minCase[k] = -1;
+      }
+    }
 }
 
 }  // namespace

@@ -150,10 +150,11 @@ class CfmStruct {
   double BaseLevel() const;
 
   // Per node, the maximum and minimum of each displacement (or support reaction) over the
-  // cases marked true, with the 0-based index of the case that gives it. On a tie the
-  // earlier case keeps it. Records come in the order of the first marked case's vector;
-  // nodes that only later cases list follow in the order they appear. A marked case
-  // without results adds nothing; nothing marked gives no records.
+  // cases marked true, with the 0-based index of the case that gives it. On a tie the earlier
+  // case (the lower index) wins; a value that is not a number never wins, and a value no case
+  // gives as a number is NaN with case -1. Records come in the order of the first marked
+  // case's vector; nodes that only later cases list follow in the order they appear. A marked
+  // case without results adds nothing; nothing marked gives no records.
   void CalcNodalDisplacementEnvelope(std::vector<fmEnvelopeValue6>& out, const std::vector<bool>& cases) const;
   void CalcSupportReactionEnvelope(std::vector<fmEnvelopeValue6>& out, const std::vector<bool>& cases) const;
 

@@ -71,12 +71,25 @@ TEST(DisplacementEnvelope, OnlyMarkedCasesTakePart) {
 TEST(DisplacementEnvelope, NotANumberNeverWinsAndRepeatedNodesAreOneRecord) {
   CfmStruct s = ThreeCases();
   const double nan = std::numeric_limits<double>::quiet_NaN();
-  s.m_Solution.results[0].displacements = {Rec(1, nan), Rec(1, 2.0), Rec(2, 0.0)};
+  const double inf = std::numeric_limits<double>::infinity();
+  s.m_Solution.results[0].displacements = {Rec(1, nan, nan), Rec(1, 2.0, nan), Rec(2, -inf, 3.0)};
+  s.m_Solution.results[2].displacements = {Rec(1, -4.0, nan), Rec(2, 3.0, 3.0)};
   std::vector<fmEnvelopeValue6> env;
   s.CalcNodalDisplacementEnvelope(env, {true, false, true});
   ASSERT_EQ(env.size(), 2u);
   EXPECT_EQ(env[0].max[0], 2.0);
   EXPECT_EQ(env[0].min[0], -4.0);
+  // No case gave node 1 a Dy: not a number, and no case.
+  EXPECT_TRUE(std::isnan(env[0].max[1]));
+  EXPECT_EQ(env[0].maxCase[1], -1);
+  EXPECT_EQ(env[0].minCase[1], -1);
+  EXPECT_EQ(env[1].min[0], -inf);
+  EXPECT_EQ(env[1].minCase[0], 0);
+  // A tie between a record found by look-up (case A) and one taken by position (case C):
+  // the earlier case wins all the same.
+  EXPECT_EQ(env[1].max[1], 3.0);
+  EXPECT_EQ(env[1].maxCase[1], 0);
+  EXPECT_EQ(env[1].minCase[1], 0);
 }
 
 TEST(SupportReactionEnvelope, UsesTheReactionVectors) {

@@ -24,6 +24,9 @@ std::string LineFormatPiece(int index);
 // The value printed as DisplayFormatString(index) prints it with its precision; grids of
 // millions of cells are filled through here.
 std::string FormatDisplay(double value, int index);
+// The same into a buffer of at least kDisplayBufferSize characters; returns the length.
+inline constexpr size_t kDisplayBufferSize = 400;
+size_t FormatDisplayTo(char* buffer, double value, int index);
 // "%d" of a number.
 std::string FormatId(int64_t value);
 

@@ -55,20 +55,13 @@ class CellWriter {
   }
   // The value already in display units.
   void Value(int col, int row, double value, int format) {
-    const DisplayFormatSpec f = GetDisplayFormat(format);
-    const auto [end, ec] =
-        std::to_chars(buffer_, buffer_ + sizeof buffer_, value,
-                      f.letter == 'f' ? std::chars_format::fixed : std::chars_format::scientific, f.precision);
-    if (ec != std::errc())
-      sheet_.SetData(col, row, FormatDisplay(value, format));
-    else
-      sheet_.SetData(col, row, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
+    sheet_.SetData(col, row, std::string_view(buffer_, FormatDisplayTo(buffer_, value, format)));
   }
   void Value(int col, int row, double value, const Shown& s) { Value(col, row, value * s.factor, s.format); }
 
  private:
   grid::Sheet& sheet_;
-  char buffer_[400];
+  char buffer_[kDisplayBufferSize];
 };
 
 // Each report starts from a new grid: nothing of an earlier report (a red sum) stays.
@@ -333,23 +326,41 @@ void EnvelopeReport(const ReportContext& ctx, const std::vector<fmEnvelopeValue6
 
   const Shown a = ShownAs(m, first), b = ShownAs(m, second);
   CellWriter out(ctx.sheet);
-  int row = 0;
+  // A block of nodes at a time, one column after the other: each column's cells are written
+  // in order while the block's envelope stays in the cache.
+  constexpr size_t kBlock = 2048;
+  std::vector<const fmEnvelopeValue6*> block;
+  block.reserve(kBlock);
+  int firstRow = 1;
+  auto flush = [&] {
+    const int count = static_cast<int>(block.size());
+    for (int i = 0; i < count; ++i) {
+      out.Id(1, firstRow + 2 * i, block[static_cast<size_t>(i)]->number);
+      out.Text(2, firstRow + 2 * i, "max");
+      out.Text(2, firstRow + 2 * i + 1, "min");
+    }
+    for (int k = 0; k < 6; ++k) {
+      const Shown& shown = k < 3 ? a : b;
+      for (int i = 0; i < count; ++i) {
+        const fmEnvelopeValue6& e = *block[static_cast<size_t>(i)];
+        out.Value(3 + 2 * k, firstRow + 2 * i, e.max[k], shown);
+        out.Value(3 + 2 * k, firstRow + 2 * i + 1, e.min[k], shown);
+      }
+      for (int i = 0; i < count; ++i) {
+        const fmEnvelopeValue6& e = *block[static_cast<size_t>(i)];
+        out.Id(4 + 2 * k, firstRow + 2 * i, static_cast<int64_t>(e.maxCase[k]) + 1);
+        out.Id(4 + 2 * k, firstRow + 2 * i + 1, static_cast<int64_t>(e.minCase[k]) + 1);
+      }
+    }
+    firstRow += 2 * count;
+    block.clear();
+  };
   for (const fmEnvelopeValue6& e : envelope) {
     if (selectedOnly && !m.IsNodeSelected(e.number)) continue;
-    ++row;
-    out.Id(1, row, e.number);
-    out.Text(2, row, "max");
-    for (int k = 0; k < 6; ++k) {
-      out.Value(3 + 2 * k, row, e.max[k], k < 3 ? a : b);
-      out.Id(4 + 2 * k, row, static_cast<int64_t>(e.maxCase[k]) + 1);
-    }
-    ++row;
-    out.Text(2, row, "min");
-    for (int k = 0; k < 6; ++k) {
-      out.Value(3 + 2 * k, row, e.min[k], k < 3 ? a : b);
-      out.Id(4 + 2 * k, row, static_cast<int64_t>(e.minCase[k]) + 1);
-    }
+    block.push_back(&e);
+    if (block.size() == kBlock) flush();
   }
+  flush();
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "support/temp_dir.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 
 namespace {
 
@@ -62,32 +63,32 @@ TEST(CliReport, SelectedOnlyAndFilesByExtension) {
   const std::string node2 = "{\"id\": 2, \"x\": 20, \"y\": 0, \"z\": 0}";
   ASSERT_NE(doc.find(node2), std::string::npos);
   doc.replace(doc.find(node2), node2.size(), "{\"id\": 2, \"x\": 20, \"y\": 0, \"z\": 0, \"flags\": 1}");
-  WriteFileText(dir.File("m.json"), doc);
-  const CliRun selected = Cli("report " + dir.File("m.json") + " 1 --selected");
+  WriteFileText((dir / "m.json"), doc);
+  const CliRun selected = Cli("report " + (dir / "m.json") + " 1 --selected");
   EXPECT_EQ(selected.output,
             "Support Reactions - [Dead]\n\n"
             "Node Id  Rx [kip]  Ry [kip]  Rz [kip]  Rox [kip-ft]  Roy [kip-ft]  Roz [kip-ft]\n"
             "2           0.000    35.000     0.000         0.000         0.000         0.000\n"
             "Sum         0.000    35.000     0.000         0.000         0.000         0.000\n");
 
-  ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + dir.File("d.txt")).status, 0);
-  const std::string text = ReadFileText(dir.File("d.txt"));
+  ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + (dir / "d.txt")).status, 0);
+  const std::string text = ReadFileText((dir / "d.txt"));
   EXPECT_TRUE(text.starts_with("Node Id\tDx [in]\tDy [in]\tDz [in]\tDox [rad]\tDoy [rad]\tDoz [rad]\r\n1\t0.0000")) << text;
-  ASSERT_EQ(Cli("report " + kModel + " 1 -o " + dir.File("r.htm")).status, 0);
-  EXPECT_NE(ReadFileText(dir.File("r.htm")).find("<caption>Support Reactions - [Dead]</caption>"), std::string::npos);
-  ASSERT_EQ(Cli("report " + kModel + " 55 -o " + dir.File("e.xlsx")).status, 0);
-  EXPECT_TRUE(ReadFileText(dir.File("e.xlsx")).starts_with("PK"));
+  ASSERT_EQ(Cli("report " + kModel + " 1 -o " + (dir / "r.htm")).status, 0);
+  EXPECT_NE(ReadFileText((dir / "r.htm")).find("<caption>Support Reactions - [Dead]</caption>"), std::string::npos);
+  ASSERT_EQ(Cli("report " + kModel + " 55 -o " + (dir / "e.xlsx")).status, 0);
+  EXPECT_TRUE(ReadFileText((dir / "e.xlsx")).starts_with("PK"));
 }
 
 TEST(CliReport, RefusalsSayWhy) {
   TempDir dir;
-  WriteFileText(dir.File("short.json"),
+  WriteFileText((dir / "short.json"),
                 R"({"format": "norvane-model", "schemaVersion": 1, "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0}],
                     "results": {"cases": [{"label": "D", "displacements": [[1, 0, 0]]}]}})");
-  WriteFileText(dir.File("odd.json"),
+  WriteFileText((dir / "odd.json"),
                 R"({"format": "norvane-model", "schemaVersion": 1, "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0}],
                     "results": {"cases": [{"label": "D", "reactions": [[9, 0, 1, 0, 0, 0, 0]]}]}})");
-  WriteFileText(dir.File("unsolved.json"), R"({"format": "norvane-model", "schemaVersion": 1,
+  WriteFileText((dir / "unsolved.json"), R"({"format": "norvane-model", "schemaVersion": 1,
                     "loadCases": [{"number": 1, "label": "Dead", "type": "Dead-D"}]})");
   struct Case {
     std::string args;
@@ -101,12 +102,12 @@ TEST(CliReport, RefusalsSayWhy) {
       {"report " + kModel + " 21 --mode 5", 1, "there is no mode 5 (the model has 4)"},
       {"report " + kModel + " 1 --case 1 --mode 1", 2, "give one of --case and --mode"},
       {"report " + kModel + " 1 --case x", 2, "--case needs a whole number, not \"x\""},
-      {"report " + kModel + " 1 -o " + dir.File("r.csv"), 1, "Invalid file format specified"},
+      {"report " + kModel + " 1 -o " + (dir / "r.csv"), 1, "Invalid file format specified"},
       {"report " + kModel, 2, "usage: norvane-cli report MODEL KIND"},
       {"report " + kModel + " 1 --all", 2, "unknown option --all"},
-      {"report " + dir.File("short.json") + " 0", 1,
+      {"report " + (dir / "short.json") + " 0", 1,
        "/results/cases/0/displacements/0: expected 7 numbers: the node or element number and six values"},
-      {"report " + dir.File("unsolved.json") + " 0", 1, "The results of load case 1 [Dead] are not available."},
+      {"report " + (dir / "unsolved.json") + " 0", 1, "The results of load case 1 [Dead] are not available."},
   };
   for (const Case& c : cases) {
     const CliRun run = Cli(c.args);
@@ -114,7 +115,7 @@ TEST(CliReport, RefusalsSayWhy) {
     EXPECT_NE(run.output.find(c.message), std::string::npos) << c.args << "\n" << run.output;
   }
   // Results that do not fit the model are reported, and the report still shows them.
-  const CliRun odd = Cli("report " + dir.File("odd.json") + " 1");
+  const CliRun odd = Cli("report " + (dir / "odd.json") + " 1");
   EXPECT_EQ(odd.status, 0) << odd.output;
   EXPECT_NE(odd.output.find("warning: the results do not fit the model: results of \"D\": support reactions name "
                             "node 9, which the model does not have"),

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "dialogs/results/display_format.h"
 #include "tools/format.h"
@@ -40,5 +41,33 @@ TEST(DisplayFormat, PrintsExactlyWhatPrintfPrintsWithTheBuiltFormat) {
           << "index " << index << " value " << v;
     }
   EXPECT_EQ(results::FormatId(-2147483648LL), "-2147483648");
+}
+
+TEST(DisplayFormat, AgreesWithPrintfOnManyValuesTiesIncluded) {
+  // Magnitudes from 1e-9 to 1e17, exact binary ties (k / 2^n) and decimal halves that are not
+  // exact in binary (2.675), both signs; every fixed and exponential index.
+  std::vector<double> values = {2.675, 1.005, 0.0005, 0.00015, 1e15 + 0.5, 9007199254740993.0, 123456789.0625,
+                                4503599627370495.5, 0.1, 1e-300, 2.2250738585072014e-308, 4.9e-324};
+  uint64_t state = 0x9E3779B97F4A7C15ull;
+  auto next = [&] {
+    state ^= state << 13;
+    state ^= state >> 7;
+    state ^= state << 17;
+    return state;
+  };
+  for (int i = 0; i < 5000; ++i) {
+    const double unit = static_cast<double>(next() >> 11) / 9007199254740992.0;  // [0, 1)
+    values.push_back(unit * std::pow(10.0, static_cast<int>(next() % 27) - 9));
+    values.push_back(static_cast<double>(next() % 100000) / static_cast<double>(1u << (next() % 20)));
+  }
+  const size_t count = values.size();
+  for (size_t i = 0; i < count; ++i) values.push_back(-values[i]);
+  for (int index = 0; index < 12; ++index) {
+    const int precision = index < 6 ? index + 1 : index - 5;
+    int mismatches = 0;
+    for (double v : values)
+      if (FormatDisplay(v, index) != tools::Format(DisplayFormatString(index).c_str(), precision, v) && ++mismatches < 5)
+        ADD_FAILURE() << "index " << index << " value " << tools::Format("%.17g", v) << ": " << FormatDisplay(v, index);
+  }
   EXPECT_EQ(results::FormatId(0), "0");
 }
