@@ -11,6 +11,7 @@ void RegisterModelDialogs();
 void RegisterLoadsDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
+void RegisterGridDialogs();
 
 namespace {
 int g_users = 0;
@@ -26,6 +27,7 @@ bool NorvaneDlgsStartup() {
   RegisterLoadsDialogs();
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
+  RegisterGridDialogs();
   return true;
 }
 

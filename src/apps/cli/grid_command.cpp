@@ -29,7 +29,7 @@ void FillElements(const model::ModelDocument& doc, const std::vector<Record>& el
 }
 
 const GridTable kTables[] = {
-    {"nodes", "Node Table",
+    {"nodes", nodegrid::kTableTitle,
      [](const model::ModelDocument& doc, grid::Sheet& sheet) {
        nodegrid::Fill(sheet, doc.nodes, doc.units, false, doc.display.alternateRowColor, false);
      }},

@@ -34,4 +34,5 @@ void RegisterAllBindings() {
   RegisterLoadsBindings();
   RegisterConcreteDesignBindings();
   RegisterGeometryBindings();
+  RegisterGridBindings();
 }

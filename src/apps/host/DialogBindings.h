@@ -28,4 +28,5 @@ void RegisterModelBindings();
 void RegisterLoadsBindings();
 void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
+void RegisterGridBindings();
 void RegisterAllBindings();

@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QImage>
 #include <QPixmap>
+#include <QPrinter>
 #include <iostream>
 
 #include "apps/host/DialogBindings.h"
@@ -11,6 +12,7 @@
 #include "dialogs/frame/CProgressDlg.h"
 #include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
+#include "dialogs/grid/CDataGridDlg.h"
 
 std::unique_ptr<CDialog> CreateBoundDialog(const std::string& className, HostModel& model, QWidget* parent) {
   const DialogClassInfo* info = FindDialogClass(className);
@@ -92,4 +94,30 @@ bool RenderDialogToPng(const std::string& className, HostModel& model, const std
     dlg->InitDialogForTest();
   }
   return RenderWidgetToPng(*dlg, pngPath, error);
+}
+
+bool PrintDialogGridToPdf(const std::string& className, HostModel& model, const std::string& pdfPath,
+                          std::string& error, int* pages) {
+  ReportingPrompter prompter;
+  ScopedPrompter scoped(prompter);
+  std::unique_ptr<CDialog> dlg = CreateBoundDialog(className, model, nullptr);
+  if (!dlg) {
+    error = "Unknown dialog class \"" + className + "\"";
+    return false;
+  }
+  auto* gridDlg = dynamic_cast<CDataGridDlg*>(dlg.get());
+  if (!gridDlg) {
+    error = className + " has no table to print";
+    return false;
+  }
+  gridDlg->InitDialogForTest();
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(QStringLiteral("Norvane"));
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QString::fromStdString(pdfPath));
+  if (!gridDlg->Spread().PrintBlock(printer, grid::Block{}, gridDlg->PrintTitle(), pages)) {
+    error = "Cannot write \"" + pdfPath + "\"";
+    return false;
+  }
+  return true;
 }

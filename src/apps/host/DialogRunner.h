@@ -21,3 +21,7 @@ bool TakeBackDialogResult(const std::string& className, CDialog& dlg, int result
 bool RenderDialogToPng(const std::string& className, HostModel& model, const std::string& pngPath,
                        std::string& error);
 bool RenderWidgetToPng(QWidget& widget, const std::string& pngPath, std::string& error);
+// Builds a table dialog as RenderDialogToPng does and prints its whole grid, as its
+// "Print..." lays it out, to a PDF file; no question is asked. pages receives the count.
+bool PrintDialogGridToPdf(const std::string& className, HostModel& model, const std::string& pdfPath,
+                          std::string& error, int* pages = nullptr);

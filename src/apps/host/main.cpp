@@ -14,16 +14,18 @@ namespace {
 
 const char* kUsage =
     "usage: norvane-host [MODEL] [--screenshot FILE]\n"
-    "       norvane-host --show CLASS [--model FILE] [--screenshot FILE]\n"
+    "       norvane-host --show CLASS [--model FILE] [--screenshot FILE] [--print-to-pdf FILE]\n"
     "\n"
     "Without --show the main window opens on MODEL (the bundled example by default).\n"
     "--show runs one dialog on the model; with --screenshot it renders the dialog to a PNG\n"
-    "after its set-up and exits.\n";
+    "after its set-up and exits; with --print-to-pdf it prints the dialog's whole table to a\n"
+    "PDF file, as \"Print...\" lays it out, and exits.\n";
 
 struct Options {
   std::string model;
   std::string showClass;
   std::string screenshot;
+  std::string printToPdf;
 };
 
 bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string& error) {
@@ -43,6 +45,8 @@ bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string&
       if (!value(o.model)) return false;
     } else if (a == "--screenshot") {
       if (!value(o.screenshot)) return false;
+    } else if (a == "--print-to-pdf") {
+      if (!value(o.printToPdf)) return false;
     } else if (!a.empty() && a[0] == '-') {
       error = "unknown option " + a;
       return false;
@@ -52,6 +56,10 @@ bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string&
       error = "more than one model file given";
       return false;
     }
+  }
+  if (!o.printToPdf.empty() && o.showClass.empty()) {
+    error = "--print-to-pdf needs --show CLASS";
+    return false;
   }
   return true;
 }
@@ -97,6 +105,15 @@ int main(int argc, char** argv) {
     window.OpenModel(modelPath);
   }
 
+  if (!options.printToPdf.empty()) {
+    int pages = 0;
+    if (!PrintDialogGridToPdf(options.showClass, window.model(), options.printToPdf, error, &pages)) {
+      std::cerr << "norvane-host: " << error << "\n";
+      return 1;
+    }
+    std::cout << "Wrote " << options.printToPdf << " (" << pages << (pages == 1 ? " page)\n" : " pages)\n");
+    if (options.screenshot.empty()) return 0;
+  }
   if (!options.showClass.empty()) {
     if (options.screenshot.empty()) {
       const int result = window.RunDialog(options.showClass);

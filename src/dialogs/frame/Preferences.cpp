@@ -1,5 +1,6 @@
 #include "dialogs/frame/Preferences.h"
 
+#include <QColor>
 #include <QSettings>
 
 #include "dialogs/frame/CPreferencesDlg.h"
@@ -8,15 +9,53 @@ namespace prefs {
 
 SpreadsheetSettings ReadSpreadsheetSettings() {
   QSettings settings;
+  return ReadSpreadsheetSettings(settings);
+}
+
+namespace {
+
+bool InRange(int value, uint32_t low, uint32_t high) {
+  return value >= static_cast<int>(low) && value <= static_cast<int>(high);
+}
+
+// "#rrggbb", or a plain number as a host may have stored it.
+uint32_t ReadColor(const QVariant& v, uint32_t fallback) {
+  if (!v.isValid()) return fallback;
+  const QString text = v.toString().trimmed();
+  if (text.startsWith('#')) {
+    const QColor color(text);
+    return color.isValid() ? (color.rgb() & 0xFFFFFFu) : fallback;
+  }
+  bool ok = false;
+  const uint value = text.toUInt(&ok);
+  return ok && value <= 0xFFFFFFu ? value : fallback;
+}
+
+}  // namespace
+
+SpreadsheetSettings ReadSpreadsheetSettings(QSettings& settings) {
   settings.beginGroup(kGroup);
   SpreadsheetSettings s;
+  const SpreadsheetSettings defaults;
   s.fontSize = settings.value(kSpreadFontSize, s.fontSize).toInt();
   s.showRowHeader = settings.value(kShowGridRowHeader, 1).toInt() != 0;
   s.rowHeight = settings.value(kSpreadRowHeight, s.rowHeight).toInt();
   s.appendSave = settings.value(kSpreadsheetAppendSave, 0).toInt() != 0;
-  if (s.fontSize < 1 || s.fontSize > 200) s.fontSize = 7;
-  if (s.rowHeight < 4 || s.rowHeight > 400) s.rowHeight = 14;
+  s.alternateRowColor = ReadColor(settings.value(kSpreadAlternateBackColor), defaults.alternateRowColor);
+  settings.endGroup();
+  if (!InRange(s.fontSize, kMinSpreadFontSize, kMaxSpreadFontSize)) s.fontSize = defaults.fontSize;
+  if (!InRange(s.rowHeight, kMinSpreadRowHeight, kMaxSpreadRowHeight)) s.rowHeight = defaults.rowHeight;
   return s;
+}
+
+void WriteSpreadsheetSettings(const SpreadsheetSettings& s, QSettings& settings) {
+  settings.beginGroup(kGroup);
+  settings.setValue(kSpreadFontSize, s.fontSize);
+  settings.setValue(kShowGridRowHeader, s.showRowHeader ? 1 : 0);
+  settings.setValue(kSpreadRowHeight, s.rowHeight);
+  settings.setValue(kSpreadsheetAppendSave, s.appendSave ? 1 : 0);
+  settings.setValue(kSpreadAlternateBackColor, QColor::fromRgb(s.alternateRowColor & 0xFFFFFFu).name());
+  settings.endGroup();
 }
 
 namespace {

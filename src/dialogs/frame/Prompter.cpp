@@ -1,6 +1,9 @@
 #include "dialogs/frame/Prompter.h"
 
+#include <QColorDialog>
 #include <QFileDialog>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QCursor>
 #include <QMenu>
 #include <QMessageBox>
@@ -95,6 +98,23 @@ int WidgetPrompter::ChooseFromMenu(QWidget* parent, const std::vector<std::strin
   return chosen ? static_cast<int>(menu.actions().indexOf(chosen)) : -1;
 }
 
+std::optional<uint32_t> WidgetPrompter::ChooseColor(QWidget* parent, const std::string& title, uint32_t initial) {
+  const QColor chosen = QColorDialog::getColor(QColor::fromRgb(initial), parent, QString::fromStdString(title),
+                                               QColorDialog::DontUseNativeDialog);
+  if (!chosen.isValid()) return std::nullopt;
+  return chosen.rgb() & 0xFFFFFFu;
+}
+
+bool WidgetPrompter::PrintSetup(QWidget* parent, QPrinter& printer) {
+  QPrintDialog dialog(&printer, parent);
+  return dialog.exec() == QDialog::Accepted;
+}
+
+namespace {
+// QueueCancel answers a file dialog as its Cancel button does: with no path.
+std::string PathAnswer(std::string answer) { return answer == "cancel" ? std::string() : answer; }
+}  // namespace
+
 std::string ScriptedPrompter::NextAnswer(const std::string& what) {
   if (answers_.empty()) {
     if (onUnexpected) onUnexpected(what);
@@ -126,19 +146,19 @@ Answer ScriptedPrompter::QuestionWithCancel(QWidget*, const std::string& text) {
 std::string ScriptedPrompter::SaveFileName(QWidget*, const FileDialogRequest& request) {
   prompts_.push_back({PromptKind::SaveFile, request.title, MessageIcon::Warning, request});
   if (onPrompt) onPrompt(prompts_.back());
-  return NextAnswer("save file: " + request.title);
+  return PathAnswer(NextAnswer("save file: " + request.title));
 }
 
 std::string ScriptedPrompter::OpenFileName(QWidget*, const FileDialogRequest& request) {
   prompts_.push_back({PromptKind::OpenFile, request.title, MessageIcon::Warning, request});
   if (onPrompt) onPrompt(prompts_.back());
-  return NextAnswer("open file: " + request.title);
+  return PathAnswer(NextAnswer("open file: " + request.title));
 }
 
 std::string ScriptedPrompter::FolderName(QWidget*, const std::string& title, const std::string&) {
   prompts_.push_back({PromptKind::Folder, title, MessageIcon::Warning, {}});
   if (onPrompt) onPrompt(prompts_.back());
-  return NextAnswer("folder: " + title);
+  return PathAnswer(NextAnswer("folder: " + title));
 }
 
 int ScriptedPrompter::ChooseFromMenu(QWidget*, const std::vector<std::string>& entries) {
@@ -148,6 +168,29 @@ int ScriptedPrompter::ChooseFromMenu(QWidget*, const std::vector<std::string>& e
   if (onPrompt) onPrompt(prompts_.back());
   const std::string a = NextAnswer("menu: " + text);
   return a.empty() ? -1 : std::atoi(a.c_str());
+}
+
+void ScriptedPrompter::QueueColor(uint32_t rgb) {
+  answers_.push_back(QColor::fromRgb(rgb & 0xFFFFFFu).name().toStdString());
+}
+
+std::optional<uint32_t> ScriptedPrompter::ChooseColor(QWidget*, const std::string& title, uint32_t) {
+  prompts_.push_back({PromptKind::Color, title, MessageIcon::Information, {}});
+  if (onPrompt) onPrompt(prompts_.back());
+  const QColor chosen(QString::fromStdString(NextAnswer("color: " + title)));
+  if (!chosen.isValid()) return std::nullopt;
+  return chosen.rgb() & 0xFFFFFFu;
+}
+
+bool ScriptedPrompter::PrintSetup(QWidget*, QPrinter& printer) {
+  const std::string job = printer.docName().toStdString();
+  prompts_.push_back({PromptKind::Print, job, MessageIcon::Information, {}});
+  if (onPrompt) onPrompt(prompts_.back());
+  const std::string path = NextAnswer("print: " + job);
+  if (path.empty() || path == "cancel") return false;
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QString::fromStdString(path));
+  return true;
 }
 
 std::vector<std::string> ScriptedPrompter::Texts() const {

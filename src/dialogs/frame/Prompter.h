@@ -1,9 +1,12 @@
 #pragma once
 #include <deque>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
+class QPrinter;
 class QWidget;
 
 // Every message box, question and file dialog of the library goes through the current
@@ -32,6 +35,10 @@ class Prompter {
   virtual std::string FolderName(QWidget* parent, const std::string& title, const std::string& start) = 0;
   // A context menu at the mouse; the chosen entry's position, or -1 when dismissed.
   virtual int ChooseFromMenu(QWidget* parent, const std::vector<std::string>& entries) = 0;
+  // A colour (0xRRGGBB) chosen starting from initial; nothing when cancelled.
+  virtual std::optional<uint32_t> ChooseColor(QWidget* parent, const std::string& title, uint32_t initial) = 0;
+  // Lets the user pick the printer (or a PDF file) for a print job; false when cancelled.
+  virtual bool PrintSetup(QWidget* parent, QPrinter& printer) = 0;
 };
 
 // Message boxes and Qt's own (non-native) file dialogs.
@@ -44,6 +51,8 @@ class WidgetPrompter : public Prompter {
   std::string OpenFileName(QWidget* parent, const FileDialogRequest& request) override;
   std::string FolderName(QWidget* parent, const std::string& title, const std::string& start) override;
   int ChooseFromMenu(QWidget* parent, const std::vector<std::string>& entries) override;
+  std::optional<uint32_t> ChooseColor(QWidget* parent, const std::string& title, uint32_t initial) override;
+  bool PrintSetup(QWidget* parent, QPrinter& printer) override;
 };
 
 // Records every prompt and answers from a queue. With no queued answer a question is
@@ -51,7 +60,7 @@ class WidgetPrompter : public Prompter {
 // is told, so a test fails on a prompt it did not script.
 class ScriptedPrompter : public Prompter {
  public:
-  enum class PromptKind { Message, Question, SaveFile, OpenFile, Folder, Menu };
+  enum class PromptKind { Message, Question, SaveFile, OpenFile, Folder, Menu, Color, Print };
   struct Prompt {
     PromptKind kind;
     std::string text;  // message or question text, or the file dialog's title
@@ -63,6 +72,7 @@ class ScriptedPrompter : public Prompter {
   void QueueCancel() { answers_.push_back("cancel"); }
   void QueueMenuChoice(int index) { answers_.push_back(std::to_string(index)); }
   void QueuePath(const std::string& path) { answers_.push_back(path); }
+  void QueueColor(uint32_t rgb);
 
   void Message(QWidget* parent, const std::string& text, MessageIcon icon) override;
   bool Question(QWidget* parent, const std::string& text) override;
@@ -72,6 +82,10 @@ class ScriptedPrompter : public Prompter {
   std::string FolderName(QWidget* parent, const std::string& title, const std::string& start) override;
   // The prompt's text lists the entries, one a line.
   int ChooseFromMenu(QWidget* parent, const std::vector<std::string>& entries) override;
+  // Answered by QueueColor; a cancel or nothing queued keeps the old colour.
+  std::optional<uint32_t> ChooseColor(QWidget* parent, const std::string& title, uint32_t initial) override;
+  // Answered by QueuePath: the job is written as a PDF file there; a cancel cancels it.
+  bool PrintSetup(QWidget* parent, QPrinter& printer) override;
 
   const std::vector<Prompt>& prompts() const { return prompts_; }
   // The texts of all messages and questions, in order.

@@ -5,6 +5,8 @@
 
 CDataGridDlg::CDataGridDlg(int templateId, QWidget* pParent) : CDialog(templateId, pParent) {
   OnCommand(res::kCtlNewRows, [this] { OnNewRows(); });
+  OnCommand(res::kCtlPrint, [this] { OnPrint(); });
+  OnCommand(res::kCtlSave, [this] { OnSave(); });
   m_Spread.onRightClick = [this](int col, int row) { OnGridRClick(col, row); };
 }
 

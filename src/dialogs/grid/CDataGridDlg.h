@@ -18,7 +18,7 @@ class CDataGridDlg : public CDialog {
   uint32_t m_crAlternateRowColor = 0xF0F5FF;  // 0xRRGGBB, the host's "Spreadsheet Alternate BackColor"
 
   TSpread& Spread() { return m_Spread; }
-  // Heading of the printed and saved table ("Node Table"); each table names its own.
+  // The heading of the printed table and of its exports ("Node Table").
   virtual std::string PrintTitle() const { return {}; }
 
  protected:
@@ -35,6 +35,8 @@ class CDataGridDlg : public CDialog {
   virtual bool Save() = 0;
 
   void OnNewRows();
+  void OnPrint() { m_Spread.PrintGrid(PrintTitle()); }
+  void OnSave() { m_Spread.ExportGrid(PrintTitle()); }
   virtual void OnGridRClick(int col, int row);
   bool IsReadOnly() const { return m_bModelLocked || m_bShowSelectedOnly; }
 

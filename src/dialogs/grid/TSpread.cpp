@@ -4,12 +4,15 @@
 #include <QClipboard>
 #include <QHeaderView>
 #include <QLayout>
+#include <QPrinter>
 #include <QScrollBar>
 
 #include "dialogs/frame/CDialog.h"
 #include "dialogs/frame/Preferences.h"
 #include "dialogs/grid/SheetModel.h"
+#include "dialogs/grid/GridPrinter.h"
 #include "dialogs/grid/SheetView.h"
+#include "dialogs/grid/export.h"
 #include "dialogs/grid/grid_ops.h"
 #include "resources/grid_ids.h"
 #include "resources/resources.h"
@@ -206,4 +209,46 @@ void TSpread::ClearSelection() {
     for (int col = block.col1; col <= block.col2; ++col)
       if (!sheet_.IsLocked(col, row)) sheet_.ClearData(col, row);
   model_->CellsChanged(block.col1, block.row1, block.col2, block.row2);
+}
+
+bool TSpread::ExportGrid(const std::string& title) {
+  FileDialogRequest request;
+  request.title = res::LoadStringOr(res::kStrExportTitle, "Export Spreadsheet Data");
+  request.defaultExtension = "htm";
+  request.defaultName = "*.htm";
+  request.filters = {res::LoadStringOr(res::kStrExportFilterHtml, "HTML File (*.htm)"),
+                     res::LoadStringOr(res::kStrExportFilterText, "Tab Delimited Text File (*.txt)"),
+                     res::LoadStringOr(res::kStrExportFilterXls, "Excel Book File (*.xls)"),
+                     res::LoadStringOr(res::kStrExportFilterXlsx, "Excel Workbook (*.xlsx)")};
+  const std::string path = GetPrompter().SaveFileName(window(), request);
+  if (path.empty()) return false;
+  const bool append = prefs::ReadSpreadsheetSettings().appendSave;
+  if (const auto failure = grid::ExportSheet(sheet_, path, append, title)) {
+    GetPrompter().Message(window(), *failure, MessageIcon::Warning);
+    return false;
+  }
+  return true;
+}
+
+bool TSpread::PrintGrid(const std::string& title) {
+  const std::string question = res::LoadStringOr(
+      res::kStrPrintQuestion, "This will print the selected items to the default printer.\nDo you want to continue?");
+  if (!GetPrompter().Question(window(), question)) return false;
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(QStringLiteral("Norvane"));  // the print job's name
+  if (!GetPrompter().PrintSetup(window(), printer)) return false;
+  SyncSelection();
+  if (PrintBlock(printer, sheet_.SelectBlock(), title)) return true;
+  const QString device = printer.outputFileName().isEmpty() ? printer.printerName() : printer.outputFileName();
+  std::string message = res::LoadStringOr(res::kStrPrintFailed, "The table could not be printed on \"%s\".");
+  if (const size_t at = message.find("%s"); at != std::string::npos) message.replace(at, 2, device.toStdString());
+  GetPrompter().Message(window(), message, MessageIcon::Warning);
+  return false;
+}
+
+bool TSpread::PrintBlock(QPrinter& printer, const grid::Block& block, const std::string& title, int* pages) {
+  GridPrinter layout(sheet_, block, title);
+  const bool printed = layout.Print(printer);
+  if (pages) *pages = layout.PageCount();
+  return printed;
 }

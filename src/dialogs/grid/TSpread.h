@@ -8,6 +8,7 @@
 #include "dialogs/grid/sheet.h"
 
 class CDialog;
+class QPrinter;
 class QTableView;
 class SheetModel;
 class SheetView;
@@ -40,6 +41,15 @@ class TSpread : public QWidget {
   void SetSelectBlock(const grid::Block& block);
   // The right-click fill: offers copy and series for a fillable cell; false when not offered.
   bool FillSelection(int col, int row, bool lock);
+
+  // "Save...": asks for a file and saves the grid in the format of its extension (HTML,
+  // text, workbook), appending when the preferences say so. False when cancelled or refused.
+  bool ExportGrid(const std::string& title = {});
+  // "Print...": asks, lets the user choose the printer, then prints the selection block
+  // (the whole grid when nothing is selected) under the title. False when nothing printed.
+  bool PrintGrid(const std::string& title);
+  // Prints a block without asking; an empty block prints the whole grid.
+  bool PrintBlock(QPrinter& printer, const grid::Block& block, const std::string& title, int* pages = nullptr);
 
   const std::string& GetData(int col, int row) const { return sheet_.GetData(col, row); }
   void SetData(int col, int row, const std::string& text);

@@ -19,6 +19,8 @@ BOOL CNodeDataDlg::OnInitDialog() {
   return 1;
 }
 
+std::string CNodeDataDlg::PrintTitle() const { return nodegrid::kTableTitle; }
+
 void CNodeDataDlg::Refresh() {
   filled_.clear();
   for (const fmNd& nd : *m_pNodes)

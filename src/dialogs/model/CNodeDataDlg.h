@@ -13,7 +13,7 @@ class CNodeDataDlg : public CDataGridDlg {
   std::vector<fmNd>* m_pNodes = nullptr;
   double m_dEpsilon = 1e-10;  // round-off tolerance
 
-  std::string PrintTitle() const override { return "Node Table"; }
+  std::string PrintTitle() const override;
 
  protected:
   BOOL OnInitDialog() override;

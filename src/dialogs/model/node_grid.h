@@ -14,6 +14,9 @@ namespace nodegrid {
 
 enum Column { kId = 1, kX, kY, kZ, kStatus, kColumnCount = kStatus };
 
+// The heading of the printed and exported table.
+inline constexpr const char* kTableTitle = "Node Table";
+
 std::vector<std::string> Headers(const fmUnit& units);
 
 // Fills the grid from the nodes (only the selected ones when asked) and returns the number

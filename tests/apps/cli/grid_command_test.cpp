@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "support/temp_dir.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 
 namespace {
 
@@ -21,43 +22,43 @@ const std::string kModel = std::string(NORVANE_EXAMPLES_DIR) + "/building.json";
 
 TEST(CliGridExport, WritesTheNodeTableInTheFormatOfTheExtension) {
   TempDir dir;
-  const CliRun txt = Cli("grid export " + kModel + " nodes " + dir.File("n.txt"));
+  const CliRun txt = Cli("grid export " + kModel + " nodes " + dir / "n.txt");
   EXPECT_EQ(txt.status, 0) << txt.output;
-  const std::string text = ReadFileText(dir.File("n.txt"));
+  const std::string text = ReadFileText(dir / "n.txt");
   EXPECT_TRUE(text.starts_with("Node Id\tX [ft]\tY [ft]\tZ [ft]\tStatus\r\n1\t0\t0\t0\tNormal\r\n")) << text;
   EXPECT_TRUE(text.ends_with("44\t23\t-2\t3\tNormal\r\n")) << text;
 
   // Appends only when asked.
-  EXPECT_EQ(Cli("grid export " + kModel + " nodes " + dir.File("n.txt")).status, 0);
-  EXPECT_EQ(ReadFileText(dir.File("n.txt")), text);
-  EXPECT_EQ(Cli("grid export " + kModel + " nodes " + dir.File("n.txt") + " --append").status, 0);
-  EXPECT_EQ(ReadFileText(dir.File("n.txt")), text + text);
+  EXPECT_EQ(Cli("grid export " + kModel + " nodes " + dir / "n.txt").status, 0);
+  EXPECT_EQ(ReadFileText(dir / "n.txt"), text);
+  EXPECT_EQ(Cli("grid export " + kModel + " nodes " + dir / "n.txt" + " --append").status, 0);
+  EXPECT_EQ(ReadFileText(dir / "n.txt"), text + text);
 
-  EXPECT_EQ(Cli("grid export " + kModel + " nodes " + dir.File("n.HTM")).status, 0);
-  EXPECT_NE(ReadFileText(dir.File("n.HTM")).find("<caption>Node Table</caption>"), std::string::npos);
-  EXPECT_EQ(Cli("grid export " + kModel + " nodes " + dir.File("n.xlsx")).status, 0);
-  EXPECT_TRUE(ReadFileText(dir.File("n.xlsx")).starts_with("PK"));
+  EXPECT_EQ(Cli("grid export " + kModel + " nodes " + dir / "n.HTM").status, 0);
+  EXPECT_NE(ReadFileText(dir / "n.HTM").find("<caption>Node Table</caption>"), std::string::npos);
+  EXPECT_EQ(Cli("grid export " + kModel + " nodes " + dir / "n.xlsx").status, 0);
+  EXPECT_TRUE(ReadFileText(dir / "n.xlsx").starts_with("PK"));
 }
 
 TEST(CliGridExport, RefusalsGiveAMessageAnExitStatusAndNoFile) {
   TempDir dir;
-  WriteFileText(dir.File("broken.json"), "{\"format\": ");
+  WriteFileText(dir / "broken.json", "{\"format\": ");
   struct Case {
     std::string args;
     int status;
     std::string message;
   };
   const std::vector<Case> cases = {
-      {"grid export " + kModel + " nodes " + dir.File("n.csv"), 1, "Invalid file format specified"},
-      {"grid export " + kModel + " nodes " + dir.File("n.csv") + " --append", 1, "Invalid file format specified"},
-      {"grid export " + kModel + " beams " + dir.File("n.txt"), 2,
+      {"grid export " + kModel + " nodes " + dir / "n.csv", 1, "Invalid file format specified"},
+      {"grid export " + kModel + " nodes " + dir / "n.csv" + " --append", 1, "Invalid file format specified"},
+      {"grid export " + kModel + " beams " + dir / "n.txt", 2,
        "unknown table \"beams\" (tables: nodes, members, shells, bricks)"},
-      {"grid export " + dir.File("missing.json") + " nodes " + dir.File("n.txt"), 1, "No such file or directory"},
-      {"grid export " + dir.File("broken.json") + " nodes " + dir.File("n.txt"), 1, "Cannot open model"},
-      {"grid export " + kModel + " nodes " + dir.File("no/n.txt"), 1,
-       "Cannot write \"" + dir.File("no/n.txt") + "\": the folder \"" + dir.File("no") + "\" does not exist"},
+      {"grid export " + dir / "missing.json" + " nodes " + dir / "n.txt", 1, "No such file or directory"},
+      {"grid export " + dir / "broken.json" + " nodes " + dir / "n.txt", 1, "Cannot open model"},
+      {"grid export " + kModel + " nodes " + dir / "no/n.txt", 1,
+       "Cannot write \"" + dir / "no/n.txt" + "\": the folder \"" + dir / "no" + "\" does not exist"},
       {"grid export " + kModel + " nodes", 2, "usage: norvane-cli grid export MODEL TABLE OUT [--append]"},
-      {"grid export " + kModel + " nodes " + dir.File("n.txt") + " --force", 2, "unknown option --force"},
+      {"grid export " + kModel + " nodes " + dir / "n.txt" + " --force", 2, "unknown option --force"},
       {"grid print", 2, "usage:"},
   };
   for (const auto& c : cases) {
@@ -65,7 +66,7 @@ TEST(CliGridExport, RefusalsGiveAMessageAnExitStatusAndNoFile) {
     EXPECT_EQ(run.status, c.status) << c.args << "\n" << run.output;
     EXPECT_NE(run.output.find(c.message), std::string::npos) << c.args << "\n" << run.output;
   }
-  EXPECT_EQ(dir.Entries(), std::vector<std::string>{"broken.json"});
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"broken.json"});
 }
 
 TEST(CliGridExport, WritesTheElementTablesAsTheirDialogsFillThem) {
@@ -91,13 +92,13 @@ TEST(CliGridExport, WritesTheElementTablesAsTheirDialogsFillThem) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.table);
-    const std::string txt = dir.File(std::string(c.table) + ".txt");
+    const std::string txt = dir / (std::string(c.table) + ".txt");
     const CliRun run = Cli("grid export " + kModel + " " + c.table + " " + txt);
     EXPECT_EQ(run.status, 0) << run.output;
     const std::string text = ReadFileText(txt);
     EXPECT_TRUE(text.starts_with(c.firstLines)) << text;
     EXPECT_TRUE(text.ends_with(c.lastLine)) << text;
-    const std::string htm = dir.File(std::string(c.table) + ".htm");
+    const std::string htm = dir / (std::string(c.table) + ".htm");
     EXPECT_EQ(Cli("grid export " + kModel + " " + c.table + " " + htm).status, 0);
     EXPECT_NE(ReadFileText(htm).find(std::string("<caption>") + c.title + "</caption>"), std::string::npos);
   }

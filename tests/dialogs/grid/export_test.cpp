@@ -9,7 +9,8 @@
 
 #include "dialogs/grid/grid_ops.h"
 #include "dialogs/grid/sheet.h"
-#include "support/temp_dir.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 #include "tools/parse.h"
 
 namespace {
@@ -198,10 +199,10 @@ TEST(ExportSheet, UnknownExtensionWritesNothing) {
   const Sheet sheet = MakeSheet(kNodes);
   for (const char* name : {"nodes.csv", "nodes", "nodes.pdf"}) {
     for (bool append : {false, true}) {
-      EXPECT_EQ(grid::ExportSheet(sheet, dir.File(name), append, "Node Table"), "Invalid file format specified");
+      EXPECT_EQ(grid::ExportSheet(sheet, (dir / name), append, "Node Table"), "Invalid file format specified");
     }
   }
-  EXPECT_TRUE(dir.Entries().empty());
+  EXPECT_TRUE(FolderEntries(dir.path()).empty());
 }
 
 TEST(ExportHtml, EscapesEveryCellAndReadsBackAsTheSheet) {
@@ -226,7 +227,7 @@ TEST(ExportHtml, EscapesEveryCellAndReadsBackAsTheSheet) {
 
 TEST(ExportHtml, AppendInsertsTheTableIntoTheExistingBody) {
   TempDir dir;
-  const std::string path = dir.File("report.htm");
+  const std::string path = dir / "report.htm";
   ASSERT_EQ(grid::ExportSheet(MakeSheet(kNodes), path, true, "Node Table"), std::nullopt);
   ASSERT_EQ(grid::ExportSheet(MakeSheet(kAwkward), path, true, "Notes"), std::nullopt);
 
@@ -238,7 +239,7 @@ TEST(ExportHtml, AppendInsertsTheTableIntoTheExistingBody) {
   EXPECT_EQ(scan.tables[0], kNodes);
   EXPECT_EQ(scan.tables[1], kAwkward);
   EXPECT_EQ(scan.captions, (std::vector<std::string>{"Node Table", "Notes"}));
-  EXPECT_EQ(dir.Entries(), std::vector<std::string>{"report.htm"});
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"report.htm"});
 
   // Without the preference the file is replaced.
   ASSERT_EQ(grid::ExportSheet(MakeSheet(kNodes), path, false, "Node Table"), std::nullopt);
@@ -256,7 +257,7 @@ TEST(ExportHtml, AppendFindsTheBodyEndInAnyCaseOrAppendsAtTheEnd) {
   };
   for (const auto& c : cases) {
     TempDir dir;
-    const std::string path = dir.File("out.HTM");
+    const std::string path = dir / "out.HTM";
     WriteFileText(path, c.existing);
     ASSERT_EQ(grid::ExportSheet(MakeSheet(kNodes), path, true, ""), std::nullopt);
     const std::string text = ReadFileText(path);
@@ -265,14 +266,14 @@ TEST(ExportHtml, AppendFindsTheBodyEndInAnyCaseOrAppendsAtTheEnd) {
   }
   // An empty file gets a whole document.
   TempDir dir;
-  WriteFileText(dir.File("empty.htm"), "");
-  ASSERT_EQ(grid::ExportSheet(MakeSheet(kNodes), dir.File("empty.htm"), true, "T"), std::nullopt);
-  EXPECT_EQ(ScanHtml(ReadFileText(dir.File("empty.htm"))).elements["html"], 1);
+  WriteFileText(dir / "empty.htm", "");
+  ASSERT_EQ(grid::ExportSheet(MakeSheet(kNodes), dir / "empty.htm", true, "T"), std::nullopt);
+  EXPECT_EQ(ScanHtml(ReadFileText(dir / "empty.htm")).elements["html"], 1);
 }
 
 TEST(ExportText, TabsBetweenCellsAndCrLfAfterEveryRow) {
   TempDir dir;
-  const std::string path = dir.File("nodes.Txt");
+  const std::string path = dir / "nodes.Txt";
   const std::string expected =
       "Node Id\tX [ft]\tY [ft]\tZ [ft]\tStatus\r\n"
       "1\t0\t1.5\t-2.25e-07\tNormal\r\n"
@@ -283,7 +284,7 @@ TEST(ExportText, TabsBetweenCellsAndCrLfAfterEveryRow) {
   EXPECT_EQ(ReadFileText(path), expected + expected);
   ASSERT_EQ(grid::ExportSheet(MakeSheet(kNodes), path, false, "Node Table"), std::nullopt);
   EXPECT_EQ(ReadFileText(path), expected);
-  EXPECT_EQ(dir.Entries(), std::vector<std::string>{"nodes.Txt"});
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"nodes.Txt"});
 }
 
 TEST(ExportText, CellsWithTabsOrBreaksAreQuotedAndReadBack) {
@@ -300,9 +301,9 @@ TEST(ExportWorkbook, NumbersAsNumbersTextAsTextNeverFormulas) {
     auto rows = kAwkward;
     rows.push_back({"1e3", "-0.5", "12abc"});
     for (int i = 0; i < extraRows; ++i) rows.push_back({"n" + std::to_string(i), std::to_string(i), "x"});
-    const std::string path = dir.File(extraRows ? "big.xlsx" : "small.XLS");
+    const std::string path = dir / (extraRows ? "big.xlsx" : "small.XLS");
     ASSERT_EQ(grid::ExportSheet(MakeSheet(rows), path, true, "Loads: [all]"), std::nullopt);
-    EXPECT_EQ(dir.Entries().size(), 1u) << "no temporary file is left";
+    EXPECT_EQ(FolderEntries(dir.path()).size(), 1u) << "no temporary file is left";
 
     const auto cells = ReadWorksheet(path);
     for (size_t r = 0; r < rows.size(); r += r < 8 ? 1 : 997) {
@@ -338,39 +339,39 @@ TEST(ExportWorkbook, TooManyRowsForAWorksheetIsRefused) {
   Sheet sheet;
   sheet.SetMaxCols(1);
   sheet.SetMaxRows(grid::kWorkbookMaxRows);  // one more than fits below the heading row
-  const auto message = grid::ExportSheet(sheet, dir.File("big.xlsx"), false, "");
+  const auto message = grid::ExportSheet(sheet, dir / "big.xlsx", false, "");
   ASSERT_TRUE(message);
-  EXPECT_EQ(*message, "Cannot write \"" + dir.File("big.xlsx") +
+  EXPECT_EQ(*message, "Cannot write \"" + dir / "big.xlsx" +
                           "\": the table has 1048576 rows, but a worksheet holds at most 1048575 rows below its "
                           "heading row. Export to HTML or text instead.");
-  EXPECT_TRUE(dir.Entries().empty());
+  EXPECT_TRUE(FolderEntries(dir.path()).empty());
 }
 
 TEST(ExportSheet, UnwritablePlacesGiveAMessageAndLeaveNoFile) {
   TempDir dir;
-  WriteFileText(dir.File("plain"), "not a folder");
+  WriteFileText(dir / "plain", "not a folder");
   const Sheet sheet = MakeSheet(kNodes);
   for (const char* ext : {"htm", "txt", "xls", "xlsx"}) {
     for (bool append : {false, true}) {
-      const std::string missing = dir.File("missing/nodes.") + ext;
+      const std::string missing = dir / "missing/nodes." + ext;
       EXPECT_EQ(grid::ExportSheet(sheet, missing, append, "Node Table"),
-                "Cannot write \"" + missing + "\": the folder \"" + dir.File("missing") + "\" does not exist");
-      const std::string underFile = dir.File("plain/nodes.") + ext;
+                "Cannot write \"" + missing + "\": the folder \"" + (dir / "missing") + "\" does not exist");
+      const std::string underFile = dir / "plain/nodes." + ext;
       EXPECT_EQ(grid::ExportSheet(sheet, underFile, append, "Node Table"),
-                "Cannot write \"" + underFile + "\": \"" + dir.File("plain") + "\" is not a folder");
+                "Cannot write \"" + underFile + "\": \"" + (dir / "plain") + "\" is not a folder");
     }
   }
-  EXPECT_EQ(dir.Entries(), std::vector<std::string>{"plain"});
-  EXPECT_EQ(ReadFileText(dir.File("plain")), "not a folder");
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"plain"});
+  EXPECT_EQ(ReadFileText(dir / "plain"), "not a folder");
 }
 
 TEST(ExportSheet, WithoutAppendTheWholeFileIsReplaced) {
   TempDir dir;
   for (const char* name : {"t.txt", "t.htm", "t.xlsx"}) {
-    const std::string path = dir.File(name);
+    const std::string path = (dir / name);
     WriteFileText(path, "old contents that are much longer than nothing at all");
     ASSERT_EQ(grid::ExportSheet(MakeSheet(kNodes), path, false, "Node Table"), std::nullopt);
     EXPECT_EQ(ReadFileText(path).find("old contents"), std::string::npos) << name;
   }
-  EXPECT_EQ(dir.Entries(), (std::vector<std::string>{"t.htm", "t.txt", "t.xlsx"}));
+  EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"t.htm", "t.txt", "t.xlsx"}));
 }
