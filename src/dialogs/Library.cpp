@@ -12,6 +12,8 @@ void RegisterLoadsDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
 void RegisterGridDialogs();
+void RegisterSectionsDialogs();
+void RegisterResultsDialogs();
 
 namespace {
 int g_users = 0;
@@ -28,6 +30,8 @@ bool NorvaneDlgsStartup() {
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
   RegisterGridDialogs();
+  RegisterSectionsDialogs();
+  RegisterResultsDialogs();
   return true;
 }
 

@@ -10,6 +10,7 @@
 #include "model/fm_material.h"
 #include "model/fm_node.h"
 #include "model/fm_section.h"
+#include "model/fm_solution.h"
 #include "tools/fm_unit.h"
 
 namespace model {
@@ -28,6 +29,7 @@ struct ModelDocument {
   std::vector<fmBm> members;
   std::vector<fmShell4> shells;
   std::vector<fmBrick> bricks;
+  fmSolution results;  // what the last solver run produced; empty when never solved
 };
 
 // The schema version written; older versions stay readable.

@@ -21,6 +21,8 @@ void ReadThicknesses(const JsonReader& root, ModelDocument& doc);
 void WriteThicknesses(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadElements(const JsonReader& root, ModelDocument& doc);
 void WriteElements(const ModelDocument& doc, nlohmann::ordered_json& root);
+void ReadResults(const JsonReader& root, ModelDocument& doc);
+void WriteResults(const ModelDocument& doc, nlohmann::ordered_json& root);
 // Rescales materials, sections and thicknesses; factor[q] is 1 for a quantity not converted.
 void ConvertPropertyUnits(ModelDocument& doc, const double* factor);
 

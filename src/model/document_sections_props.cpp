@@ -90,9 +90,9 @@ void ReadSections(const JsonReader& root, ModelDocument& doc) {
 void WriteSections(const ModelDocument& doc, nlohmann::ordered_json& root) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (const fmSect& s : doc.sections) {
-    nlohmann::ordered_json item = {{"id", s.id}, {"label", s.label}, {"A", s.A},   {"Ay", s.Ay}, {"Az", s.Az},
-                                   {"Iz", s.Iz}, {"Iy", s.Iy},       {"J", s.J},   {"b", s.b},   {"d", s.d},
-                                   {"tf", s.tf}, {"tw", s.tw}};
+    nlohmann::ordered_json item = {{"id", s.id}, {"label", s.label}, {"A", s.A},   {"Ay", s.Ay},
+                                   {"Az", s.Az}, {"Iz", s.Iz},       {"Iy", s.Iy}, {"J", s.J},
+                                   {"b", s.b},   {"d", s.d},         {"tf", s.tf}, {"tw", s.tw}};
     if (s.reserved != fmSect().reserved) item["reserved"] = s.reserved;
     list.push_back(std::move(item));
   }

@@ -16,10 +16,10 @@ struct fmMat {
 
   int32_t id = -1;
   std::string label;
-  double E = 0;        // modulus of elasticity
-  double nu = 0;       // Poisson ratio
-  double density = 0;  // weight per volume
-  double Tc = 0;       // coefficient of thermal expansion
+  double E = 0;                 // modulus of elasticity
+  double nu = 0;                // Poisson ratio
+  double density = 0;           // weight per volume
+  double Tc = 0;                // coefficient of thermal expansion
   double fc = kDefaultFcPsi;    // concrete compressive strength f'c
   double fy = kDefaultFyPsi;    // concrete: flexural reinforcement yield; steel: Fy
   double fys = kDefaultFysPsi;  // concrete: shear reinforcement yield; steel: Fu

@@ -3,8 +3,8 @@
 #include <string>
 #include <string_view>
 
-#include "tools/parse.h"
 #include "tools/labels.h"
+#include "tools/parse.h"
 
 // Labels of model records hold at most this many characters.
 inline constexpr size_t kRecordLabelChars = 127;
@@ -12,7 +12,7 @@ inline constexpr size_t kRecordLabelChars = 127;
 // The label that marks the one rigid-link section (every property zero).
 inline constexpr const char* kRigidLinkLabel = "RIGID_LINK";
 
-inline bool IsRigidLinkLabel(std::string_view label) { return tools::EqualsNoCase(label, kRigidLinkLabel); }
+inline bool IsRigidLinkLabel(std::string_view label) { return tools::LabelsEqual(label, kRigidLinkLabel); }
 
 // A member section. Values are in the document's length unit and its powers.
 struct fmSect {

@@ -10,6 +10,8 @@ extern const ResourceTable kModelResources;
 extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
+extern const ResourceTable kSectionsResources;
+extern const ResourceTable kResultsResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {
@@ -19,7 +21,9 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kModelResources,
       &kDesignResources,
       &kGeometryResources,
+      &kSectionsResources,
       &kLoadsResources,
+      &kResultsResources,
   };
   return tables;
 }

@@ -62,4 +62,10 @@ std::string FormatG(double value) {
   return std::string(buffer, end);
 }
 
+std::string FormatInt(long long value) {
+  char buffer[24];
+  const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, value);
+  return std::string(buffer, ec == std::errc() ? end : buffer);
+}
+
 }  // namespace tools

@@ -11,4 +11,8 @@ std::string Format(const char* fmt, ...) __attribute__((format(printf, 1, 2)));
 // "%g" of a real, the way grid cells and reports write reals.
 std::string FormatG(double value);
 
+// "%d" of an integer (ids, counts), without printf's cost: grids of a million ids are
+// numbered through here.
+std::string FormatInt(long long value);
+
 }  // namespace tools

@@ -36,9 +36,9 @@ std::vector<fmSect_NDS> BuildNdsTable() {
     bool timber;
   };
   const Family families[] = {
-      {{1}, {2, 3, 4, 6, 8, 10, 12}, false},                                            // boards
-      {{2, 3, 4}, {2, 3, 4, 5, 6, 8, 10, 12, 14, 16}, false},                            // dimension
-      {{5, 6, 8, 10, 12, 14, 16}, {5, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24}, true},      // timbers
+      {{1}, {2, 3, 4, 6, 8, 10, 12}, false},                                         // boards
+      {{2, 3, 4}, {2, 3, 4, 5, 6, 8, 10, 12, 14, 16}, false},                        // dimension
+      {{5, 6, 8, 10, 12, 14, 16}, {5, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24}, true},  // timbers
   };
   std::vector<fmSect_NDS> table;
   for (const Family& f : families)

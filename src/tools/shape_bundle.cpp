@@ -62,9 +62,12 @@ std::vector<fmSect_AISC> ParseAiscSource(std::string_view text, const std::strin
     for (size_t w = 0; w < words.size(); ++w) {
       const int k = columns[w];
       const std::string_view v = words[w];
-      if (k == 0) edi = v;
-      else if (k == 1) s.label = std::string(v);
-      else if (k == 3) s.tf = v == "-" ? "" : std::string(v);
+      if (k == 0)
+        edi = v;
+      else if (k == 1)
+        s.label = std::string(v);
+      else if (k == 3)
+        s.tf = v == "-" ? "" : std::string(v);
       else if (k >= kAiscTextColumnCount && v != "-") {
         const auto number = ParseDouble(v);
         if (!number) fail(lineNo, "\"" + std::string(v) + "\" is not a number");

@@ -108,8 +108,8 @@ std::string CsvField(const std::string& text) {
 
 std::vector<fmSect_AISC> ParseAiscCsv(std::string_view text, const std::string& file) {
   if (text.size() > kMaxAiscCsvBytes)
-    Refuse(file, Format("the file is too large for a shape table (%zu bytes; at most %zu).", text.size(),
-                        kMaxAiscCsvBytes));
+    Refuse(file,
+           Format("the file is too large for a shape table (%zu bytes; at most %zu).", text.size(), kMaxAiscCsvBytes));
   if (text.find('\0') != std::string_view::npos) Refuse(file, "this is not a text file (it holds binary data).");
   if (text.starts_with("\xEF\xBB\xBF")) text.remove_prefix(3);
   if (Trim(text).empty()) Refuse(file, "the file is empty.");
@@ -182,8 +182,7 @@ std::vector<fmSect_AISC> ParseAiscCsv(std::string_view text, const std::string& 
       }
       if (value.empty()) continue;  // not applicable to this shape
       const auto number = ParseDouble(value);
-      if (!number)
-        Refuse(file, where() + ": \"" + std::string(value) + "\" is not a number.");
+      if (!number) Refuse(file, where() + ": \"" + std::string(value) + "\" is not a number.");
       s.values[static_cast<size_t>(k - kAiscTextColumnCount)] = *number;
     }
     const auto where = [&](int k) {
@@ -215,8 +214,7 @@ std::string WriteAiscCsv(const AiscLibrary& library) {
   }
   out += "\n";
   for (const auto& s : library.shapes()) {
-    out += CsvField(s.edi) + ',' + CsvField(s.label) + ',' + CsvField(s.type) + ',' +
-           CsvField(s.tf);
+    out += CsvField(s.edi) + ',' + CsvField(s.label) + ',' + CsvField(s.type) + ',' + CsvField(s.tf);
     for (double v : s.values) {
       out += ',';
       if (!std::isnan(v)) out += ShortestNumber(v);

@@ -9,6 +9,7 @@
 
 #include "tools/atomic_file.h"
 #include "tools/fm_exception.h"
+#include "tools/parse.h"
 #include "tools/shape_table.h"
 
 // Where the shape libraries are found, the cached copies the dialogs read, and the import

@@ -24,9 +24,31 @@ int AiscValueIndex(std::string_view columnName);
 namespace aisc {
 // Value indices of the columns the program reads by name.
 enum Value : int {
-  W = 0, A = 1, d = 2, Ht = 4, h = 5, OD = 6, bf = 7, B = 9, b = 10, tw = 12, tf = 15, t = 17,
-  tnom = 18, tdes = 19, kdes = 20, Ix = 34, Zx = 35, Sx = 36, rx = 37, Iy = 38, Zy = 39, Sy = 40,
-  ry = 41, J = 45, Cw = 46
+  W = 0,
+  A = 1,
+  d = 2,
+  Ht = 4,
+  h = 5,
+  OD = 6,
+  bf = 7,
+  B = 9,
+  b = 10,
+  tw = 12,
+  tf = 15,
+  t = 17,
+  tnom = 18,
+  tdes = 19,
+  kdes = 20,
+  Ix = 34,
+  Zx = 35,
+  Sx = 36,
+  rx = 37,
+  Iy = 38,
+  Zy = 39,
+  Sy = 40,
+  ry = 41,
+  J = 45,
+  Cw = 46
 };
 }  // namespace aisc
 

@@ -2,12 +2,12 @@
 #include <QComboBox>
 #include <QImage>
 #include <QMenuBar>
+#include <QSettings>
 
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <map>
 
 #include "apps/host/DialogRunner.h"
@@ -16,6 +16,8 @@
 #include "resources/units_ids.h"
 #include "support/DialogTest.h"
 #include "support/run_program.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 #include "tools/atomic_file.h"
 
 namespace fs = std::filesystem;
@@ -29,21 +31,13 @@ class HostWindowTest : public DialogTest {
  protected:
   void SetUp() override {
     DialogTest::SetUp();
-    std::string pattern = (fs::temp_directory_path() / "norvane-host.XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    dir = pattern;
-    modelPath = (dir / "building.json").string();
+    modelPath = dir / "building.json";
     fs::copy_file(kExample, modelPath);
     ASSERT_TRUE(window.OpenModel(modelPath));
   }
-  void TearDown() override {
-    fs::remove_all(dir);
-    DialogTest::TearDown();
-  }
   std::string Write(const std::string& name, const std::string& text) {
-    const std::string path = (dir / name).string();
-    std::ofstream(path, std::ios::binary) << text;
-    return path;
+    WriteFileText(dir / name, text);
+    return dir / name;
   }
   // Runs the units dialog on the open model as the host does, without a modal loop:
   // length in metres, converting the stored coordinates.
@@ -59,7 +53,7 @@ class HostWindowTest : public DialogTest {
     window.RefreshView();
   }
 
-  fs::path dir;
+  TempDir dir;
   std::string modelPath;
   HostWindow window;
 };
@@ -74,8 +68,8 @@ TEST_F(HostWindowTest, BadFilesAreExplainedAndTheOpenModelIsKept) {
     std::string problem;
   };
   const Case cases[] = {
-      {"missing file", (dir / "nowhere.json").string(), "", std::string("No such file or directory")},
-      {"a folder", dir.string(), "", "it is a folder, not a file"},
+      {"missing file", dir / "nowhere.json", "", std::string("No such file or directory")},
+      {"a folder", dir.path(), "", "it is a folder, not a file"},
       {"malformed", Write("broken.json", "{\n  \"format\": \"norvane-model\"\n  \"schemaVersion\": 1\n}"),
        "line 3, column 3", "syntax error"},
       {"wrong type", Write("text-x.json", R"({"format": "norvane-model", "schemaVersion": 1,
@@ -116,6 +110,32 @@ TEST_F(HostWindowTest, OkMarksTheModelModifiedAndCancelDoesNot) {
   EXPECT_TRUE(window.windowTitle().startsWith("building.json*")) << window.windowTitle().toStdString();
 }
 
+TEST_F(HostWindowTest, SavedDefaultUnitsStartANewModel) {
+  EXPECT_TRUE(window.NewModel());
+  EXPECT_EQ(window.model().doc.units, fmUnit()) << "English until defaults are saved";
+  EXPECT_TRUE(window.model().path.empty());
+
+  auto dlg = CreateBoundDialog("CUnitsDlg", window.model(), &window);
+  dlg->InitDialogForTest();
+  ASSERT_TRUE(dlg->PressButton(res::kCtlUnitsDefaultMetric));
+  dlg->Item<QAbstractButton>(res::kCtlUnitsSaveDefaults)->setChecked(true);
+  ASSERT_TRUE(dlg->PressButton(IDOK));
+  TakeBackDialogResult("CUnitsDlg", *dlg, dlg->ModalResult(), window.model());
+  prompter.QueueAnswer(false);  // discard the untitled model
+  EXPECT_TRUE(window.NewModel());
+  fmUnit metric;
+  metric.SetMetric();
+  EXPECT_EQ(window.model().doc.units, metric);
+  EXPECT_FALSE(window.model().modified);
+
+  {
+    QSettings settings;  // settings spoiled by hand fall back to English
+    settings.setValue("Units/Unit", "1,2,3");
+  }
+  EXPECT_TRUE(window.NewModel());
+  EXPECT_EQ(window.model().doc.units.unit, fmUnit().unit);
+}
+
 TEST_F(HostWindowTest, DialogsWithoutModelDataLeaveItUnmodified) {
   auto about = CreateBoundDialog("CAboutDlg", window.model(), &window);
   ASSERT_NE(about, nullptr);
@@ -128,7 +148,6 @@ TEST_F(HostWindowTest, DialogsWithoutModelDataLeaveItUnmodified) {
 
 TEST_F(HostWindowTest, QuittingAModifiedModelAsks) {
   ChangeLengthToMetres(IDOK);
-  const std::string saved = fs::exists(modelPath) ? modelPath : "";
 
   prompter.QueueCancel();  // Cancel: stay
   EXPECT_FALSE(window.close());
@@ -160,7 +179,7 @@ TEST_F(HostWindowTest, AnUnchangedModelClosesWithoutAQuestion) {
 
 TEST_F(HostWindowTest, SaveAsWritesTheChosenFileAndAFailureKeepsTheOldName) {
   ChangeLengthToMetres(IDOK);
-  const std::string copy = (dir / "copy.json").string();
+  const std::string copy = dir / "copy.json";
   prompter.QueuePath(copy);
   EXPECT_TRUE(window.SaveModelAs());
   EXPECT_EQ(window.model().path, copy);
@@ -168,13 +187,14 @@ TEST_F(HostWindowTest, SaveAsWritesTheChosenFileAndAFailureKeepsTheOldName) {
   EXPECT_EQ(model::LoadModelDocument(copy).units.Label(fmUnit::Length), "m");
 
   window.model().modified = true;
-  const std::string nowhere = (dir / "missing-folder" / "x.json").string();
+  const std::string nowhere = dir / "missing-folder/x.json";
   prompter.QueuePath(nowhere);
   EXPECT_FALSE(window.SaveModelAs());
   EXPECT_EQ(window.model().path, copy);
   EXPECT_TRUE(window.model().modified);
   ASSERT_EQ(Messages().size(), 1u);
-  EXPECT_NE(Messages()[0].find("does not exist"), std::string::npos) << Messages()[0];
+  EXPECT_EQ(Messages()[0], "Cannot write \"" + nowhere + "\": the folder \"" + dir / "missing-folder" +
+                              "\" does not exist");
 
   prompter.Clear();
   prompter.QueuePath("");  // the user cancels the file dialog
@@ -196,9 +216,9 @@ TEST_F(HostWindowTest, MenusListTheDialogsByFamily) {
 }
 
 TEST(HostProgram, ShowRendersADialogAndRefusesWhatItCannot) {
-  std::string dir = (fs::temp_directory_path() / "norvane-shot.XXXXXX").string();
-  ASSERT_NE(mkdtemp(dir.data()), nullptr);
-  const std::string png = dir + "/conversion.png";
+  TempDir tmp;
+  const std::string& dir = tmp.path();
+  const std::string png = tmp / "conversion.png";
   auto r = testsupport::RunProgram(NORVANE_HOST_PATH, {"--show", "CUnitConversionDlg", "--screenshot", png});
   EXPECT_EQ(r.status, 0) << r.err;
   const QImage picture(QString::fromStdString(png));
@@ -223,5 +243,7 @@ TEST(HostProgram, ShowRendersADialogAndRefusesWhatItCannot) {
     EXPECT_EQ(r.status, c.status) << c.args[0];
     EXPECT_NE(r.err.find(c.message), std::string::npos) << r.err;
   }
-  fs::remove_all(dir);
+  r = testsupport::RunProgram(NORVANE_HOST_PATH, {"--list"});
+  EXPECT_EQ(r.status, 0);
+  EXPECT_NE(r.out.find("Units\tCUnitConversionDlg\n"), std::string::npos) << r.out;
 }

@@ -2,14 +2,13 @@
 
 #include <cerrno>
 #include <cstring>
-#include <filesystem>
 #include <string>
 
 #include "model/convert_units.h"
 #include "model/document.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 #include "tools/atomic_file.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -117,14 +116,11 @@ TEST(ModelDocument, RoundTripKeepsEveryValue) {
   EXPECT_EQ(back.display, doc.display);
   EXPECT_EQ(back.nodes, doc.nodes);
 
-  std::string dir = (fs::temp_directory_path() / "norvane-doc.XXXXXX").string();
-  ASSERT_NE(mkdtemp(dir.data()), nullptr);
-  const std::string path = dir + "/model.json";
-  model::SaveModelDocument(doc, path);
-  const model::ModelDocument loaded = model::LoadModelDocument(path);
+  TempDir dir;
+  model::SaveModelDocument(doc, dir / "model.json");
+  const model::ModelDocument loaded = model::LoadModelDocument(dir / "model.json");
   EXPECT_EQ(loaded.nodes, doc.nodes);
   EXPECT_EQ(loaded.units, doc.units);
-  fs::remove_all(dir);
 }
 
 TEST(ModelDocument, WrittenDocumentStartsWithItsHeader) {

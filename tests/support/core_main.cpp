@@ -7,9 +7,11 @@
 
 int main(int argc, char** argv) {
   // Run under a comma-decimal locale, so a number written or read through the locale shows up.
-  if (testsupport::EnsureCommaLocale())
+  if (testsupport::EnsureCommaLocale()) {
     std::setlocale(LC_ALL, testsupport::kCommaLocale);
-  else
+    // System error texts (strerror) stay in English, so expected messages read the same everywhere.
+    std::setlocale(LC_MESSAGES, "C");
+  } else
     std::fprintf(stderr, "note: no %s locale and no localedef; the locale tests will be skipped\n",
                  testsupport::kCommaLocale);
   ::testing::InitGoogleTest(&argc, argv);

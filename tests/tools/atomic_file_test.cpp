@@ -5,43 +5,20 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
-#include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <string>
 #include <vector>
 
+#include "support/TempDir.h"
+#include "support/files.h"
 #include "tools/atomic_file.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
 class AtomicFileTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    std::string pattern = (fs::temp_directory_path() / "norvane-atomic.XXXXXX").string();
-    ASSERT_NE(mkdtemp(pattern.data()), nullptr);
-    dir = pattern;
-  }
-  void TearDown() override { fs::remove_all(dir); }
-
-  std::string Path(const std::string& name) const { return (dir / name).string(); }
-  static std::string Read(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
-  }
-  std::vector<std::string> Entries() const {
-    std::vector<std::string> names;
-    for (const auto& e : fs::directory_iterator(dir)) names.push_back(e.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
-  }
-
-  fs::path dir;
+  std::string Path(const std::string& name) const { return dir / name; }
+  TempDir dir;
 };
 
 }  // namespace
@@ -49,12 +26,12 @@ class AtomicFileTest : public ::testing::Test {
 TEST_F(AtomicFileTest, WritesAndReplacesWithoutLeavingTemporaries) {
   const std::string path = Path("model.json");
   tools::WriteFileAtomically(path, "first");
-  EXPECT_EQ(Read(path), "first");
+  EXPECT_EQ(ReadFileText(path), "first");
   tools::WriteFileAtomically(path, "second, longer than the first");
-  EXPECT_EQ(Read(path), "second, longer than the first");
+  EXPECT_EQ(ReadFileText(path), "second, longer than the first");
   tools::WriteFileAtomically(path, "");
-  EXPECT_EQ(Read(path), "");
-  EXPECT_EQ(Entries(), std::vector<std::string>{"model.json"});
+  EXPECT_EQ(ReadFileText(path), "");
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"model.json"});
   EXPECT_EQ(tools::ReadWholeFile(path), "");
 }
 
@@ -77,16 +54,16 @@ TEST_F(AtomicFileTest, FailureInTheMiddleOfWritingKeepsTheOldFile) {
   setrlimit(RLIMIT_FSIZE, &old);
   std::signal(SIGXFSZ, previousHandler);
   EXPECT_NE(message.find("Cannot write \"" + path + "\""), std::string::npos) << message;
-  EXPECT_EQ(Read(path), "the old model");
-  EXPECT_EQ(Entries(), std::vector<std::string>{"model.json"}) << "no partial file is left behind";
+  EXPECT_EQ(ReadFileText(path), "the old model");
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"model.json"}) << "no partial file is left behind";
 }
 
 TEST_F(AtomicFileTest, ReplacingAFolderFailsAndLeavesIt) {
   const std::string path = Path("taken");
-  fs::create_directory(path);
+  std::filesystem::create_directory(path);
   EXPECT_THROW(tools::WriteFileAtomically(path, "data"), tools::FileError);
-  EXPECT_TRUE(fs::is_directory(path));
-  EXPECT_EQ(Entries(), std::vector<std::string>{"taken"});
+  EXPECT_TRUE(std::filesystem::is_directory(path));
+  EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"taken"});
 }
 
 TEST_F(AtomicFileTest, MissingFolderIsNamedInTheMessage) {
@@ -99,15 +76,16 @@ TEST_F(AtomicFileTest, MissingFolderIsNamedInTheMessage) {
     EXPECT_EQ(std::string(e.what()), "Cannot write \"" + path + "\": the folder \"" + folder + "\" does not exist");
     EXPECT_EQ(e.reason(), "the folder \"" + folder + "\" does not exist");
   }
-  EXPECT_FALSE(fs::exists(folder));
+  EXPECT_FALSE(std::filesystem::exists(folder));
   EXPECT_THROW(tools::AppendToFile(path, "data"), tools::FileError);
+  EXPECT_FALSE(std::filesystem::exists(folder));
 }
 
 TEST_F(AtomicFileTest, AppendingNeverTruncates) {
   const std::string path = Path("report.txt");
   tools::AppendToFile(path, "one\r\n");
   tools::AppendToFile(path, "two\r\n");
-  EXPECT_EQ(Read(path), "one\r\ntwo\r\n");
+  EXPECT_EQ(ReadFileText(path), "one\r\ntwo\r\n");
 }
 
 TEST_F(AtomicFileTest, ReadingRefusesWhatIsNotAReadableFile) {
@@ -115,7 +93,7 @@ TEST_F(AtomicFileTest, ReadingRefusesWhatIsNotAReadableFile) {
     std::string path;
     std::string reason;
   };
-  fs::create_directory(Path("folder"));
+  std::filesystem::create_directory(Path("folder"));
   tools::WriteFileAtomically(Path("big"), std::string(2000, 'b'));
   const Case cases[] = {
       {Path("missing.json"), "No such file or directory"},  // in English, whatever the locale

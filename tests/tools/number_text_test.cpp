@@ -27,6 +27,10 @@ std::vector<FormatCase> FormatCases() {
       {tools::Format("%s  Version %s (Build %s)", "Norvane", "1.0.0", "7"), "Norvane  Version 1.0.0 (Build 7)"},
       {tools::FormatG(0.1), "0.1"},
       {tools::Format("%.15g", 0.01), "0.01"},
+      {tools::FormatInt(0), "0"},
+      {tools::FormatInt(-42), "-42"},
+      {tools::FormatInt(4294967295LL), "4294967295"},
+      {tools::FormatInt(-9223372036854775807LL - 1), "-9223372036854775808"},
   };
 }
 

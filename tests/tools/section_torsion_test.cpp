@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "tools/section_torsion.h"
+
+#include <gtest/gtest.h>
 
 // J = beta a t^3 for a solid rectangle with long side a and short side t; the classic
 // table of beta by aspect ratio a/t.

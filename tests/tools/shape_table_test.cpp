@@ -1,3 +1,5 @@
+#include "tools/shape_table.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -9,7 +11,6 @@
 #include "tools/atomic_file.h"
 #include "tools/fm_exception.h"
 #include "tools/shape_bundle.h"
-#include "tools/shape_table.h"
 
 namespace {
 
@@ -34,15 +35,14 @@ class ShapeLibraryTest : public ::testing::Test {
 
   std::string UserFile(const char* name) const { return user.path() + "/norvane/" + name; }
   std::string WriteCsv(const std::string& name, const std::string& text) const {
-    tools::WriteFileAtomically(files / name, text);
-    return files / name;
+    tools::WriteFileAtomically((files / name), text);
+    return (files / name);
   }
 
   TempDir user, files;
 };
 
-const std::string kHeader =
-    "EDI_Std_Nomenclature,AISC_Manual_Label,Type,T_F,W,A,d,bf,tw,tf,kdes,Ix,Iy,J,Comment\n";
+const std::string kHeader = "EDI_Std_Nomenclature,AISC_Manual_Label,Type,T_F,W,A,d,bf,tw,tf,kdes,Ix,Iy,J,Comment\n";
 const std::string kGoodRows =
     "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,light\n"
     "W8X31,W8X31,W,F,31,9.13,8,8,0.285,0.435,0.829,110,37.1,0.536,\n";
@@ -51,12 +51,12 @@ const std::string kGoodRows =
 
 TEST(ShapeColumns, NamedValueIndicesMatchThePublishedLayout) {
   const std::pair<int, const char*> named[] = {
-      {tools::aisc::W, "W"},     {tools::aisc::A, "A"},   {tools::aisc::d, "d"},       {tools::aisc::Ht, "Ht"},
-      {tools::aisc::h, "h"},     {tools::aisc::OD, "OD"}, {tools::aisc::bf, "bf"},     {tools::aisc::B, "B"},
-      {tools::aisc::b, "b"},     {tools::aisc::tw, "tw"}, {tools::aisc::tf, "tf"},     {tools::aisc::t, "t"},
+      {tools::aisc::W, "W"},       {tools::aisc::A, "A"},       {tools::aisc::d, "d"},       {tools::aisc::Ht, "Ht"},
+      {tools::aisc::h, "h"},       {tools::aisc::OD, "OD"},     {tools::aisc::bf, "bf"},     {tools::aisc::B, "B"},
+      {tools::aisc::b, "b"},       {tools::aisc::tw, "tw"},     {tools::aisc::tf, "tf"},     {tools::aisc::t, "t"},
       {tools::aisc::tnom, "tnom"}, {tools::aisc::tdes, "tdes"}, {tools::aisc::kdes, "kdes"}, {tools::aisc::Ix, "Ix"},
-      {tools::aisc::Zx, "Zx"},   {tools::aisc::Sx, "Sx"}, {tools::aisc::rx, "rx"},     {tools::aisc::Iy, "Iy"},
-      {tools::aisc::Zy, "Zy"},   {tools::aisc::Sy, "Sy"}, {tools::aisc::ry, "ry"},     {tools::aisc::J, "J"},
+      {tools::aisc::Zx, "Zx"},     {tools::aisc::Sx, "Sx"},     {tools::aisc::rx, "rx"},     {tools::aisc::Iy, "Iy"},
+      {tools::aisc::Zy, "Zy"},     {tools::aisc::Sy, "Sy"},     {tools::aisc::ry, "ry"},     {tools::aisc::J, "J"},
       {tools::aisc::Cw, "Cw"}};
   for (const auto& [index, name] : named) EXPECT_EQ(tools::AiscValueIndex(name), index) << name;
   EXPECT_EQ(tools::AiscValueIndex("AISC_Manual_Label"), -1);
@@ -109,9 +109,8 @@ TEST(BundledShapes, LumberHasDressedSizesAndTheirProperties) {
   const struct {
     const char* label;
     double b, d;
-  } sizes[] = {{"1x4", 0.75, 3.5}, {"2x4", 1.5, 3.5},  {"2x6", 1.5, 5.5},  {"2x8", 1.5, 7.25},
-               {"2x12", 1.5, 11.25}, {"4x4", 3.5, 3.5}, {"6x6", 5.5, 5.5},  {"6x10", 5.5, 9.5},
-               {"8x8", 7.5, 7.5}};
+  } sizes[] = {{"1x4", 0.75, 3.5}, {"2x4", 1.5, 3.5}, {"2x6", 1.5, 5.5},  {"2x8", 1.5, 7.25}, {"2x12", 1.5, 11.25},
+               {"4x4", 3.5, 3.5},  {"6x6", 5.5, 5.5}, {"6x10", 5.5, 9.5}, {"8x8", 7.5, 7.5}};
   for (const auto& size : sizes) {
     const auto it = std::find_if(table.begin(), table.end(), [&](const auto& s) { return s.label == size.label; });
     ASSERT_NE(it, table.end()) << size.label;
@@ -157,7 +156,8 @@ TEST_F(ShapeLibraryTest, TransformsShapesIntoSections) {
     EXPECT_EQ(s.label, c.label);
     const double got[] = {s.A, s.Ay, s.Az, s.Iz, s.Iy, s.J, s.b, s.d, s.tf, s.tw};
     const double want[] = {c.A, c.Ay, c.Az, c.Iz, c.Iy, c.J, c.b, c.d, c.tf, c.tw};
-    for (size_t k = 0; k < std::size(got); ++k) EXPECT_NEAR(got[k], want[k], 1e-9 * (1 + want[k])) << c.label << " " << k;
+    for (size_t k = 0; k < std::size(got); ++k)
+      EXPECT_NEAR(got[k], want[k], 1e-9 * (1 + want[k])) << c.label << " " << k;
   }
   fmSect wood;
   tools::transform_nds_to_norvane_section(wood, (*tools::CurrentNdsTable())[size_t(tools::get_nds_shape("2x4"))]);
@@ -209,7 +209,8 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
        "line 4, column 2 (AISC_Manual_Label): the label W8x31 is already used on line 3."},
       {"empty file", "", "the file is empty."},
       {"blank lines only", "\n \r\n", "the file is empty."},
-      {"binary file", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), "this is not a text file (it holds binary data)."},
+      {"binary file", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16),
+       "this is not a text file (it holds binary data)."},
       {"not UTF-8", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,caf\xE9\n",
        "line 2: the text is not UTF-8"},
       {"short row", kHeader + "W10X12,W10X12,W,F,12\n", "line 2: 5 fields where the header names 15."},
@@ -236,7 +237,7 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
 }
 
 TEST_F(ShapeLibraryTest, AHundredMegabyteFileIsRefusedUnread) {
-  const std::string path = files / "huge.csv";
+  const std::string path = (files / "huge.csv");
   {
     std::ofstream f(path, std::ios::binary);
     f << kHeader;
@@ -265,7 +266,7 @@ TEST_F(ShapeLibraryTest, ADamagedUserCopyFallsBackToTheInstalledLibrary) {
 
 TEST_F(ShapeLibraryTest, BundledLibraryExportsAndReimportsUnchanged) {
   const tools::AiscLibrary installed = tools::AiscLibrary::LoadFrom(kDataDir);
-  const std::string csv = files / "bundled.csv";
+  const std::string csv = (files / "bundled.csv");
   tools::binary_ascii(csv);
   EXPECT_EQ(Read(csv).substr(0, 39), "EDI_Std_Nomenclature,AISC_Manual_Label,");
   tools::ascii_binary(csv);
@@ -279,7 +280,7 @@ TEST_F(ShapeLibraryTest, PublishedDatabaseImportsAndExportsUnchanged) {
   ASSERT_NE(lib, nullptr);
   EXPECT_EQ(lib->size(), 2091u);
   const auto published = tools::ParseAiscCsv(Read(kPublished), kPublished);
-  const std::string exported = files / "exported.csv";
+  const std::string exported = (files / "exported.csv");
   tools::binary_ascii(exported);
   const auto back = tools::ParseAiscCsv(Read(exported), exported);
   ASSERT_EQ(back.size(), published.size());

@@ -27,5 +27,6 @@ int KFactorCommand(const Args& args, std::ostream& out, std::ostream& err);
 int CylinderCommand(const Args& args, std::ostream& out, std::ostream& err);
 int SectionCommand(const Args& args, std::ostream& out, std::ostream& err);
 int ShapesCommand(const Args& args, std::ostream& out, std::ostream& err);
+int ReportCommand(const Args& args, std::ostream& out, std::ostream& err);
 
 }  // namespace cli

@@ -43,6 +43,13 @@ const cli::Command kCommands[] = {
      "                                  replace the library from, or write it to, a csv file\n"
      "  shapes bundle DATA_DIR          build the bundled library files from their source",
      cli::ShapesCommand},
+    {"report",
+     "report MODEL KIND [--case N|--mode N] [--query ID] [--selected] [-o OUT]\n"
+     "                                  a results report of the model (KIND as the results dialog's,\n"
+     "                                  e.g. 0 displacements, 1 support reactions, 55 displacement\n"
+     "                                  envelope); N is the 1-based case or mode, the first when\n"
+     "                                  omitted; OUT .htm, .txt, .xls or .xlsx, else aligned text",
+     cli::ReportCommand},
 };
 
 void PrintUsage(std::ostream& out) {

@@ -47,9 +47,8 @@ int SectionCommand(const Args& args, std::ostream& out, std::ostream& err) {
   }
   const fmSect s = design::ComputeRegularSection(type, dims);
   out << "label " << s.label << "\n";
-  const std::pair<const char*, double> fields[] = {{"A", s.A},   {"Ay", s.Ay}, {"Az", s.Az}, {"Iz", s.Iz},
-                                                   {"Iy", s.Iy}, {"J", s.J},   {"b", s.b},   {"d", s.d},
-                                                   {"tf", s.tf}, {"tw", s.tw}};
+  const std::pair<const char*, double> fields[] = {{"A", s.A}, {"Ay", s.Ay}, {"Az", s.Az}, {"Iz", s.Iz}, {"Iy", s.Iy},
+                                                   {"J", s.J}, {"b", s.b},   {"d", s.d},   {"tf", s.tf}, {"tw", s.tw}};
   for (const auto& [name, value] : fields) out << name << " " << tools::FormatG(value) << "\n";
   return kOk;
 }

@@ -19,8 +19,9 @@ constexpr const char* kUsageText =
 
 const tools::AiscLibrary* Library(std::ostream& err) {
   const tools::AiscLibrary* lib = tools::CurrentAiscLibrary();
-  if (!lib) err << "norvane-cli: the steel shape library cannot be read (looked in \"" << tools::ActiveAiscDirectory()
-                << "\")\n";
+  if (!lib)
+    err << "norvane-cli: the steel shape library cannot be read (looked in \"" << tools::ActiveAiscDirectory()
+        << "\")\n";
   return lib;
 }
 

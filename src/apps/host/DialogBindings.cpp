@@ -35,4 +35,6 @@ void RegisterAllBindings() {
   RegisterConcreteDesignBindings();
   RegisterGeometryBindings();
   RegisterGridBindings();
+  RegisterSectionsBindings();
+  RegisterResultsBindings();
 }

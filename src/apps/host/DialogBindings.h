@@ -29,4 +29,6 @@ void RegisterLoadsBindings();
 void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
 void RegisterGridBindings();
+void RegisterSectionsBindings();
+void RegisterResultsBindings();
 void RegisterAllBindings();

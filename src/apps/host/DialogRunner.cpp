@@ -49,6 +49,7 @@ bool TakeBackDialogResult(const std::string& className, CDialog& dlg, int result
   // the model at once may have changed it even when cancelled.
   const auto& takeBack = result == IDOK ? binding->takeBack : binding->afterCancel;
   const bool changed = takeBack && takeBack(dlg, model);
+  model.dialogState.reset();
   if (changed) model.modified = true;
   return changed;
 }

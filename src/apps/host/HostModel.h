@@ -1,4 +1,6 @@
 #pragma once
+#include <map>
+#include <memory>
 #include <string>
 
 #include "model/document.h"
@@ -10,4 +12,8 @@ struct HostModel {
   bool modified = false;
   // What the last dialog's take-back did, for the status bar (empty: nothing to say).
   std::string status;
+  // Options given with --show for the dialog it opens ("kind" -> "1"), read by its binding.
+  std::map<std::string, std::string> showOptions;
+  // What a binding keeps alive while its dialog runs (the results' solved structure).
+  std::shared_ptr<void> dialogState;
 };

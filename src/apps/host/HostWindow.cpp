@@ -4,12 +4,14 @@
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QMenuBar>
+#include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTreeWidget>
 #include <map>
 
 #include "apps/host/DialogRunner.h"
+#include "apps/host/HostSettings.h"
 #include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
 #include "tools/format.h"
@@ -50,6 +52,7 @@ HostWindow::HostWindow(QWidget* parent)
 
 void HostWindow::BuildMenus() {
   QMenu* file = menuBar()->addMenu("&File");
+  file->addAction("&New", QKeySequence::New, this, [this] { NewModel(); });
   file->addAction("&Open...", QKeySequence::Open, this, [this] { OnOpen(); });
   file->addAction("&Save", QKeySequence::Save, this, [this] { SaveModel(); });
   file->addAction("Save &As...", QKeySequence::SaveAs, this, [this] { SaveModelAs(); });
@@ -101,6 +104,15 @@ void HostWindow::RefreshView() {
   QString status = model_.modified ? "Modified" : "Saved";
   if (!model_.status.empty()) status += " - " + QString::fromStdString(model_.status);
   statusBar()->showMessage(status);
+}
+
+bool HostWindow::NewModel() {
+  if (!ConfirmDiscard()) return false;
+  QSettings settings;
+  model_ = HostModel{};
+  model_.doc.units = DefaultUnits(settings);
+  RefreshView();
+  return true;
 }
 
 bool HostWindow::OpenModel(const std::string& path) {

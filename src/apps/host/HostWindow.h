@@ -14,6 +14,8 @@ class HostWindow : public QMainWindow {
  public:
   explicit HostWindow(QWidget* parent = nullptr);
 
+  // Starts an empty, untitled model in the default units; false when the user keeps the old one.
+  bool NewModel();
   // Opens a document; on failure shows why and keeps the open one. Returns success.
   bool OpenModel(const std::string& path);
   bool SaveModel();

@@ -1,4 +1,7 @@
+#include <QSettings>
+
 #include "apps/host/DialogBindings.h"
+#include "apps/host/HostSettings.h"
 #include "dialogs/units/CUnitsDlg.h"
 #include "model/convert_units.h"
 
@@ -10,8 +13,13 @@ void RegisterUnitsBindings() {
                            dlg.m_bModelLocked = m.doc.display.modelLocked;
                          },
                          [](CDialog& d, HostModel& m) {
+                           auto& dlg = static_cast<CUnitsDlg&>(d);
+                           if (dlg.m_bSaveAsDefaults) {
+                             QSettings settings;
+                             StoreDefaultUnits(dlg.m_Units, settings);
+                           }
                            const fmUnit before = m.doc.units;
-                           model::ChangeDocumentUnits(m.doc, static_cast<CUnitsDlg&>(d).m_Units);
+                           model::ChangeDocumentUnits(m.doc, dlg.m_Units);
                            return !(m.doc.units == before);
                          }});
 }

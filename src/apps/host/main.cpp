@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <iostream>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -8,24 +9,31 @@
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostWindow.h"
 #include "dialogs/Library.h"
+#include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
+#include "tools/parse.h"
 
 namespace {
 
 const char* kUsage =
     "usage: norvane-host [MODEL] [--screenshot FILE]\n"
     "       norvane-host --show CLASS [--model FILE] [--screenshot FILE] [--print-to-pdf FILE]\n"
+    "       norvane-host --show CResultsDlg --kind N [--case N] [--query ID] ...\n"
+    "       norvane-host --list\n"
     "\n"
     "Without --show the main window opens on MODEL (the bundled example by default).\n"
     "--show runs one dialog on the model; with --screenshot it renders the dialog to a PNG\n"
     "after its set-up and exits; with --print-to-pdf it prints the dialog's whole table to a\n"
-    "PDF file, as \"Print...\" lays it out, and exits.\n";
+    "PDF file, as \"Print...\" lays it out, and exits. --kind, --case and --query are handed to\n"
+    "the dialog's binding (the results dialog: report kind, 1-based case or mode, object number).\n"
+    "--list prints the dialog classes by family.\n";
 
 struct Options {
   std::string model;
   std::string showClass;
   std::string screenshot;
   std::string printToPdf;
+  std::map<std::string, std::string> showOptions;  // "kind" -> "1"
 };
 
 bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string& error) {
@@ -47,6 +55,19 @@ bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string&
       if (!value(o.screenshot)) return false;
     } else if (a == "--print-to-pdf") {
       if (!value(o.printToPdf)) return false;
+    } else if (a == "--list") {
+      if (args.size() != 1) {
+        error = "--list takes no other option";
+        return false;
+      }
+    } else if (a == "--kind" || a == "--case" || a == "--query") {
+      std::string number;
+      if (!value(number)) return false;
+      if (!tools::ParseInt32(number)) {
+        error = a + " needs a whole number";
+        return false;
+      }
+      o.showOptions[a.substr(2)] = number;
     } else if (!a.empty() && a[0] == '-') {
       error = "unknown option " + a;
       return false;
@@ -88,6 +109,10 @@ int main(int argc, char** argv) {
 
   NorvaneDlgsLibrary library;
   RegisterAllBindings();
+  if (args.size() == 1 && args[0] == "--list") {
+    for (const DialogClassInfo& info : RegisteredDialogClasses()) std::cout << info.family << "\t" << info.className << "\n";
+    return 0;
+  }
 
   HostWindow window;
   const std::string modelPath = options.model.empty() ? ExampleModel() : options.model;
@@ -96,6 +121,7 @@ int main(int argc, char** argv) {
     try {
       window.model().doc = model::LoadModelDocument(modelPath);
       window.model().path = modelPath;
+      window.model().showOptions = options.showOptions;
       window.RefreshView();
     } catch (const std::exception& e) {
       std::cerr << "norvane-host: " << e.what() << "\n";

@@ -12,9 +12,12 @@ constexpr double kPi = 3.141592654;  // the calculator's own value, kept for ide
 
 int DimensionCount(int type) {
   switch (type) {
-    case kRectangle: return 2;
-    case kRound: return 1;
-    default: return 4;
+    case kRectangle:
+      return 2;
+    case kRound:
+      return 1;
+    default:
+      return 4;
   }
 }
 

@@ -14,7 +14,20 @@
 #include "dialogs/frame/TemplateBuilder.h"
 #include "tools/format.h"
 
+namespace {
+CDialog::ModalLoopHook& ModalHook() {
+  static CDialog::ModalLoopHook hook;
+  return hook;
+}
+}  // namespace
+
 CDialog::CDialog(int templateId, QWidget* pParent) : QDialog(pParent), templateId_(templateId) {}
+
+CDialog::ModalLoopHook CDialog::SetModalLoopHook(ModalLoopHook hook) {
+  ModalLoopHook previous = std::move(ModalHook());
+  ModalHook() = std::move(hook);
+  return previous;
+}
 
 CDialog::~CDialog() = default;
 
@@ -79,6 +92,10 @@ int CDialog::DoModal() {
   OnInitDialog();
   // A dialog may end itself while it sets up (a report that cannot be built).
   if (modalResult_ != 0) return modalResult_;
+  if (ModalHook()) {
+    const int result = ModalHook()(*this);
+    return modalResult_ != 0 ? modalResult_ : result;
+  }
   exec();
   return modalResult_ != 0 ? modalResult_ : IDCANCEL;
 }

@@ -49,6 +49,12 @@ class CDialog : public QDialog {
   // The result EndDialog gave, or 0 while the dialog is open.
   int ModalResult() const { return modalResult_; }
 
+  // Replaces the modal loop of every DoModal (after OnInitDialog) while set, so a test can
+  // drive a dialog that another dialog opens; the hook returns the dialog's result.
+  // Returns the previous hook; an empty one restores the loop.
+  using ModalLoopHook = std::function<int(CDialog& dialog)>;
+  static ModalLoopHook SetModalLoopHook(ModalLoopHook hook);
+
  protected:
   virtual BOOL OnInitDialog();
   virtual void DoDataExchange(CDataExchange* pDX);

@@ -4,6 +4,7 @@
 #include <QFileDialog>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QCursor>
 #include <QMenu>
 #include <QMessageBox>
@@ -72,6 +73,15 @@ std::string WidgetPrompter::SaveFileName(QWidget* parent, const FileDialogReques
   QFileDialog dialog(parent);
   Configure(dialog, request);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
+  // A name typed without an extension takes the chosen filter's, so "Tab Delimited Text
+  // File (*.txt)" saves "nodes" as "nodes.txt" rather than with the default extension.
+  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
+    const qsizetype star = filter.indexOf("*.");
+    if (star < 0) return;
+    const qsizetype end = filter.indexOf(QRegularExpression("[ ;)]"), star);
+    const QString suffix = filter.mid(star + 2, end < 0 ? -1 : end - star - 2);
+    if (!suffix.isEmpty() && !suffix.contains('*')) dialog.setDefaultSuffix(suffix);
+  });
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   return dialog.selectedFiles().front().toStdString();
 }

@@ -18,7 +18,7 @@ class CDataGridDlg : public CDialog {
   uint32_t m_crAlternateRowColor = 0xF0F5FF;  // 0xRRGGBB, the host's "Spreadsheet Alternate BackColor"
 
   TSpread& Spread() { return m_Spread; }
-  // The heading of the printed table and of its exports ("Node Table").
+  // Heading of the printed and saved table ("Node Table"); each table names its own.
   virtual std::string PrintTitle() const { return {}; }
 
  protected:

@@ -35,7 +35,7 @@ int AddRows(Sheet& sheet, int count, bool numberIds) {
   sheet.SetMaxRows(oldRows + count);
   if (numberIds) {
     for (int r = 1; r <= count; ++r) {
-      sheet.SetData(1, oldRows + r, tools::Format("%lld", static_cast<long long>(nextId + r - 1)));
+      sheet.SetData(1, oldRows + r, tools::FormatInt(nextId + r - 1));
       sheet.SetLock(1, oldRows + r, true);
     }
   }

@@ -41,7 +41,7 @@ int Fill(grid::Sheet& sheet, const std::vector<fmNd>& nodes, const fmUnit& units
   for (const fmNd& nd : nodes) {
     if (selectedOnly && !nd.IsSelected()) continue;
     ++row;
-    sheet.SetData(kId, row, tools::Format("%u", nd.id));
+    sheet.SetData(kId, row, tools::FormatInt(nd.id));
     sheet.SetData(kX, row, tools::FormatG(nd.x));
     sheet.SetData(kY, row, tools::FormatG(nd.y));
     sheet.SetData(kZ, row, tools::FormatG(nd.z));

@@ -13,17 +13,19 @@ using namespace res;
 
 namespace {
 
-// Texts a user passes through while typing a number ("", "-", "2e"): no message for them,
-// the result simply waits for a number.
+// Texts a user passes through while typing a number ("", "-", "-.", "2e", "2e-"): no message
+// for them, the result simply waits for a number.
 bool IsNumberBeingTyped(std::string_view text) {
   text = tools::Trim(text);
-  if (text.empty()) return true;
-  const char last = text.back();
-  if (text.size() == 1) return last == '-' || last == '+' || last == '.';
-  if (last == 'e' || last == 'E') return tools::ParseDouble(text.substr(0, text.size() - 1)).has_value();
-  if ((last == '-' || last == '+') && (text[text.size() - 2] == 'e' || text[text.size() - 2] == 'E'))
-    return tools::ParseDouble(text.substr(0, text.size() - 2)).has_value();
-  return false;
+  std::string_view unsigned_part = text;
+  if (!unsigned_part.empty() && (unsigned_part.front() == '-' || unsigned_part.front() == '+'))
+    unsigned_part.remove_prefix(1);
+  if (unsigned_part.empty() || unsigned_part == ".") return true;
+  std::string_view mantissa = text;
+  if (mantissa.back() == '-' || mantissa.back() == '+') mantissa.remove_suffix(1);
+  if (mantissa.empty() || (mantissa.back() != 'e' && mantissa.back() != 'E')) return false;
+  mantissa.remove_suffix(1);
+  return tools::ParseDouble(mantissa).has_value();
 }
 
 }  // namespace

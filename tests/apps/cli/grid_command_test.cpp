@@ -92,13 +92,13 @@ TEST(CliGridExport, WritesTheElementTablesAsTheirDialogsFillThem) {
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.table);
-    const std::string txt = dir / (std::string(c.table) + ".txt");
+    const std::string txt = (dir / std::string(c.table) + ".txt");
     const CliRun run = Cli("grid export " + kModel + " " + c.table + " " + txt);
     EXPECT_EQ(run.status, 0) << run.output;
     const std::string text = ReadFileText(txt);
     EXPECT_TRUE(text.starts_with(c.firstLines)) << text;
     EXPECT_TRUE(text.ends_with(c.lastLine)) << text;
-    const std::string htm = dir / (std::string(c.table) + ".htm");
+    const std::string htm = (dir / std::string(c.table) + ".htm");
     EXPECT_EQ(Cli("grid export " + kModel + " " + c.table + " " + htm).status, 0);
     EXPECT_NE(ReadFileText(htm).find(std::string("<caption>") + c.title + "</caption>"), std::string::npos);
   }

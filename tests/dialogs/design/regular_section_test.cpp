@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "dialogs/design/regular_section.h"
+
+#include <gtest/gtest.h>
 
 using design::ComputeRegularSection;
 
@@ -16,16 +16,76 @@ struct Expected {
 
 // Worked by hand (the tee's Iz also by the parallel-axis theorem: 455.0613).
 const Expected kCases[] = {
-    {"rectangle", design::kRectangle, {10, 20, 0.0001, 0.0001}, "Rect10x20",
-     200, 166.666667, 166.666667, 6666.666667, 1666.666667, 4573.633543, 10, 20, 0, 0},
-    {"round", design::kRound, {10, 0.0001, 0.0001, 0.0001}, "Round10",
-     78.53981635, 70.68583472, 70.68583472, 490.8738523, 490.8738523, 981.7477046, 10, 10, 0, 0},
-    {"wide flange", design::kWideFlange, {10, 20, 0.5, 0.3}, "WideF10x20x0.5x0.3",
-     15.7, 6, 8.333333, 1122.308333, 83.376083, 0.976371, 10, 20, 0.5, 0.3},
-    {"wide flange with tf = d: clear web height -2", design::kWideFlange, {10, 2, 2, 0.3}, "WideF10x2x2x0.3",
-     39.4, 0.6, 33.333333, 13.133333, 333.328833, 46.610681, 10, 2, 2, 0.3},
-    {"tee", design::kTee, {10, 20, 0.5, 0.3}, "Tee10x20x0.5x0.3",
-     10.85, 6, 5, 455.061295, 41.710542, 0.577335, 10, 20, 0.5, 0.3},
+    {"rectangle",
+     design::kRectangle,
+     {10, 20, 0.0001, 0.0001},
+     "Rect10x20",
+     200,
+     166.666667,
+     166.666667,
+     6666.666667,
+     1666.666667,
+     4573.633543,
+     10,
+     20,
+     0,
+     0},
+    {"round",
+     design::kRound,
+     {10, 0.0001, 0.0001, 0.0001},
+     "Round10",
+     78.53981635,
+     70.68583472,
+     70.68583472,
+     490.8738523,
+     490.8738523,
+     981.7477046,
+     10,
+     10,
+     0,
+     0},
+    {"wide flange",
+     design::kWideFlange,
+     {10, 20, 0.5, 0.3},
+     "WideF10x20x0.5x0.3",
+     15.7,
+     6,
+     8.333333,
+     1122.308333,
+     83.376083,
+     0.976371,
+     10,
+     20,
+     0.5,
+     0.3},
+    {"wide flange with tf = d: clear web height -2",
+     design::kWideFlange,
+     {10, 2, 2, 0.3},
+     "WideF10x2x2x0.3",
+     39.4,
+     0.6,
+     33.333333,
+     13.133333,
+     333.328833,
+     46.610681,
+     10,
+     2,
+     2,
+     0.3},
+    {"tee",
+     design::kTee,
+     {10, 20, 0.5, 0.3},
+     "Tee10x20x0.5x0.3",
+     10.85,
+     6,
+     5,
+     455.061295,
+     41.710542,
+     0.577335,
+     10,
+     20,
+     0.5,
+     0.3},
 };
 
 }  // namespace
@@ -36,9 +96,8 @@ TEST(RegularSection, FormulasMatchHandComputedValues) {
     const fmSect s = ComputeRegularSection(c.type, c.dims);
     EXPECT_EQ(s.id, -1);
     EXPECT_EQ(s.label, c.label);
-    const std::pair<double, double> pairs[] = {{s.A, c.A},   {s.Ay, c.Ay}, {s.Az, c.Az}, {s.Iz, c.Iz},
-                                               {s.Iy, c.Iy}, {s.J, c.J},   {s.b, c.b},   {s.d, c.d},
-                                               {s.tf, c.tf}, {s.tw, c.tw}};
+    const std::pair<double, double> pairs[] = {{s.A, c.A}, {s.Ay, c.Ay}, {s.Az, c.Az}, {s.Iz, c.Iz}, {s.Iy, c.Iy},
+                                               {s.J, c.J}, {s.b, c.b},   {s.d, c.d},   {s.tf, c.tf}, {s.tw, c.tw}};
     const char* names[] = {"A", "Ay", "Az", "Iz", "Iy", "J", "b", "d", "tf", "tw"};
     for (size_t i = 0; i < std::size(pairs); ++i)
       EXPECT_NEAR(pairs[i].first, pairs[i].second, 1e-6 * std::max(1.0, std::abs(pairs[i].second))) << names[i];

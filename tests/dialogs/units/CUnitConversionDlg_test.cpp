@@ -118,8 +118,10 @@ TEST_F(UnitConversionTest, NonNumericValueShowsTheNumberMessageAndKeepsTheResult
     bool message;
   };
   // Texts on the way to a number wait quietly; anything else is refused once.
-  const Case cases[] = {{"", false},    {"-", false},    {".", false},   {"2e", false}, {"2e-", false},
-                        {"abc", true},  {"1,5", true},   {"12 ft", true}, {"1e400", true}, {"--", true}};
+  const Case cases[] = {{"", false},     {"-", false},     {".", false},    {"-.", false},  {"+.", false},
+                        {"2e", false},   {"2e-", false},   {"-5E+", false}, {"abc", true},  {"1,5", true},
+                        {"12 ft", true}, {"1e400", true},  {"--", true},    {"2-", true},   {"e", true},
+                        {"-e", true},    {"2ee", true}};
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string("\"") + c.typed + "\"");
     prompter.Clear();

@@ -1,0 +1,44 @@
+#include "apps/host/DialogBindings.h"
+#include "dialogs/frame/DebugOutput.h"
+#include "dialogs/results/CResultsDlg.h"
+#include "model/solved_structure.h"
+#include "tools/parse.h"
+
+namespace {
+
+// A whole-number option of --show, or the fallback.
+int32_t ShowOption(const HostModel& m, const char* name, int32_t fallback) {
+  const auto it = m.showOptions.find(name);
+  if (it == m.showOptions.end()) return fallback;
+  return tools::ParseInt32(it->second).value_or(fallback);
+}
+
+}  // namespace
+
+void RegisterResultsBindings() {
+  DialogBinding binding{
+      "CResultsDlg",
+      [](CDialog& d, HostModel& m) {
+        auto& dlg = static_cast<CResultsDlg&>(d);
+        // The dialog reads the solved structure while it runs; the host keeps it alive.
+        auto solved = std::make_shared<CfmStruct>(model::SolvedStructure(m.doc));
+        for (const std::string& line : model::CheckSolution(m.doc)) DebugOutput("Results do not fit the model: " + line);
+        dlg.m_pStruct = solved.get();
+        m.dialogState = solved;
+        dlg.m_nReportType = ShowOption(m, "kind", 0);
+        dlg.m_nCombination = ShowOption(m, "case", 1) - 1;
+        const int32_t firstNode = m.doc.nodes.empty() ? 1 : static_cast<int32_t>(m.doc.nodes.front().id);
+        dlg.m_nQueryId = ShowOption(m, "query", firstNode);
+        dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
+      },
+      nullptr};
+  // "Show selected only" is the model's data option, kept when the dialog closes (it has no OK).
+  binding.afterCancel = [](CDialog& d, HostModel& m) {
+    const CfmStruct* solved = static_cast<CResultsDlg&>(d).m_pStruct;
+    const bool selectedOnly = solved && solved->m_nShowSelected != 0;
+    if (!solved || selectedOnly == m.doc.display.showSelectedOnly) return false;
+    m.doc.display.showSelectedOnly = selectedOnly;
+    return true;
+  };
+  RegisterDialogBinding(std::move(binding));
+}

@@ -1,0 +1,33 @@
+#include "dialogs/design/CMaterialStrengthDlg.h"
+
+#include "resources/sections_ids.h"
+
+// One row per material and no rows to add: nothing of the new-row box to exchange.
+void CMaterialStrengthDlg::DoDataExchange(CDataExchange* pDX) { CDialog::DoDataExchange(pDX); }
+
+void CMaterialStrengthDlg::Refresh() {
+  TSpread::RedrawGuard guard(m_Spread);
+  matgrid::FillStrengths(m_Spread.sheet(), kind_, *m_pMaterials, *m_pUnits, m_crAlternateRowColor, m_bModelLocked);
+}
+
+void CMaterialStrengthDlg::FillOneRow(const fmMat& material, int row) {
+  TSpread::RedrawGuard guard(m_Spread);
+  matgrid::FillStrengthRow(m_Spread.sheet(), kind_, material, row);
+}
+
+bool CMaterialStrengthDlg::Save() {
+  matgrid::ReadResult result = matgrid::ReadStrengths(m_Spread.sheet(), kind_, *m_pMaterials);
+  if (!m_Spread.ShowFailure(result.failure)) return false;
+  for (size_t i = 0; i < result.materials.size(); ++i) {
+    (*m_pMaterials)[i].fc = result.materials[i].fc;
+    (*m_pMaterials)[i].fy = result.materials[i].fy;
+    (*m_pMaterials)[i].fys = result.materials[i].fys;
+  }
+  return true;
+}
+
+CMaterialRcDlg::CMaterialRcDlg(QWidget* pParent)
+    : CMaterialStrengthDlg(res::kTplMaterialRc, matgrid::kConcrete, pParent) {}
+
+CMaterialSteelDlg::CMaterialSteelDlg(QWidget* pParent)
+    : CMaterialStrengthDlg(res::kTplMaterialSteel, matgrid::kSteel, pParent) {}

@@ -1,0 +1,37 @@
+#pragma once
+#include <vector>
+
+#include "dialogs/design/CPropertyGridDlg.h"
+#include "dialogs/design/material_grid.h"
+#include "model/fm_material.h"
+
+// The design strengths of the materials: one row per material, OK writes the strengths
+// back into the host's records of the same rows.
+class CMaterialStrengthDlg : public CPropertyGridDlg {
+ public:
+  std::vector<fmMat>* m_pMaterials = nullptr;
+
+  void FillOneRow(const fmMat& material, int row);
+
+ protected:
+  CMaterialStrengthDlg(int templateId, matgrid::StrengthKind kind, QWidget* pParent)
+      : CPropertyGridDlg(templateId, pParent), kind_(kind) {}
+  void DoDataExchange(CDataExchange* pDX) override;
+  void Refresh() override;
+  bool Save() override;
+
+ private:
+  matgrid::StrengthKind kind_;
+};
+
+// Concrete: fc, fy and fys (flexural and shear reinforcement).
+class CMaterialRcDlg : public CMaterialStrengthDlg {
+ public:
+  explicit CMaterialRcDlg(QWidget* pParent = nullptr);
+};
+
+// Structural steel: Fy and Fu, kept in the records' fy and fys.
+class CMaterialSteelDlg : public CMaterialStrengthDlg {
+ public:
+  explicit CMaterialSteelDlg(QWidget* pParent = nullptr);
+};

@@ -1,0 +1,32 @@
+#include "dialogs/design/CPropertyGridDlg.h"
+
+#include "resources/grid_ids.h"
+#include "tools/parse.h"
+
+BOOL CPropertyGridDlg::OnInitDialog() {
+  CDialog::OnInitDialog();
+  m_Spread.CreateInPlace(this, res::kCtlGridPlaceholder, res::kCtlGrid);
+  Refresh();
+  if (m_bModelLocked) {
+    for (int id : {IDOK, res::kCtlNewRowCount, res::kCtlNewRows}) EnableDlgItem(id, false);
+    for (int id : EditingControls()) EnableDlgItem(id, false);
+    SetDlgItemText(IDCANCEL, "Close");
+    MessageBox("The Model is locked.\nYou can not modify data in the spreadsheet.", MessageIcon::Information);
+  }
+  return 1;
+}
+
+int CPropertyGridDlg::ChooseTargetRow(int labelColumn, const char* question, bool ask) {
+  const grid::CellRef active = m_Spread.GetActiveCell();
+  if (active.row >= 2 && active.row <= m_Spread.sheet().MaxRows()) {
+    if (ask && !tools::Trim(m_Spread.GetData(labelColumn, active.row)).empty() && !AskYesNo(question)) return 0;
+    return active.row;
+  }
+  return m_Spread.AddRows(1, true);
+}
+
+void CPropertyGridDlg::ActivateRow(int row) {
+  if (row < 1 || row > m_Spread.sheet().MaxRows()) return;
+  m_Spread.SetActiveCell(1, row);
+  m_Spread.ShowRow(row);
+}

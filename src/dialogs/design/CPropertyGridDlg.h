@@ -1,0 +1,23 @@
+#pragma once
+#include <vector>
+
+#include "dialogs/grid/CDataGridDlg.h"
+
+// The section, thickness and material tables: a data grid whose locked-model handling
+// disables the table's own editing buttons too and says only that the model is locked.
+class CPropertyGridDlg : public CDataGridDlg {
+ protected:
+  CPropertyGridDlg(int templateId, QWidget* pParent) : CDataGridDlg(templateId, pParent) {}
+
+  // Order: captions, the grid in place, Refresh, then the locked-model handling.
+  BOOL OnInitDialog() override;
+  // The controls that edit the table besides OK, the new-row count and "New Rows".
+  virtual std::vector<int> EditingControls() const { return {}; }
+
+  // The row that "Regular Section...", "Std Material..." and the like fill: the active row
+  // when it is 2 or more (asking `question` first when its label is not empty), else a new
+  // row appended at the end; row 1 is never overwritten this way. 0 when the user says No.
+  int ChooseTargetRow(int labelColumn, const char* question, bool ask);
+  // Shows the row's first cell.
+  void ActivateRow(int row);
+};

@@ -1,0 +1,19 @@
+#include "dialogs/design/CThickDlg.h"
+
+#include "dialogs/design/thickness_grid.h"
+#include "resources/sections_ids.h"
+
+CThickDlg::CThickDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplThick, pParent) {}
+
+void CThickDlg::Refresh() {
+  filled_ = *m_pThicknesses;
+  TSpread::RedrawGuard guard(m_Spread);
+  thickgrid::Fill(m_Spread.sheet(), *m_pThicknesses, *m_pUnits, m_crAlternateRowColor, m_bModelLocked);
+}
+
+bool CThickDlg::Save() {
+  thickgrid::ReadResult result = thickgrid::Read(m_Spread.sheet(), filled_);
+  if (!m_Spread.ShowFailure(result.failure)) return false;
+  *m_pThicknesses = std::move(result.thicknesses);
+  return true;
+}

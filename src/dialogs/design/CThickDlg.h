@@ -1,0 +1,20 @@
+#pragma once
+#include <vector>
+
+#include "dialogs/design/CPropertyGridDlg.h"
+#include "model/fm_section.h"
+
+// The shell-thickness table; OK rewrites the host's vector with ids = row numbers.
+class CThickDlg : public CPropertyGridDlg {
+ public:
+  explicit CThickDlg(QWidget* pParent = nullptr);
+
+  std::vector<fmThick>* m_pThicknesses = nullptr;
+
+ protected:
+  void Refresh() override;
+  bool Save() override;
+
+ private:
+  std::vector<fmThick> filled_;
+};

@@ -1,0 +1,380 @@
+#include "dialogs/results/nodal_reports.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <string>
+
+#include "dialogs/grid/grid_ops.h"
+#include "dialogs/results/display_format.h"
+#include "model/id_index.h"
+#include "tools/format.h"
+#include "tools/labels.h"
+
+namespace results {
+
+void ResetReportGrid(const ReportContext& ctx) {
+  ctx.sheet = grid::Sheet();
+  grid::InitializeGrid(ctx.sheet, ctx.alternateRowColor, 0, 1, {""}, {13}, true);
+}
+
+std::vector<bool> EnvelopeLoadCombs(const CfmStruct& model) {
+  const auto& names = model.m_Solution.envelopeCombinations;
+  std::vector<bool> marked(static_cast<size_t>(model.GetNumLoadCases()), false);
+  for (size_t i = 0; i < marked.size(); ++i)
+    marked[i] = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+      return tools::LabelsEqual(model.GetCaseName(static_cast<int>(i)), name);
+    });
+  return marked;
+}
+
+namespace {
+
+constexpr fmUnit::Quantity kDisplacement = fmUnit::Displacement;
+constexpr fmUnit::Quantity kRotation = fmUnit::Rotation;
+constexpr fmUnit::Quantity kForce = fmUnit::Force;
+constexpr fmUnit::Quantity kMoment = fmUnit::Moment;
+
+// One quantity as a report shows it: the factor into the display unit and the format index.
+struct Shown {
+  double factor;
+  int format;
+};
+
+Shown ShownAs(const CfmStruct& model, fmUnit::Quantity q) { return {model.ResultFactor(q), model.DisplayFormat(q)}; }
+
+// Writes cells without building a string per number: millions of cells go through here.
+class CellWriter {
+ public:
+  explicit CellWriter(grid::Sheet& sheet) : sheet_(sheet) {}
+
+  void Text(int col, int row, std::string_view text) { sheet_.SetData(col, row, text); }
+  void Id(int col, int row, int64_t value) {
+    const auto [end, ec] = std::to_chars(buffer_, buffer_ + sizeof buffer_, value);
+    sheet_.SetData(col, row, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
+  }
+  // The value already in display units.
+  void Value(int col, int row, double value, int format) {
+    sheet_.SetData(col, row, std::string_view(buffer_, FormatDisplayTo(buffer_, value, format)));
+  }
+  void Value(int col, int row, double value, const Shown& s) { Value(col, row, value * s.factor, s.format); }
+
+ private:
+  grid::Sheet& sheet_;
+  char buffer_[kDisplayBufferSize];
+};
+
+// Each report starts from a new grid: nothing of an earlier report (a red sum) stays.
+void SetUpGrid(const ReportContext& ctx, int rows, const std::vector<std::string>& headers, double width) {
+  ctx.sheet = grid::Sheet();
+  grid::InitializeGrid(ctx.sheet, ctx.alternateRowColor, rows, static_cast<int>(headers.size()), headers,
+                       std::vector<double>(headers.size(), width), true);
+}
+
+bool ShowSelected(const ReportContext& ctx) { return ctx.model.m_nShowSelected != 0; }
+
+// Records of a node vector that get a row.
+template <class Shows>
+int CountShown(const std::vector<fmResult6Val>& records, bool selectedOnly, Shows shows) {
+  if (!selectedOnly) return static_cast<int>(records.size());
+  return static_cast<int>(std::count_if(records.begin(), records.end(), [&](const fmResult6Val& r) { return shows(r.number); }));
+}
+
+// "Node Id" and six values, the first three of one quantity and the last three of another.
+void SixValueReport(const ReportContext& ctx, const std::vector<fmResult6Val>& records,
+                    const std::array<const char*, 6>& names, fmUnit::Quantity first, fmUnit::Quantity second) {
+  if (records.empty()) return;
+  const CfmStruct& m = ctx.model;
+  const bool selectedOnly = ShowSelected(ctx);
+  auto shows = [&](int64_t node) { return m.IsNodeSelected(node); };
+  std::vector<std::string> headers = {"Node Id"};
+  for (int k = 0; k < 6; ++k) headers.push_back(m.m_Units.Heading(names[k], k < 3 ? first : second));
+  SetUpGrid(ctx, CountShown(records, selectedOnly, shows), headers, 13);
+
+  const Shown a = ShownAs(m, first), b = ShownAs(m, second);
+  CellWriter out(ctx.sheet);
+  int row = 0;
+  for (const fmResult6Val& r : records) {
+    if (selectedOnly && !shows(r.number)) continue;
+    ++row;
+    out.Id(1, row, r.number);
+    for (int k = 0; k < 6; ++k) out.Value(2 + k, row, r.v[k], k < 3 ? a : b);
+  }
+}
+
+}  // namespace
+
+void Node_Displacements(const ReportContext& ctx, const std::vector<fmResult6Val>& displacements) {
+  SixValueReport(ctx, displacements, {"Dx", "Dy", "Dz", "Dox", "Doy", "Doz"}, kDisplacement, kRotation);
+}
+
+void Node_Forces(const ReportContext& ctx, int /*mode*/, const std::vector<fmResult6Val>& forces) {
+  SixValueReport(ctx, forces, {"Fx", "Fy", "Fz", "Mx", "My", "Mz"}, kForce, kMoment);
+}
+
+void Support_Reactions(const ReportContext& ctx, int caseIndex) {
+  const std::vector<fmResult6Val>& reactions = ctx.model.GetResults(caseIndex).reactions;
+  if (reactions.empty()) return;
+  const CfmStruct& m = ctx.model;
+  const bool selectedOnly = ShowSelected(ctx);
+  auto shows = [&](int64_t node) { return m.IsNodeSelected(node); };
+  const int rows = CountShown(reactions, selectedOnly, shows) + 1;
+  std::vector<std::string> headers = {"Node Id"};
+  const char* names[] = {"Rx", "Ry", "Rz", "Rox", "Roy", "Roz"};
+  for (int k = 0; k < 6; ++k) headers.push_back(m.m_Units.Heading(names[k], k < 3 ? kForce : kMoment));
+  SetUpGrid(ctx, rows, headers, 13);
+
+  const Shown force = ShownAs(m, kForce), moment = ShownAs(m, kMoment);
+  CellWriter out(ctx.sheet);
+  std::array<double, 6> sum{};
+  int row = 0;
+  for (const fmResult6Val& r : reactions) {
+    if (selectedOnly && !shows(r.number)) continue;
+    ++row;
+    out.Id(1, row, r.number);
+    for (int k = 0; k < 6; ++k) {
+      const Shown& s = k < 3 ? force : moment;
+      const double value = r.v[k] * s.factor;
+      sum[k] += value;  // the sum of what the rows show
+      out.Value(2 + k, row, value, s.format);
+    }
+  }
+  // Moments are summed as they are, not carried to a common point.
+  ++row;
+  out.Text(1, row, "Sum");
+  ctx.sheet.SetColor(1, row, ctx.sheet.GetBackColor(1, row), grid::kRed);
+  for (int k = 0; k < 6; ++k) out.Value(2 + k, row, sum[k], (k < 3 ? force : moment).format);
+}
+
+SpringKind SpringKindOf(int reportType) {
+  switch (reportType) {
+    case 3: case 44: case 53: case 54: return SpringKind::Coupled;
+    case 4: case 45: return SpringKind::Line;
+    case 5: case 46: return SpringKind::Surface;
+    default: return SpringKind::Nodal;
+  }
+}
+
+void Spring_Reactions(const ReportContext& ctx, int caseIndex) {
+  const fmCaseResults* results = &ctx.model.GetResults(caseIndex);
+  const CfmStruct& m = ctx.model;
+  const SpringKind kind = SpringKindOf(ctx.reportType);
+  const std::vector<fmResult6Val>* records = &results->nodalSpringReactions;
+  const char* idHeading = "Node Id";
+  const char* word = "node";
+  switch (kind) {
+    case SpringKind::Nodal: break;
+    case SpringKind::Coupled: records = &results->coupledSpringReactions; break;
+    case SpringKind::Line:
+      records = &results->lineSpringReactions;
+      idHeading = "Member Id";
+      word = "member";
+      break;
+    case SpringKind::Surface:
+      records = &results->surfaceSpringReactions;
+      idHeading = "Shell4 Id";
+      word = "shell4";
+      break;
+  }
+  if (records->empty()) return;
+  auto exists = [&](int64_t id) {
+    if (kind == SpringKind::Line) return m.FindMember(id) != nullptr;
+    if (kind == SpringKind::Surface) return m.FindShell(id) != nullptr;
+    return m.FindNode(id) != nullptr;
+  };
+  auto selected = [&](int64_t id) {
+    if (kind == SpringKind::Line) return m.IsMemberSelected(id);
+    if (kind == SpringKind::Surface) return m.IsShellSelected(id);
+    return m.IsNodeSelected(id);
+  };
+  const bool selectedOnly = ShowSelected(ctx);
+  std::vector<std::string> headers = {idHeading};
+  const char* names[] = {"SRx", "SRy", "SRz", "SRox", "SRoy", "SRoz"};
+  for (int k = 0; k < 6; ++k) headers.push_back(m.m_Units.Heading(names[k], k < 3 ? kForce : kMoment));
+  SetUpGrid(ctx, CountShown(*records, selectedOnly, selected), headers, 13);
+
+  const Shown force = ShownAs(m, kForce), moment = ShownAs(m, kMoment);
+  CellWriter out(ctx.sheet);
+  int row = 0;
+  for (const fmResult6Val& r : *records) {
+    if (selectedOnly && !selected(r.number)) continue;
+    ++row;
+    out.Id(1, row, r.number);
+    if (!exists(r.number)) {
+      out.Text(2, row, tools::Format("error finding %s %ld", word, static_cast<long>(r.number)));
+      continue;
+    }
+    for (int k = 0; k < 6; ++k) out.Value(2 + k, row, r.v[k], k < 3 ? force : moment);
+  }
+}
+
+void Multi_DOF_Constraint_Forces(const ReportContext& ctx, int caseIndex) {
+  const fmCaseResults* results = &ctx.model.GetResults(caseIndex);
+  if (results->constraintForces.empty()) return;
+  const CfmStruct& m = ctx.model;
+  const bool selectedOnly = ShowSelected(ctx);
+  // A constraint belongs to the selection when either of its nodes is selected.
+  auto shows = [&](const fmConstraintForce& f) { return m.IsNodeSelected(f.node[0]) || m.IsNodeSelected(f.node[1]); };
+  const auto& forces = results->constraintForces;
+  const int rows = selectedOnly ? static_cast<int>(std::count_if(forces.begin(), forces.end(), shows))
+                                : static_cast<int>(forces.size());
+  const std::string unit = " [" + m.m_Units.Label(kForce) + " or " + m.m_Units.Label(kMoment) + "]";
+  SetUpGrid(ctx, rows,
+            {"Constraint Id", "Node-1", "DOF-1", "Value-1" + unit, "Node-2", "DOF-2", "Value-2" + unit}, 13);
+
+  const Shown force = ShownAs(m, kForce), moment = ShownAs(m, kMoment);
+  CellWriter out(ctx.sheet);
+  int row = 0;
+  for (const fmConstraintForce& f : forces) {
+    if (selectedOnly && !shows(f)) continue;
+    ++row;
+    out.Id(1, row, f.id);
+    for (int end = 0; end < 2; ++end) {
+      const int col = 2 + 3 * end;
+      const int dof = f.dof[end];
+      out.Id(col, row, f.node[end]);
+      if (dof >= 0 && dof < 6)
+        out.Text(col + 1, row, DofNames()[static_cast<size_t>(dof)]);
+      else
+        out.Id(col + 1, row, dof);
+      out.Value(col + 2, row, f.value[end], dof >= 3 && dof < 6 ? moment : force);
+    }
+  }
+}
+
+void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<fmResult6Val>& displacements) {
+  const CfmStruct& m = ctx.model;
+  const std::vector<int32_t>& driftNodes = m.m_Solution.driftNodes;
+  if (driftNodes.empty() || displacements.empty()) return;
+  const bool selectedOnly = ShowSelected(ctx);
+  const int rows = selectedOnly ? static_cast<int>(std::count_if(driftNodes.begin(), driftNodes.end(),
+                                                                 [&](int32_t id) { return m.IsNodeSelected(id); }))
+                                : static_cast<int>(driftNodes.size());
+  const std::string length = m.m_Units.Label(fmUnit::Length);
+  SetUpGrid(ctx, rows,
+            {"Node Id", m.m_Units.Heading("Story Height", fmUnit::Length), m.m_Units.Heading("Dx", kDisplacement),
+             m.m_Units.Heading("X Drift", kDisplacement), "X Drift Ratio", m.m_Units.Heading("Dz", kDisplacement),
+             m.m_Units.Heading("Z Drift", kDisplacement), "Z Drift Ratio"},
+            13);
+
+  model::IdIndex index;
+  index.Build(displacements, [](const fmResult6Val& r) { return static_cast<int64_t>(r.number); });
+  const Shown d = ShownAs(m, kDisplacement);
+  // The ratio of a drift to its story height, both in inches, whatever units they are shown in.
+  const double displacementSize = m.m_Units.Factor(kDisplacement);
+  const double lengthSize = m.m_Units.Factor(fmUnit::Length);
+  auto ratio = [&](double drift, double height) {
+    return tools::Format("%.3f %%", drift * displacementSize / (height * lengthSize) * 100.0);
+  };
+
+  CellWriter out(ctx.sheet);
+  // The base does not move.
+  double belowY = m.BaseLevel(), belowDx = 0, belowDz = 0;
+  int row = 0;
+  for (int32_t id : driftNodes) {
+    const bool shown = !selectedOnly || m.IsNodeSelected(id);
+    if (shown) ++row;
+    const fmNd* node = m.FindNode(id);
+    const int64_t at = index.Find(id);
+    if (!node || at < 0) {
+      if (shown) {
+        out.Id(1, row, id);
+        out.Text(2, row, tools::Format("error finding node %ld", static_cast<long>(id)));
+      }
+      continue;
+    }
+    const fmResult6Val& r = displacements[static_cast<size_t>(at)];
+    const double height = node->y - belowY;
+    const double dx = r.v[0] * d.factor, dz = r.v[2] * d.factor;
+    if (shown) {
+      out.Id(1, row, id);
+      out.Text(2, row, tools::Format("%.3f", height));
+      out.Value(3, row, dx, d.format);
+      out.Value(4, row, dx - belowDx, d.format);
+      out.Value(6, row, dz, d.format);
+      out.Value(7, row, dz - belowDz, d.format);
+      // A drift node level with the one below has no story and no ratio.
+      if (height != 0) {
+        out.Text(5, row, ratio(dx - belowDx, height));
+        out.Text(8, row, ratio(dz - belowDz, height));
+      }
+    }
+    belowY = node->y;
+    belowDx = dx;
+    belowDz = dz;
+  }
+}
+
+namespace {
+
+void EnvelopeReport(const ReportContext& ctx, const std::vector<fmEnvelopeValue6>& envelope,
+                    const std::array<const char*, 6>& names, fmUnit::Quantity first, fmUnit::Quantity second) {
+  if (envelope.empty()) return;
+  const CfmStruct& m = ctx.model;
+  const bool selectedOnly = ShowSelected(ctx);
+  const int nodes = selectedOnly ? static_cast<int>(std::count_if(envelope.begin(), envelope.end(),
+                                                                  [&](const fmEnvelopeValue6& e) {
+                                                                    return m.IsNodeSelected(e.number);
+                                                                  }))
+                                 : static_cast<int>(envelope.size());
+  std::vector<std::string> headers = {"Node Id", "max/min"};
+  for (int k = 0; k < 6; ++k) {
+    headers.push_back(m.m_Units.Heading(names[k], k < 3 ? first : second));
+    headers.push_back("Comb#");
+  }
+  SetUpGrid(ctx, 2 * nodes, headers, 6);
+
+  const Shown a = ShownAs(m, first), b = ShownAs(m, second);
+  CellWriter out(ctx.sheet);
+  // A block of nodes at a time, one column after the other: each column's cells are written
+  // in order while the block's envelope stays in the cache.
+  constexpr size_t kBlock = 2048;
+  std::vector<const fmEnvelopeValue6*> block;
+  block.reserve(kBlock);
+  int firstRow = 1;
+  auto flush = [&] {
+    const int count = static_cast<int>(block.size());
+    for (int i = 0; i < count; ++i) {
+      out.Id(1, firstRow + 2 * i, block[static_cast<size_t>(i)]->number);
+      out.Text(2, firstRow + 2 * i, "max");
+      out.Text(2, firstRow + 2 * i + 1, "min");
+    }
+    for (int k = 0; k < 6; ++k) {
+      const Shown& shown = k < 3 ? a : b;
+      for (int i = 0; i < count; ++i) {
+        const fmEnvelopeValue6& e = *block[static_cast<size_t>(i)];
+        out.Value(3 + 2 * k, firstRow + 2 * i, e.max[k], shown);
+        out.Value(3 + 2 * k, firstRow + 2 * i + 1, e.min[k], shown);
+      }
+      for (int i = 0; i < count; ++i) {
+        const fmEnvelopeValue6& e = *block[static_cast<size_t>(i)];
+        out.Id(4 + 2 * k, firstRow + 2 * i, static_cast<int64_t>(e.maxCase[k]) + 1);
+        out.Id(4 + 2 * k, firstRow + 2 * i + 1, static_cast<int64_t>(e.minCase[k]) + 1);
+      }
+    }
+    firstRow += 2 * count;
+    block.clear();
+  };
+  for (const fmEnvelopeValue6& e : envelope) {
+    if (selectedOnly && !m.IsNodeSelected(e.number)) continue;
+    block.push_back(&e);
+    if (block.size() == kBlock) flush();
+  }
+  flush();
+}
+
+}  // namespace
+
+void Node_Displacements_Envelope(const ReportContext& ctx) {
+  std::vector<fmEnvelopeValue6> envelope;
+  ctx.model.CalcNodalDisplacementEnvelope(envelope, EnvelopeLoadCombs(ctx.model));
+  EnvelopeReport(ctx, envelope, {"Dx", "Dy", "Dz", "Dox", "Doy", "Doz"}, kDisplacement, kRotation);
+}
+
+void Support_Reactions_Envelope(const ReportContext& ctx) {
+  std::vector<fmEnvelopeValue6> envelope;
+  ctx.model.CalcSupportReactionEnvelope(envelope, EnvelopeLoadCombs(ctx.model));
+  EnvelopeReport(ctx, envelope, {"Rx", "Ry", "Rz", "Rox", "Roy", "Roz"}, kForce, kMoment);
+}
+
+}  // namespace results

@@ -1,0 +1,104 @@
+#pragma once
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "model/fm_load.h"
+#include "model/fm_result.h"
+#include "tools/fm_unit.h"
+
+// The results of one load case or combination, as the solver leaves them.
+struct fmCaseResults {
+  std::vector<fmResult6Val> displacements;           // per node
+  std::vector<fmResult6Val> reactions;               // per support node
+  std::vector<fmResult6Val> nodalSpringReactions;    // per node with a spring
+  std::vector<fmResult6Val> coupledSpringReactions;  // per node with a coupled spring
+  std::vector<fmResult6Val> lineSpringReactions;     // per member with a line spring
+  std::vector<fmResult6Val> surfaceSpringReactions;  // per shell with a surface spring
+  std::vector<fmConstraintForce> constraintForces;
+
+  bool operator==(const fmCaseResults&) const = default;
+};
+
+struct fmEigenMode {
+  double omega2 = 0;  // eigenvalue: the square of the circular frequency
+  std::vector<fmResult6Val> shape;
+
+  bool operator==(const fmEigenMode&) const = default;
+};
+
+// One mode of a response-spectrum analysis: per excitation direction X, Y, Z its modal
+// displacements and inertial forces.
+struct fmSpectrumMode {
+  double omega2 = 0;
+  std::array<std::vector<fmResult6Val>, 3> displacements;
+  std::array<std::vector<fmResult6Val>, 3> inertialForces;
+
+  bool operator==(const fmSpectrumMode&) const = default;
+};
+
+// What a solver run analysed and produced beyond the model's own tables: the model
+// document's "results" section. Every value is in `units`.
+struct fmSolution {
+  // A support: which of the six degrees of freedom it holds (its flag text, e.g. "111111")
+  // and the displacements and rotations it prescribes.
+  struct Support {
+    int32_t node = 0;
+    std::string flag{};
+    std::array<double, 6> value{};
+    bool operator==(const Support&) const = default;
+  };
+  struct NodalSpring {
+    int32_t node = 0;
+    std::string flag{};
+    std::array<double, 6> k{};  // Kx, Ky, Kz, Kox, Koy, Koz
+    bool operator==(const NodalSpring&) const = default;
+  };
+  // The upper triangle of a node's 6x6 spring stiffness, row by row (Kx_Kx, Kx_Ky ... Koz_Koz).
+  struct CoupledSpring {
+    int32_t node = 0;
+    std::array<double, 21> k{};
+    bool operator==(const CoupledSpring&) const = default;
+  };
+  // A nodal force (direction 0 to 2) or moment (3 to 5) of a load case, by the case's label.
+  struct NodalLoad {
+    int32_t node = 0;
+    std::string caseName{};
+    int32_t direction = 0;
+    double magnitude = 0;
+    bool operator==(const NodalLoad&) const = default;
+  };
+  // An additional mass; directions 3 to 5 are rotational masses.
+  struct NodalMass {
+    int32_t node = 0;
+    int32_t direction = 0;
+    double magnitude = 0;
+    bool operator==(const NodalMass&) const = default;
+  };
+
+  fmUnit units;
+  std::vector<fmLoadCase> cases;       // load cases and combinations, in result order
+  std::vector<fmCaseResults> results;  // one per entry of cases
+  std::vector<fmEigenMode> eigenModes;
+  std::vector<fmSpectrumMode> spectrumModes;
+  fmCaseResults spectrum;  // the response-spectrum modal combination
+  std::vector<std::string> envelopeCombinations;
+  std::vector<int32_t> driftNodes;  // walked in this order, from the bottom up
+  std::vector<Support> supports;
+  std::vector<NodalSpring> nodalSprings;
+  std::vector<CoupledSpring> coupledSprings;
+  std::vector<NodalLoad> nodalLoads;
+  std::vector<NodalMass> nodalMasses;
+
+  bool operator==(const fmSolution&) const = default;
+  // Nothing solved and nothing recorded: a document without a results section.
+  bool IsEmpty() const {
+    fmSolution none;
+    none.units = units;
+    return *this == none;
+  }
+};
+
+// Names of the six degrees of freedom: "X", "Y", "Z", "OX", "OY", "OZ".
+const std::array<const char*, 6>& DofNames();

@@ -1,0 +1,165 @@
+#pragma once
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/fm_load.h"
+#include "model/fm_material.h"
+#include "model/fm_node.h"
+#include "model/fm_section.h"
+#include "model/fm_solution.h"
+#include "tools/fm_unit.h"
+
+// The solved structure the results reports read: the model's tables, its units and display
+// settings, and the solution. Nodes, elements and properties are in the model's units
+// (m_Units); the solution's values are in its own units and are converted for display.
+class CfmStruct {
+ public:
+  // Element flags, as the element tables keep them.
+  static constexpr uint32_t kSelected = 1u << 0;
+  static constexpr uint32_t kFrozen = 1u << 1;
+  static constexpr uint32_t kInactive = 1u << 2;
+  static constexpr uint32_t kSelfWeightExcluded = 1u << 3;
+
+  struct Member {
+    int32_t id = 0;
+    uint32_t flags = 0;
+    std::array<int32_t, 2> node{};
+    int32_t material = 0;  // 1-based position in the material table
+    int32_t section = 0;   // 1-based position in the section table
+    double angle = 0;      // local angle in degrees
+    double crackingFactor = 1;
+    int32_t nonlinearity = 0;  // 0 linear, 1 tension only, 2 compression only
+    bool column = false;
+    std::string rcCriteria{}, steelCriteria{};
+    bool rcExcluded = false, steelExcluded = false;
+  };
+  struct Shell4 {
+    int32_t id = 0;
+    uint32_t flags = 0;
+    std::array<int32_t, 4> node{};
+    int32_t material = 0;
+    int32_t thickness = 0;  // 1-based position in the thickness table
+    double angle = 0;
+    double crackingFactor = 1;
+    std::string rcCriteria{};
+    bool rcExcluded = false;
+  };
+  struct Brick {
+    int32_t id = 0;
+    uint32_t flags = 0;
+    std::array<int32_t, 8> node{};
+    int32_t material = 0;
+  };
+  struct LineSpring {
+    int32_t member = 0;
+    std::string flag{};
+    std::array<double, 3> k{};
+  };
+  struct SurfaceSpring {
+    int32_t shell = 0;
+    std::string flag{};
+    std::array<double, 3> k{};
+  };
+  // Element loads of a load case (by its label). Directions 0 to 2 are X, Y, Z of the
+  // global or, with `local`, the element's system; point and line loads 3 to 5 are moments.
+  struct PointLoad {
+    int32_t member = 0;
+    std::string caseName{};
+    int32_t direction = 0;
+    bool local = false;
+    double magnitude = 0;
+    double distance = 0;
+  };
+  struct LineLoad {
+    int32_t member = 0;
+    std::string caseName{};
+    int32_t direction = 0;
+    bool local = false;
+    std::array<double, 2> magnitude{};  // start, end
+    std::array<double, 2> distance{};
+  };
+  struct SurfaceLoad {
+    int32_t shell = 0;
+    std::string caseName{};
+    int32_t direction = 0;
+    bool local = false;
+    double magnitude = 0;
+  };
+  struct ThermalLoad {
+    int32_t element = 0;
+    std::string caseName{};
+    double magnitude = 0;
+  };
+
+  CfmStruct();
+  ~CfmStruct();
+  CfmStruct(const CfmStruct&);
+  CfmStruct& operator=(const CfmStruct&);
+  CfmStruct(CfmStruct&&) noexcept;
+  CfmStruct& operator=(CfmStruct&&) noexcept;
+
+  fmUnit m_Units;                                            // the display units
+  std::array<int32_t, fmUnit::QuantityCount> m_DisplayFormat{};  // 0..11 per quantity
+  int32_t m_nShowSelected = 0;  // shared with the rest of the application
+
+  std::vector<fmNd> m_Nodes;
+  std::vector<fmMat> m_Materials;
+  std::vector<fmSect> m_Sections;
+  std::vector<fmThick> m_Thicknesses;
+  std::vector<Member> m_Members;
+  std::vector<Shell4> m_Shells;
+  std::vector<Brick> m_Bricks;
+  std::vector<LineSpring> m_LineSprings;
+  std::vector<SurfaceSpring> m_SurfaceSprings;
+  std::vector<PointLoad> m_PointLoads;
+  std::vector<LineLoad> m_LineLoads;
+  std::vector<SurfaceLoad> m_SurfaceLoads;
+  std::vector<ThermalLoad> m_MemberThermalLoads, m_ShellThermalLoads, m_BrickThermalLoads;
+
+  fmSolution m_Solution;
+
+  int GetNumLoadCases() const { return static_cast<int>(m_Solution.cases.size()); }
+  // The name of case i; empty outside the list.
+  const std::string& GetCaseName(int index) const;
+  // The results of case i, or of the response-spectrum combination for -1; null when the
+  // index names no case or the case has no results.
+  const fmCaseResults* GetCaseResults(int index) const;
+  // The same for a report: a case whose results are missing throws fmException naming it.
+  const fmCaseResults& GetResults(int index) const;
+
+  // Look-ups by number; null when there is none. Found through an index built on first use
+  // and rebuilt when a table's size or storage changes (call TablesChanged after editing
+  // numbers in place).
+  const fmNd* FindNode(int64_t id) const;
+  const Member* FindMember(int64_t id) const;
+  const Shell4* FindShell(int64_t id) const;
+  const Brick* FindBrick(int64_t id) const;
+  bool IsNodeSelected(int64_t id) const;
+  bool IsMemberSelected(int64_t id) const;
+  bool IsShellSelected(int64_t id) const;
+  void TablesChanged() const;
+
+  // Multiplies a solution value of quantity q into the display unit.
+  double ResultFactor(fmUnit::Quantity q) const;
+  // The display format index of a quantity, 0 to 11.
+  int DisplayFormat(fmUnit::Quantity q) const;
+  // The lowest Y of the model's nodes (0 without nodes): the base of the structure.
+  double BaseLevel() const;
+
+  // Per node, the maximum and minimum of each displacement (or support reaction) over the
+  // cases marked true, with the 0-based index of the case that gives it. On a tie the earlier
+  // case (the lower index) wins; a value that is not a number never wins, and a value no case
+  // gives as a number is NaN with case -1. Records come in the order of the first marked
+  // case's vector; nodes that only later cases list follow in the order they appear. A marked
+  // case without results adds nothing; nothing marked gives no records.
+  void CalcNodalDisplacementEnvelope(std::vector<fmEnvelopeValue6>& out, const std::vector<bool>& cases) const;
+  void CalcSupportReactionEnvelope(std::vector<fmEnvelopeValue6>& out, const std::vector<bool>& cases) const;
+
+ private:
+  struct Indexes;
+  Indexes& Idx() const;
+  mutable std::unique_ptr<Indexes> indexes_;
+};

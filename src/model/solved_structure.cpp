@@ -1,0 +1,71 @@
+#include "model/solved_structure.h"
+
+#include <unordered_set>
+
+#include "tools/format.h"
+
+namespace model {
+
+CfmStruct SolvedStructure(const ModelDocument& doc) {
+  CfmStruct s;
+  s.m_Units = doc.units;
+  s.m_DisplayFormat = doc.display.format;
+  s.m_nShowSelected = doc.display.showSelectedOnly ? 1 : 0;
+  s.m_Nodes = doc.nodes;
+  s.m_Materials = doc.materials;
+  s.m_Sections = doc.sections;
+  s.m_Thicknesses = doc.thicknesses;
+  s.m_Solution = doc.results;
+  if (s.m_Solution.cases.empty()) {
+    // Never solved: the cases and combinations are listed and their results are missing.
+    s.m_Solution.cases = doc.loadCases;
+    for (const fmLoadComb& comb : doc.loadCombs)
+      s.m_Solution.cases.emplace_back(static_cast<int32_t>(s.m_Solution.cases.size() + 1), comb.name);
+  }
+  return s;
+}
+
+std::vector<std::string> CheckSolution(const ModelDocument& doc, size_t limit) {
+  std::unordered_set<int64_t> nodes;
+  nodes.reserve(doc.nodes.size() * 2);
+  for (const fmNd& n : doc.nodes) nodes.insert(n.id);
+
+  std::vector<std::string> lines;
+  size_t more = 0;
+  auto add = [&](std::string line) {
+    if (lines.size() < limit)
+      lines.push_back(std::move(line));
+    else
+      ++more;
+  };
+  auto checkNodes = [&](const std::string& where, const char* what, const std::vector<fmResult6Val>& records) {
+    for (const fmResult6Val& r : records)
+      if (!nodes.count(r.number)) {
+        add(tools::Format("%s: %s name node %d, which the model does not have", where.c_str(), what, r.number));
+        return;  // one line per vector is enough to find it
+      }
+  };
+
+  const fmSolution& s = doc.results;
+  for (size_t i = 0; i < s.cases.size() && i < s.results.size(); ++i) {
+    const std::string where = "results of \"" + s.cases[i].name + "\"";
+    const fmCaseResults& r = s.results[i];
+    checkNodes(where, "displacements", r.displacements);
+    checkNodes(where, "support reactions", r.reactions);
+    checkNodes(where, "nodal spring reactions", r.nodalSpringReactions);
+    checkNodes(where, "coupled spring reactions", r.coupledSpringReactions);
+    if (!r.displacements.empty() && r.displacements.size() < doc.nodes.size())
+      add(tools::Format("%s: displacements of %zu of the model's %zu nodes", where.c_str(), r.displacements.size(),
+                        doc.nodes.size()));
+  }
+  for (size_t m = 0; m < s.eigenModes.size(); ++m)
+    checkNodes(tools::Format("mode %zu", m + 1), "the mode shape's records", s.eigenModes[m].shape);
+  checkNodes("response spectrum combination", "displacements", s.spectrum.displacements);
+  checkNodes("response spectrum combination", "support reactions", s.spectrum.reactions);
+  for (int32_t id : s.driftNodes)
+    if (!nodes.count(id)) add(tools::Format("drift node %d is not a node of the model", id));
+  if (more > 0) lines.push_back(tools::Format("... and %zu more", more));
+  return lines;
+}
+
+}  // namespace model

@@ -1,0 +1,192 @@
+#include "dialogs/design/material_grid.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "dialogs/design/standard_materials.h"
+#include "dialogs/grid/grid_ops.h"
+
+namespace {
+
+// English units: modulus ksi, weight density lb/ft^3, temperature F.
+fmMat Steel(int id) {
+  fmMat m(id);
+  m.label = "Steel";
+  m.E = 29000, m.nu = 0.3, m.density = 490, m.Tc = 6.5e-6, m.fc = 3, m.fy = 50, m.fys = 65;
+  return m;
+}
+
+}  // namespace
+
+TEST(MaterialGrid, HeadingsNameTheUnits) {
+  const std::vector<std::string> expected = {"Material Id",       "Label",   "E [kip/in^2]", "Poisson Ratio",
+                                             "Density [lb/ft^3]", "Tc [1/F]"};
+  EXPECT_EQ(matgrid::Headers(fmUnit()), expected);
+  EXPECT_EQ(matgrid::StrengthHeaders(matgrid::kConcrete, fmUnit())[4], "fys [kip/in^2]");
+  EXPECT_EQ(matgrid::StrengthHeaders(matgrid::kSteel, fmUnit())[3], "Fu [kip/in^2]");
+}
+
+TEST(MaterialGrid, PoissonDensityModulusAndThermalLimits) {
+  const struct {
+    int col;
+    const char* text;
+    const char* message;  // empty: accepted
+  } cases[] = {
+      {matgrid::kNu, "0.5", ""},
+      {matgrid::kNu, "0.0", ""},
+      {matgrid::kNu, "0.51", "Poisson ratio must be greater than 0.0 and less than 0.5 for material 1."},
+      {matgrid::kNu, "-0.01", "Poisson ratio must be greater than 0.0 and less than 0.5 for material 1."},
+      {matgrid::kDensity, "0", ""},
+      {matgrid::kDensity, "-1", "Invalid input for material 1."},
+      {matgrid::kE, "0", "Invalid input for material 1."},
+      {matgrid::kTc, "0", "Invalid input for material 1."},
+      {matgrid::kE, "29,000", "Invalid input for material 1."},
+      {matgrid::kE, "", "Invalid empty input for Material 1"},
+      {matgrid::kLabel, "A36 steel;", nullptr},
+  };
+  const std::vector<fmMat> old = {Steel(1)};
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.text) + " in column " + std::to_string(c.col));
+    grid::Sheet sheet;
+    matgrid::Fill(sheet, old, fmUnit(), 0, false);
+    sheet.SetData(c.col, 1, c.text);
+    const auto r = matgrid::Read(sheet, old, {}, fmUnit());
+    if (c.message && !*c.message) {
+      ASSERT_FALSE(r.failure) << r.failure->message;
+      ASSERT_EQ(r.materials.size(), 1u);
+      continue;
+    }
+    ASSERT_TRUE(r.failure);
+    if (c.message)
+      EXPECT_EQ(r.failure->message, c.message);
+    else
+      EXPECT_EQ(r.failure->message.rfind("Material label can only ", 0), 0u);
+    EXPECT_EQ(r.failure->cell, (grid::CellRef{1, 1}));
+  }
+}
+
+TEST(MaterialGrid, RowsKeepTheirStrengthsNewRowsGetDefaultsStandardRowsTheirOwn) {
+  const std::vector<fmMat> old = {Steel(1), Steel(2)};
+  grid::Sheet sheet;
+  matgrid::Fill(sheet, old, fmUnit(), 0, false);
+  grid::AddRows(sheet, 2, true);
+  for (int row : {3, 4}) {
+    sheet.SetData(matgrid::kLabel, row, row == 3 ? "New" : "Concrete40");
+    sheet.SetData(matgrid::kE, row, "3000");
+    sheet.SetData(matgrid::kNu, row, "0.2");
+    sheet.SetData(matgrid::kDensity, row, "150");
+    sheet.SetData(matgrid::kTc, row, "5.5e-06");
+  }
+  fmMat concrete(4);
+  concrete.label = "Concrete40", concrete.E = 3000, concrete.nu = 0.2, concrete.density = 150, concrete.Tc = 5.5e-6;
+  concrete.fc = 4, concrete.fy = 60, concrete.fys = 60;
+  const auto r = matgrid::Read(sheet, old, {{4, concrete}}, fmUnit());
+  ASSERT_FALSE(r.failure) << r.failure->message;
+  ASSERT_EQ(r.materials.size(), 4u);
+  EXPECT_EQ(r.materials[1].fy, 50);        // kept from the old record
+  EXPECT_DOUBLE_EQ(r.materials[2].fc, 3);  // 3000 psi in ksi
+  EXPECT_DOUBLE_EQ(r.materials[2].fy, 60);
+  EXPECT_EQ(r.materials[3].fc, 4);
+  EXPECT_EQ(r.materials[3].id, 4);
+  EXPECT_EQ(r.materials[3].label, "Concrete40");
+}
+
+TEST(MaterialGrid, StrengthTablesCheckTheirOwnRules) {
+  const std::vector<fmMat> mats = {Steel(1)};
+  const struct {
+    matgrid::StrengthKind kind;
+    int col;
+    const char* text;
+    const char* message;
+  } cases[] = {
+      {matgrid::kConcrete, 3, "0", ""},
+      {matgrid::kConcrete, 3, "-1", "Invalid fc input for material 1."},
+      {matgrid::kConcrete, 4, "0", "Invalid input fy or fys for material 1."},
+      {matgrid::kConcrete, 5, "-60", "Invalid input fy or fys for material 1."},
+      {matgrid::kConcrete, 5, "", "Invalid empty input for Material 1"},
+      {matgrid::kSteel, 3, "0", "Invalid input Fy or Fu for material 1."},
+      {matgrid::kSteel, 4, "x", "Invalid input Fy or Fu for material 1."},
+      {matgrid::kSteel, 3, "36", ""},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.text);
+    grid::Sheet sheet;
+    matgrid::FillStrengths(sheet, c.kind, mats, fmUnit(), 0, false);
+    EXPECT_TRUE(sheet.IsLocked(matgrid::kLabel, 1));
+    sheet.SetData(c.col, 1, c.text);
+    const auto r = matgrid::ReadStrengths(sheet, c.kind, mats);
+    if (!*c.message) {
+      ASSERT_FALSE(r.failure) << r.failure->message;
+      continue;
+    }
+    ASSERT_TRUE(r.failure);
+    EXPECT_EQ(r.failure->message, c.message);
+  }
+  grid::Sheet sheet;
+  matgrid::FillStrengths(sheet, matgrid::kSteel, mats, fmUnit(), 0, false);
+  EXPECT_EQ(sheet.GetData(3, 1), "50");
+  sheet.SetData(3, 1, "36");
+  sheet.SetData(4, 1, "58");
+  const auto r = matgrid::ReadStrengths(sheet, matgrid::kSteel, mats);
+  ASSERT_EQ(r.materials.size(), 1u);
+  EXPECT_EQ(r.materials[0].fy, 36);
+  EXPECT_EQ(r.materials[0].fys, 58);
+  EXPECT_EQ(r.materials[0].E, 29000);
+}
+
+TEST(StandardMaterials, TableHoldsSevenSteelsAndFifteenConcretes) {
+  const auto t = stdmat::UsTable();
+  ASSERT_EQ(t.size(), 22u);
+  EXPECT_EQ(t[0].label, "Steel");
+  EXPECT_EQ(t[6].label, "Steel-A992--Fy50");
+  EXPECT_EQ(t[2].fy, 35000);
+  EXPECT_EQ(t[2].fys, 60000);
+  EXPECT_EQ(t[7].label, "Concrete fc = 3.0 ksi");
+  EXPECT_EQ(t[21].label, "Concrete fc = 10.0 ksi");
+  EXPECT_DOUBLE_EQ(t[9].density, 145.0 / 1728);
+  EXPECT_EQ(t[9].nu, 0.15);
+  EXPECT_EQ(t[3].density, 0.283);
+}
+
+TEST(StandardMaterials, ConcreteFourKsiAt145PoundsInEnglishAndSiUnits) {
+  const double usE = 33 * std::pow(145.0, 1.5) * std::sqrt(4000.0);  // psi, about 3644 ksi
+  ASSERT_NEAR(usE / 1000, 3644, 0.5);
+
+  fmUnit english;
+  english.unit[fmUnit::Modulus] = 69;        // psi
+  english.unit[fmUnit::WeightDensity] = 86;  // lb/ft^3
+  auto table = stdmat::UsTable();
+  stdmat::ConvertToDocument(table, english);
+  EXPECT_NEAR(table[9].density, 145, 1e-9);
+  fmMat chosen = table[9];
+  stdmat::Finish(chosen, 9, 145, english);
+  EXPECT_EQ(chosen.label, "Concrete40");
+  EXPECT_NEAR(chosen.E, usE, 1e-6);
+  EXPECT_NEAR(chosen.fc, 4000, 1e-9);
+  EXPECT_NEAR(chosen.fy, 60000, 1e-9);
+
+  fmUnit si;
+  si.SetMetric();
+  si.unit[fmUnit::Modulus] = 73;        // N/mm^2
+  si.unit[fmUnit::WeightDensity] = 94;  // kN/m^3
+  si.unit[fmUnit::Temperature] = 104;   // C
+  const double psiInMPa = 0.00689475729;
+  const double lbft3InKNm3 = 0.157087463;
+  auto siTable = stdmat::UsTable();
+  stdmat::ConvertToDocument(siTable, si);
+  EXPECT_NEAR(siTable[0].E, 29000000 * psiInMPa, 1);
+  EXPECT_NEAR(siTable[0].Tc, 6.5e-6 * 1.8, 1e-12);
+  EXPECT_NEAR(siTable[9].density, 145 * lbft3InKNm3, 1e-4);
+  fmMat siChosen = siTable[9];
+  stdmat::Finish(siChosen, 9, siTable[9].density, si);
+  EXPECT_EQ(siChosen.label, "Concrete40");
+  EXPECT_NEAR(siChosen.E, usE * psiInMPa, 0.05);
+  EXPECT_NEAR(siChosen.fc, 4000 * psiInMPa, 1e-4);  // the table's own newton constant
+
+  fmMat steel = siTable[6];
+  stdmat::Finish(steel, 6, 70, si);
+  EXPECT_EQ(steel.label, "Steel-A992--Fy50");
+  EXPECT_EQ(steel.density, 70);
+  EXPECT_NEAR(steel.E, 29000000 * psiInMPa, 1);
+}
