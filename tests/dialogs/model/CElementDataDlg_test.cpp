@@ -5,6 +5,8 @@
 #include "dialogs/model/CShell4DataDlg.h"
 #include "resources/grid_ids.h"
 #include "support/DialogTest.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 
 namespace {
 
@@ -259,6 +261,33 @@ TEST_F(ElementDialogTest, EmptiedExistingRowsAreRefusedWithEachKindsWords) {
     EXPECT_EQ(dlg->ModalResult(), 0);
     EXPECT_EQ(Messages(), std::vector<std::string>{c.message});
     EXPECT_EQ(dlg->Spread().GetActiveCell(), (grid::CellRef{1, c.rows}));
+  }
+  EXPECT_EQ(host, original);
+}
+
+TEST_F(ElementDialogTest, SaveWritesEachTableUnderItsTitle) {
+  TempDir dir;
+  const struct {
+    int kind;
+    const char* title;
+    const char* cell;
+  } cases[] = {
+      {0, "Member Table", "<td>Tension only</td>"},
+      {1, "Shell4 Table", "<td>1: Slab8in</td>"},
+      {2, "Brick Table", "<td>2: Concrete</td>"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.title);
+    CBeamDataDlg beams;
+    CShell4DataDlg shells;
+    CBrickDataDlg bricks;
+    CElementDataDlg* dlg = OpenKind(c.kind, beams, shells, bricks);
+    const std::string path = dir / (std::to_string(c.kind) + ".htm");
+    prompter.QueuePath(path);
+    ASSERT_TRUE(dlg->PressButton(res::kCtlSave));
+    const std::string html = ReadFileText(path);
+    EXPECT_NE(html.find(std::string("<caption>") + c.title + "</caption>"), std::string::npos) << html;
+    EXPECT_NE(html.find(c.cell), std::string::npos) << html;
   }
   EXPECT_EQ(host, original);
 }
