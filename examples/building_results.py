@@ -1,16 +1,21 @@
 #!/usr/bin/env python3
 """Writes the "results" section of examples/building.json from a hand calculation.
 
-The frame: columns W12X26 (A = 7.65 in^2, Iz = 204 in^4, Iy = 17.3 in^4, E = 29000 ksi) at
-x = 0, 20, 40 ft and z = 0, 25 ft, storeys of 12 ft (y up), fixed at the base; the floors are
-rigid in their plane and the beams rigid in bending (a shear building). docs/model-document.md
-explains the calculation. Run: python3 examples/building_results.py > /tmp/results.json
+The frame: columns W14X90 (A = 26.5 in^2, Iz = 999 in^4, Iy = 362 in^4, E = 29000 ksi) at
+x = 0, 20, 40 ft and z = 0, 25 ft, storeys of 12 ft (y up), fixed at the base; the columns at
+z = 0 (local angle 0) bend about their strong axis when the frame sways in X, those at z = 25
+(local angle 90) when it sways in Z. The floors are rigid in their plane and the beams rigid
+in bending (a shear building); the two tension-only braces of the first storey and the slab
+are left out. docs/model-document.md explains the calculation. Run: python3 examples/building_results.py [--update] (prints the
+section, or with --update writes it into examples/building.json).
 """
 import json
 import math
+import os
 import re
+import sys
 
-E, A, IZ, IY = 29000.0, 7.65, 204.0, 17.3  # ksi, in^2, in^4
+E, A, IZ, IY = 29000.0, 26.5, 999.0, 362.0  # ksi, in^2, in^4
 H_FT = 12.0
 H = H_FT * 12.0  # in
 G = 386.09  # in/s^2
@@ -19,12 +24,44 @@ COLUMNS = [(x, z) for z in ZS for x in XS]  # node order of each level: 1-6, 7-1
 TRIBUTARY = {0.0: 125.0, 20.0: 250.0, 40.0: 125.0}  # ft^2 per column, by x
 FLOOR_AREA = 1000.0
 
-K_X = 6 * 12 * E * IZ / H**3  # kip/in, storey stiffness for sway in X
-K_Z = 6 * 12 * E * IY / H**3
+
+
+def column_i(col, axis):
+    """The moment of inertia a column bends with when the frame sways along axis 0 (X) or 2 (Z)."""
+    strong_in_x = COLUMNS[col][1] == 0.0
+    return IZ if strong_in_x == (axis == 0) else IY
+
+
+def storey_k(axis):
+    return sum(12 * E * column_i(col, axis) / H**3 for col in range(6))  # kip/in
+
+
+K_X, K_Z = storey_k(0), storey_k(2)
 
 
 def node(level, col):
     return level * 6 + col + 1
+
+
+def spread(table, nodes):
+    """The column-line nodes' values carried to every node of the model: a floor node moves
+    with its floor (interpolated between the column lines around it, the floor being rigid
+    in its plane and spanning between the columns); a node at or below the base (the
+    footing) does not move."""
+    out = {}
+    for n in nodes:
+        x, y, z = n["x"], n["y"], n["z"]
+        level = round(y / H_FT)
+        if y <= 0 or abs(y - level * H_FT) > 1e-9 or level > 2:
+            out[n["id"]] = table.get(n["id"], [0.0] * 6) if n["id"] <= 6 else [0.0] * 6
+            continue
+        i = 0 if x <= 20.0 else 1
+        tx = (x - XS[i]) / 20.0
+        tz = z / 25.0
+        corners = [(node(level, i), (1 - tx) * (1 - tz)), (node(level, i + 1), tx * (1 - tz)),
+                   (node(level, 3 + i), (1 - tx) * tz), (node(level, 4 + i), tx * tz)]
+        out[n["id"]] = [sum(w * table[c][k] for c, w in corners) for k in range(6)]
+    return out
 
 
 def zero_case():
@@ -53,8 +90,9 @@ def gravity(floor_psf, roof_psf, name):
 
 def lateral(f1, f2, axis, name):
     """Storey forces f1 (level 1) and f2 (roof) in X (axis 0) or Z (axis 2), shared by the six
-    nodes of a level. Storey shears over equal columns with mid-height inflection points;
-    overturning taken by the column lines' axial forces (portal method)."""
+    nodes of a level. Each storey's shear is shared by the columns in proportion to their
+    stiffness, with inflection points at mid-height; the rest of the overturning is taken by
+    the axial forces of the outer column lines (portal method)."""
     c = zero_case()
     k = K_X if axis == 0 else K_Z
     for col in range(6):
@@ -80,12 +118,13 @@ def lateral(f1, f2, axis, name):
         c["disp"][node(1, col)][1] = dy1
         c["disp"][node(2, col)][1] = dy1 - side * p_upper * H / (E * A)
         r = c["react"][node(0, col)]
-        r[axis] = -v1 / 6
+        share = 12 * E * column_i(col, axis) / H**3 / k
+        r[axis] = -v1 * share
         r[1] = side * p_lower
         if axis == 0:
-            r[5] = v1 / 6 * H_FT / 2
+            r[5] = v1 * share * H_FT / 2
         else:
-            r[3] = -v1 / 6 * H_FT / 2
+            r[3] = -v1 * share * H_FT / 2
     return c
 
 
@@ -121,6 +160,12 @@ def records(table):
 
 
 def main():
+    here = os.path.dirname(os.path.abspath(__file__))
+    path = os.path.join(here, "building.json")
+    with open(path) as f:
+        document = f.read()
+    nodes = json.loads(document)["nodes"]
+
     dead = gravity(80, 60, "Dead")
     live = gravity(50, 0, "Live")
     roof_live = gravity(0, 20, "Roof live")
@@ -139,10 +184,11 @@ def main():
              ("Live deflection", "", combine([(1, live)])),
              ("Construction stage", "", combine([(1.2, dead), (1.4, construction)]))]
 
-    # Modes of the dead-load masses: two in Z (weak axis of the columns), then two in X.
+    # Modes of the dead-load masses: two in each of X and Z, the same pair, as the columns
+    # give both directions the same stiffness; X first.
     m1, m2 = 80 / G, 60 / G
     modes = [(w2, phi, 2) for w2, phi in modes_2dof(K_Z, m1, m2)] + [(w2, phi, 0) for w2, phi in modes_2dof(K_X, m1, m2)]
-    modes.sort(key=lambda m: m[0])
+    modes.sort(key=lambda m: (m[0], m[2]))
 
     def shape(values, axis, level_values):
         t = {n: [0.0] * 6 for n in range(1, 19)}
@@ -154,7 +200,9 @@ def main():
     # Response spectrum: a flat 0.25 g acting in X and in Z, each mode's response by its
     # participation, combined by the square root of the sum of squares.
     sa = 0.25 * G
-    spectrum_modes, combined_disp, combined_react = [], {n: [0.0] * 6 for n in range(1, 19)}, {n: [0.0] * 6 for n in range(1, 7)}
+    spectrum_modes = []
+    combined_disp = {n["id"]: [0.0] * 6 for n in nodes}
+    combined_react = {n: [0.0] * 6 for n in range(1, 7)}
     for w2, phi, axis in modes:
         gamma = (m1 * phi[0] + m2 * phi[1]) / (m1 * phi[0] ** 2 + m2 * phi[1] ** 2)
         entry = {"omega2": rnd(w2), "displacements": {}, "inertialForces": {}}
@@ -162,16 +210,18 @@ def main():
             excited = direction == axis
             u = [gamma * p * sa / w2 if excited else 0.0 for p in phi]
             f = [m * gamma * p * sa if excited else 0.0 for m, p in zip((m1, m2), phi)]
-            entry["displacements"][name] = records(shape(None, axis, u))
-            forces = {n: [0.0] * 6 for n in range(1, 19)}
+            entry["displacements"][name] = records(spread(shape(None, axis, u), nodes))
+            # The masses sit at the column lines.
+            forces = {n["id"]: [0.0] * 6 for n in nodes}
             for col in range(6):
                 forces[node(1, col)][axis] = f[0] / 6
                 forces[node(2, col)][axis] = f[1] / 6
             entry["inertialForces"][name] = records(forces)
             if excited:
                 response = lateral(f[0], f[1], axis, "")
+                moved = spread(response["disp"], nodes)
                 for n in combined_disp:
-                    combined_disp[n] = [a + b * b for a, b in zip(combined_disp[n], response["disp"][n])]
+                    combined_disp[n] = [a + b * b for a, b in zip(combined_disp[n], moved[n])]
                 for n in combined_react:
                     combined_react[n] = [a + b * b for a, b in zip(combined_react[n], response["react"][n])]
         spectrum_modes.append(entry)
@@ -186,9 +236,9 @@ def main():
     results = {
         "units": {"unit": units},
         "cases": [dict([("label", name)] + ([("type", t)] if t else []) +
-                       [("displacements", records(c["disp"])), ("reactions", records(c["react"]))])
+                       [("displacements", records(spread(c["disp"], nodes))), ("reactions", records(c["react"]))])
                   for name, t, c in cases],
-        "eigenModes": [{"omega2": rnd(w2), "shape": records(shape(None, axis, phi))} for w2, phi, axis in modes],
+        "eigenModes": [{"omega2": rnd(w2), "shape": records(spread(shape(None, axis, phi), nodes))} for w2, phi, axis in modes],
         "spectrumModes": spectrum_modes,
         "spectrum": {"displacements": records(combined_disp), "reactions": records(combined_react)},
         "envelopeCombinations": ["Dead only", "Service D+L", "Live deflection", "Construction stage", "Wind X",
@@ -203,7 +253,14 @@ def main():
                   lambda m: "[" + ", ".join(v.strip() for v in m.group(1).split(",")) + "]", text)
     text = re.sub(r"\{\s*(\"(?:node|unit)\"[^{}\[\]]*(?:\[[^\[\]]*\][^{}\[\]]*)?)\s*\}",
                   lambda m: "{" + re.sub(r"\s*\n\s*", " ", m.group(1)).strip() + "}", text)
-    print(text)
+    if "--update" in sys.argv:
+        # Replaces the document's results section, which comes last.
+        start = document.index('\n\t"results": ')
+        text = "\n".join(("\t" + line if i else line) for i, line in enumerate(text.split("\n")))
+        with open(path, "w") as f:
+            f.write(document[:start] + '\n\t"results": ' + text + "\n}\n")
+    else:
+        print(text)
 
 
 if __name__ == "__main__":

@@ -156,8 +156,17 @@ double CfmStruct::ResultFactor(fmUnit::Quantity q) const {
 int CfmStruct::DisplayFormat(fmUnit::Quantity q) const { return std::clamp(m_DisplayFormat[q], 0, 11); }
 
 double CfmStruct::BaseLevel() const {
+  // Supports stand on the base; a footing below them is part of the foundation, not a storey.
+  bool found = false;
+  double base = 0;
+  for (const fmSolution::Support& support : m_Solution.supports)
+    if (const fmNd* n = FindNode(support.node)) {
+      base = found ? std::min(base, n->y) : n->y;
+      found = true;
+    }
+  if (found) return base;
   if (m_Nodes.empty()) return 0;
-  double base = m_Nodes.front().y;
+  base = m_Nodes.front().y;
   for (const fmNd& n : m_Nodes) base = std::min(base, n.y);
   return base;
 }

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "model/fm_element.h"
 #include "model/fm_load.h"
 #include "model/fm_material.h"
 #include "model/fm_node.h"
@@ -18,15 +19,17 @@
 class CfmStruct {
  public:
   // Element flags, as the element tables keep them.
-  static constexpr uint32_t kSelected = 1u << 0;
-  static constexpr uint32_t kFrozen = 1u << 1;
-  static constexpr uint32_t kInactive = 1u << 2;
-  static constexpr uint32_t kSelfWeightExcluded = 1u << 3;
+  static constexpr uint32_t kSelected = fmElementBase::kSelected;
+  static constexpr uint32_t kFrozen = fmElementBase::kFrozen;
+  static constexpr uint32_t kInactive = fmElementBase::kInactive;
+  static constexpr uint32_t kSelfWeightExcluded = fmElementBase::kNoSelfWeight;
 
+  // The elements as the results read them: the model's element records with the design
+  // assignments of the solved model.
   struct Member {
-    int32_t id = 0;
+    uint32_t id = 0;
     uint32_t flags = 0;
-    std::array<int32_t, 2> node{};
+    std::array<uint32_t, 2> node{};
     int32_t material = 0;  // 1-based position in the material table
     int32_t section = 0;   // 1-based position in the section table
     double angle = 0;      // local angle in degrees
@@ -37,9 +40,9 @@ class CfmStruct {
     bool rcExcluded = false, steelExcluded = false;
   };
   struct Shell4 {
-    int32_t id = 0;
+    uint32_t id = 0;
     uint32_t flags = 0;
-    std::array<int32_t, 4> node{};
+    std::array<uint32_t, 4> node{};
     int32_t material = 0;
     int32_t thickness = 0;  // 1-based position in the thickness table
     double angle = 0;
@@ -48,25 +51,25 @@ class CfmStruct {
     bool rcExcluded = false;
   };
   struct Brick {
-    int32_t id = 0;
+    uint32_t id = 0;
     uint32_t flags = 0;
-    std::array<int32_t, 8> node{};
+    std::array<uint32_t, 8> node{};
     int32_t material = 0;
   };
   struct LineSpring {
-    int32_t member = 0;
+    uint32_t member = 0;
     std::string flag{};
     std::array<double, 3> k{};
   };
   struct SurfaceSpring {
-    int32_t shell = 0;
+    uint32_t shell = 0;
     std::string flag{};
     std::array<double, 3> k{};
   };
   // Element loads of a load case (by its label). Directions 0 to 2 are X, Y, Z of the
   // global or, with `local`, the element's system; point and line loads 3 to 5 are moments.
   struct PointLoad {
-    int32_t member = 0;
+    uint32_t member = 0;
     std::string caseName{};
     int32_t direction = 0;
     bool local = false;
@@ -74,7 +77,7 @@ class CfmStruct {
     double distance = 0;
   };
   struct LineLoad {
-    int32_t member = 0;
+    uint32_t member = 0;
     std::string caseName{};
     int32_t direction = 0;
     bool local = false;
@@ -82,14 +85,14 @@ class CfmStruct {
     std::array<double, 2> distance{};
   };
   struct SurfaceLoad {
-    int32_t shell = 0;
+    uint32_t shell = 0;
     std::string caseName{};
     int32_t direction = 0;
     bool local = false;
     double magnitude = 0;
   };
   struct ThermalLoad {
-    int32_t element = 0;
+    uint32_t element = 0;
     std::string caseName{};
     double magnitude = 0;
   };
@@ -146,7 +149,8 @@ class CfmStruct {
   double ResultFactor(fmUnit::Quantity q) const;
   // The display format index of a quantity, 0 to 11.
   int DisplayFormat(fmUnit::Quantity q) const;
-  // The lowest Y of the model's nodes (0 without nodes): the base of the structure.
+  // The base of the structure: the lowest Y of the supported nodes, or of all nodes when no
+  // support is known (0 without nodes).
   double BaseLevel() const;
 
   // Per node, the maximum and minimum of each displacement (or support reaction) over the

@@ -6,6 +6,19 @@
 
 namespace model {
 
+namespace {
+
+// A member whose axis is nearer the vertical (Y) than the horizontal is a column.
+bool IsColumn(const fmBm& b, const CfmStruct& s) {
+  const fmNd* a = s.FindNode(b.nodes[0]);
+  const fmNd* e = s.FindNode(b.nodes[1]);
+  if (!a || !e) return false;
+  const double dx = e->x - a->x, dy = e->y - a->y, dz = e->z - a->z;
+  return dy * dy > dx * dx + dz * dz;
+}
+
+}  // namespace
+
 CfmStruct SolvedStructure(const ModelDocument& doc) {
   CfmStruct s;
   s.m_Units = doc.units;
@@ -15,6 +28,37 @@ CfmStruct SolvedStructure(const ModelDocument& doc) {
   s.m_Materials = doc.materials;
   s.m_Sections = doc.sections;
   s.m_Thicknesses = doc.thicknesses;
+  s.m_Members.reserve(doc.members.size());
+  for (const fmBm& b : doc.members) {
+    CfmStruct::Member m;
+    m.id = b.id;
+    m.flags = b.flags;
+    m.node = b.nodes;
+    m.material = b.mat;
+    m.section = b.sect;
+    m.angle = b.angle;
+    m.nonlinearity = static_cast<int32_t>(b.nonlinear);
+    m.column = IsColumn(b, s);
+    s.m_Members.push_back(std::move(m));
+  }
+  for (const fmShell4& e : doc.shells) {
+    CfmStruct::Shell4 shell;
+    shell.id = e.id;
+    shell.flags = e.flags;
+    shell.node = e.nodes;
+    shell.material = e.mat;
+    shell.thickness = e.thick;
+    shell.angle = e.angle;
+    s.m_Shells.push_back(std::move(shell));
+  }
+  for (const fmBrick& e : doc.bricks) {
+    CfmStruct::Brick brick;
+    brick.id = e.id;
+    brick.flags = e.flags;
+    brick.node = e.nodes;
+    brick.material = e.mat;
+    s.m_Bricks.push_back(brick);
+  }
   s.m_Solution = doc.results;
   if (s.m_Solution.cases.empty()) {
     // Never solved: the cases and combinations are listed and their results are missing.

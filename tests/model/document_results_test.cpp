@@ -122,3 +122,43 @@ TEST(DocumentResults, TheSolvedStructureCarriesTheModelsTablesAndFlag) {
   EXPECT_EQ(s.m_Nodes, doc.nodes);
   EXPECT_EQ(s.GetCaseName(0), "Dead");
 }
+
+TEST(DocumentResults, TheSolvedStructureTakesTheModelsElements) {
+  model::ModelDocument doc = model::ParseModelDocument(Document(""), "m.json");
+  doc.nodes.push_back({3, 0, 20, 0, 0});
+  fmBm column;
+  column.id = 7;
+  column.nodes = {1, 2};
+  column.mat = 1;
+  column.sect = 2;
+  column.angle = 90;
+  column.nonlinear = fmNonlinear::CompressionOnly;
+  column.flags = fmElementBase::kSelected | fmElementBase::kNoSelfWeight;
+  fmBm beam = column;
+  beam.id = 8;
+  beam.nodes = {1, 3};
+  doc.members = {column, beam};
+  fmShell4 shell;
+  shell.id = 4;
+  shell.nodes = {1, 3, 2, 2};
+  shell.thick = 1;
+  doc.shells = {shell};
+  fmBrick brick;
+  brick.id = 5;
+  brick.nodes = {1, 2, 3, 1, 2, 3, 1, 2};
+  brick.flags = fmElementBase::kInactive;
+  doc.bricks = {brick};
+  const CfmStruct s = model::SolvedStructure(doc);
+  const CfmStruct::Member* m = s.FindMember(7);
+  ASSERT_NE(m, nullptr);
+  EXPECT_EQ(m->node, (std::array<uint32_t, 2>{1, 2}));
+  EXPECT_EQ(m->section, 2);
+  EXPECT_EQ(m->angle, 90.0);
+  EXPECT_EQ(m->nonlinearity, 2);
+  EXPECT_TRUE(m->column);  // vertical
+  EXPECT_TRUE(s.IsMemberSelected(7));
+  EXPECT_EQ(m->flags & CfmStruct::kSelfWeightExcluded, CfmStruct::kSelfWeightExcluded);
+  EXPECT_FALSE(s.FindMember(8)->column);  // horizontal
+  EXPECT_EQ(s.FindShell(4)->thickness, 1);
+  EXPECT_EQ(s.FindBrick(5)->flags, CfmStruct::kInactive);
+}

@@ -143,6 +143,13 @@ TEST(CfmStruct, CasesResultsUnitsAndBase) {
   s.m_DisplayFormat[fmUnit::Force] = 40;
   EXPECT_EQ(s.DisplayFormat(fmUnit::Force), 11);
   EXPECT_EQ(s.BaseLevel(), 0.0);
-  s.m_Nodes[0].y = -3;
+  s.m_Nodes.push_back({9, 0, 0, -2, 0});  // a footing node below the supports
+  EXPECT_EQ(s.BaseLevel(), 0.0);
+  s.m_Nodes[0].y = -3;  // a supported node
+  s.TablesChanged();
   EXPECT_EQ(s.BaseLevel(), -3.0);
+  s.m_Solution.supports.clear();
+  EXPECT_EQ(s.BaseLevel(), -3.0);
+  s.m_Nodes[0].y = 0;
+  EXPECT_EQ(s.BaseLevel(), -2.0);
 }

@@ -122,19 +122,10 @@ void CResultsDlg::OnCheckShowSelected() {
   Refresh();
 }
 
-// Until the grid's print and export land on this branch (interim, removed at the merge).
-template <class Spread>
-void PrintThrough(Spread& spread, const std::string& title) {
-  if constexpr (requires { spread.PrintGrid(title); }) spread.PrintGrid(title);
-}
-template <class Spread>
-void ExportThrough(Spread& spread, const std::string& title) {
-  if constexpr (requires { spread.ExportGrid(title); }) spread.ExportGrid(title);
-}
+// The window title heads the printed pages and names the saved table.
+void CResultsDlg::OnPrint() { m_Spread.PrintGrid(windowTitle().toStdString()); }
 
-void CResultsDlg::OnPrint() { PrintThrough(m_Spread, windowTitle().toStdString()); }
-
-void CResultsDlg::OnBnClickedSave() { ExportThrough(m_Spread, windowTitle().toStdString()); }
+void CResultsDlg::OnBnClickedSave() { m_Spread.ExportGrid(windowTitle().toStdString()); }
 
 QSize CResultsDlg::sizeHint() const { return initialSize_.isValid() ? initialSize_ : CDialog::sizeHint(); }
 

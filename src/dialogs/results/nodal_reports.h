@@ -21,7 +21,7 @@ SpringKind SpringKindOf(int reportType);
 void Spring_Reactions(const ReportContext& ctx, int caseIndex);
 void Multi_DOF_Constraint_Forces(const ReportContext& ctx, int caseIndex);
 // The drift nodes in their list order, each against the one before it; the first against
-// the base of the structure (the lowest Y of the model, which does not move).
+// the base of the structure (the level of the supports, which does not move).
 void Story_Drift(const ReportContext& ctx, int caseIndex, const std::vector<fmResult6Val>& displacements);
 void Node_Displacements_Envelope(const ReportContext& ctx);
 void Support_Reactions_Envelope(const ReportContext& ctx);

@@ -7,6 +7,8 @@
 #include "resources/grid_ids.h"
 #include "resources/results_ids.h"
 #include "support/DialogTest.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 
 namespace {
 
@@ -67,11 +69,7 @@ TEST_F(ResultsDialogTest, SupportReactionsOfTheFirstCaseWithTheirRedSum) {
 TEST_F(ResultsDialogTest, TitlesPerKind) {
   const std::pair<int, const char*> kinds[] = {
       {0, "Nodal Displacements - [Dead]"},
-      {3, "Spring Reactions - [Dead]"},
-      {33, "Story Drift - [Dead]"},
-      {41, "Nodal Displacements - Response Spectrum Modal Combinations"},
       {52, "Multi-DOF Constraint Forces and Moments -  Response Spectrum Modal Combinations"},
-      {55, "Nodal Displacements - Envelope"},
       {21, "Eigenvectors - [Mode-1]"},
       {39, "SY Inertial Forces - [Mode-1]"},
       {29, "Nodal Info"},
@@ -96,9 +94,11 @@ TEST_F(ResultsDialogTest, ControlsHiddenPerKind) {
     int kind;
     bool label, combo, check;
   };
-  const Case cases[] = {{0, true, true, true},    {20, false, false, false}, {34, false, false, false},
-                        {41, false, false, true}, {54, false, false, true},  {24, false, false, true},
-                        {29, false, false, false}, {55, true, true, true}};
+  const Case cases[] = {{0, true, true, true},     {20, false, false, false}, {34, false, false, false},
+                        {41, false, false, true},  {50, false, false, true},  {52, false, false, true},
+                        {54, false, false, true},  {24, false, false, true},  {27, false, false, true},
+                        {29, false, false, false}, {32, false, false, false}, {55, true, true, true},
+                        {51, true, true, true}};
   for (const Case& c : cases) {
     CResultsDlg one;
     one.m_nReportType = c.kind;
@@ -206,4 +206,24 @@ TEST_F(ResultsDialogTest, ButtonsSitAtTheBottomLeftInOrder) {
   EXPECT_EQ(dlg.GetDlgItemText(IDCANCEL), "Close");
   EXPECT_GT(print->y(), dlg.Spread().y() + dlg.Spread().height());
   dlg.hide();
+}
+
+TEST_F(ResultsDialogTest, SaveAndPrintUseTheWindowTitle) {
+  TempDir dir;
+  Open(1);
+  ASSERT_TRUE(dlg.ChooseItem(res::kCtlResultsCombo, 1));
+  prompter.QueuePath(dir / "reactions.htm");
+  ASSERT_TRUE(dlg.PressButton(res::kCtlSave));
+  const std::string html = ReadFileText(dir / "reactions.htm");
+  EXPECT_NE(html.find("<caption>Support Reactions - [Wind X]</caption>"), std::string::npos) << html;
+  EXPECT_NE(html.find("Sum"), std::string::npos);
+
+  prompter.QueueAnswer(true);
+  prompter.QueuePath(dir / "reactions.pdf");
+  ASSERT_TRUE(dlg.PressButton(res::kCtlPrint));
+  EXPECT_TRUE(ReadFileText(dir / "reactions.pdf").starts_with("%PDF"));
+  prompter.QueueAnswer(false);  // No prints nothing
+  ASSERT_TRUE(dlg.PressButton(res::kCtlPrint));
+  EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"reactions.htm", "reactions.pdf"}));
+  EXPECT_EQ(dlg.ModalResult(), 0);  // the dialog stays open
 }

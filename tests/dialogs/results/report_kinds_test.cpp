@@ -62,31 +62,6 @@ TEST(ReportTitle, EveryKindWithTheCaseOrModeFilledIn) {
   EXPECT_EQ(ReportTitle(0, "50% Live", 1), "Nodal Displacements - [50% Live]");
 }
 
-TEST(ReportKinds, ControlsShownPerKind) {
-  struct Case {
-    int kind;
-    bool label, combo, check, compact;
-  };
-  const Case cases[] = {
-      {0, true, true, true, false},    {21, true, true, true, false},   {22, true, true, true, false},
-      {55, true, true, true, false},   {57, true, true, true, false},   {20, false, false, false, false},
-      {34, false, false, false, false}, {24, false, false, true, false}, {27, false, false, true, false},
-      {41, false, false, true, false}, {50, false, false, true, false}, {52, false, false, true, false},
-      {54, false, false, true, false}, {51, true, true, true, false},   {53, true, true, true, false},
-      {28, false, false, false, true}, {29, false, false, false, true}, {32, false, false, false, true},
-      {25, true, true, true, false},
-  };
-  for (const Case& c : cases) {
-    const ControlsShown shown = ControlsFor(c.kind);
-    EXPECT_EQ(shown.label, c.label) << c.kind;
-    EXPECT_EQ(shown.combo, c.combo) << c.kind;
-    EXPECT_EQ(shown.check, c.check) << c.kind;
-    EXPECT_EQ(shown.compact, c.compact) << c.kind;
-  }
-  for (int kind : {22, 23, 55, 56, 57}) EXPECT_TRUE(IgnoresComboChange(kind)) << kind;
-  for (int kind : {0, 21, 24, 54, 58}) EXPECT_FALSE(IgnoresComboChange(kind)) << kind;
-}
-
 TEST(ReportKinds, ComboEntriesForCasesAndModes) {
   CfmStruct s = SampleStruct();
   EXPECT_EQ(ComboEntries(s, 0), (std::vector<std::string>{"1: Dead", "2: Wind X", "3: D+W"}));
