@@ -84,6 +84,7 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
     ReadSections(r, doc);
     ReadThicknesses(r, doc);
     ReadElements(r, doc);
+    ReadSupports(r, doc);
     ReadResults(r, doc);
   } catch (const DocumentError& e) {
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
@@ -114,6 +115,7 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   WriteSections(doc, root);
   WriteThicknesses(doc, root);
   WriteElements(doc, root);
+  WriteSupports(doc, root);
   WriteResults(doc, root);
   return root.dump(1, '\t') + "\n";
 }

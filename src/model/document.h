@@ -11,6 +11,7 @@
 #include "model/fm_node.h"
 #include "model/fm_section.h"
 #include "model/fm_solution.h"
+#include "model/fm_support.h"
 #include "tools/fm_unit.h"
 
 namespace model {
@@ -29,6 +30,7 @@ struct ModelDocument {
   std::vector<fmBm> members;
   std::vector<fmShell4> shells;
   std::vector<fmBrick> bricks;
+  std::vector<fmSupport> supports;  // at most one per node, each at a node of `nodes`
   fmSolution results;  // what the last solver run produced; empty when never solved
 };
 
@@ -52,5 +54,9 @@ ModelDocument LoadModelDocument(const std::string& path);
 std::string SerializeModelDocument(const ModelDocument& doc);
 // Replaces the file atomically; throws tools::FileError.
 void SaveModelDocument(const ModelDocument& doc, const std::string& path);
+
+// Removes the supports whose node is no longer in `nodes` (after nodes were renumbered), so
+// that the document stays loadable; returns those node ids in support order.
+std::vector<uint32_t> RemoveSupportsAtMissingNodes(ModelDocument& doc);
 
 }  // namespace model

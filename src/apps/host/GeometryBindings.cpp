@@ -21,16 +21,37 @@ geometry::CylindricalFrameParameters ParametersOf(const CGenerateCylindricalFram
   return p;
 }
 
-// The document holds nodes only so far: members and supports are counted, not stored.
-std::string Describe(const geometry::CylindricalFrame& f) {
-  std::string text = tools::Format("Generated %zu nodes", f.nodes.size());
-  if (!f.nodes.empty()) text += tools::Format(" (%u to %u)", f.nodes.front().id, f.nodes.back().id);
-  if (!f.members.empty() || !f.supports.empty()) {
-    text += tools::Format("; %zu members", f.members.size());
-    if (!f.supports.empty())
-      text += tools::Format(" and %zu %s supports", f.supports.size(), geometry::SupportKindName(f.supports[0].kind));
-    text += " await member and support records and were not added";
-  }
+std::string Counted(size_t n, const char* what, uint32_t first, uint32_t last) {
+  if (n == 1) return tools::Format("1 %s (%u)", what, first);
+  return tools::Format("%zu %ss (%u to %u)", n, what, first, last);
+}
+
+// A material or section reference as the member table shows it: "1: A992".
+template <class Record>
+std::string Reference(const char* what, const std::vector<Record>& records, int32_t ref) {
+  const Record& r = records[static_cast<size_t>(ref) - 1];
+  return tools::Format("%s %d: %s", what, r.id, r.label.c_str());
+}
+
+// What was added, and which material and section the members got, for the status bar.
+std::string Describe(const geometry::CylindricalFrameResult& r, const model::ModelDocument& doc) {
+  const geometry::CylindricalFrame& f = r.frame;
+  std::vector<std::string> parts;
+  if (!f.nodes.empty()) parts.push_back(Counted(f.nodes.size(), "node", f.nodes.front().id, f.nodes.back().id));
+  if (!f.members.empty())
+    parts.push_back(Counted(f.members.size(), "member", f.members.front().id, f.members.back().id));
+  if (!f.supports.empty())
+    parts.push_back(tools::Format("%zu %s support%s", f.supports.size(),
+                                  geometry::SupportKindName(f.supports.front().kind), f.supports.size() == 1 ? "" : "s"));
+  std::string text = "Generated ";
+  for (size_t i = 0; i < parts.size(); ++i)
+    text += (i == 0 ? "" : i + 1 == parts.size() ? " and " : ", ") + parts[i];
+  if (f.members.empty()) return text;
+  if (r.material == 0 && r.section == 0) return text + "; the members have no material or section yet";
+  text += "; the members have ";
+  text += r.material ? Reference("material", doc.materials, r.material) : "no material";
+  text += " and ";
+  text += r.section ? Reference("section", doc.sections, r.section) : "no section";
   return text;
 }
 
@@ -42,13 +63,18 @@ void RegisterGeometryBindings() {
                            static_cast<CGenerateCylindricalFrameDlg&>(d).m_pUnits = &m.doc.units;
                          },
                          [](CDialog& d, HostModel& m) {
+                           if (m.doc.display.modelLocked) {
+                             GetPrompter().Message(&d, "The Model is locked.\nThe cylindrical frame was not added.",
+                                                   MessageIcon::Information);
+                             return false;
+                           }
                            const auto result = geometry::AddCylindricalFrameToDocument(
                                m.doc, ParametersOf(static_cast<CGenerateCylindricalFrameDlg&>(d)));
                            if (!result.ok()) {
                              GetPrompter().Message(&d, result.error, MessageIcon::Error);
                              return false;
                            }
-                           m.status = Describe(result.frame);
+                           m.status = Describe(result, m.doc);
                            return !result.frame.nodes.empty();
                          }});
 }

@@ -84,6 +84,8 @@ void HostWindow::RefreshView() {
   add("Length unit", QString::fromStdString(doc.units.Label(fmUnit::Length)));
   add("Force unit", QString::fromStdString(doc.units.Label(fmUnit::Force)));
   add("Nodes", QString::fromStdString(tools::Format("%zu", doc.nodes.size())));
+  add("Members", QString::fromStdString(tools::Format("%zu", doc.members.size())));
+  add("Supports", QString::fromStdString(tools::Format("%zu", doc.supports.size())));
   add("Model locked", doc.display.modelLocked ? "yes" : "no");
   add("Show only selected", doc.display.showSelectedOnly ? "yes" : "no");
 

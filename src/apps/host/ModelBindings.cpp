@@ -3,6 +3,7 @@
 #include "dialogs/model/CBrickDataDlg.h"
 #include "dialogs/model/CNodeDataDlg.h"
 #include "dialogs/model/CShell4DataDlg.h"
+#include "tools/format.h"
 
 namespace {
 
@@ -33,7 +34,20 @@ void RegisterModelBindings() {
                            PrepareGrid(dlg, m);
                            dlg.m_pNodes = &m.doc.nodes;
                          },
-                         WroteThrough});
+                         [](CDialog&, HostModel& m) {
+                           // A renumbered node leaves its support behind; a support at no node
+                           // would make the saved model unreadable.
+                           const std::vector<uint32_t> removed = model::RemoveSupportsAtMissingNodes(m.doc);
+                           if (!removed.empty()) {
+                             std::string ids;
+                             for (size_t i = 0; i < removed.size() && i < 10; ++i)
+                               ids += tools::Format("%s%u", i ? ", " : "", removed[i]);
+                             if (removed.size() > 10) ids += ", ...";
+                             m.status = tools::Format("Removed %zu support%s at nodes no longer in the model (%s)",
+                                                      removed.size(), removed.size() == 1 ? "" : "s", ids.c_str());
+                           }
+                           return true;
+                         }});
   RegisterDialogBinding({"CBeamDataDlg",
                          [](CDialog& d, HostModel& m) {
                            auto& dlg = static_cast<CBeamDataDlg&>(d);

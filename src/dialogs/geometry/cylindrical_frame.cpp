@@ -242,15 +242,41 @@ CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters
 }
 
 CylindricalFrameResult AddCylindricalFrameToDocument(model::ModelDocument& doc, const CylindricalFrameParameters& p) {
-  uint32_t highest = 0;
-  for (const fmNd& n : doc.nodes) highest = std::max(highest, n.id);
-  if (highest == std::numeric_limits<uint32_t>::max()) {
+  uint32_t highestNode = 0, highestMember = 0;
+  for (const fmNd& n : doc.nodes) highestNode = std::max(highestNode, n.id);
+  for (const fmBm& m : doc.members) highestMember = std::max(highestMember, m.id);
+  constexpr uint32_t kMaxId = std::numeric_limits<uint32_t>::max();
+  if (highestNode == kMaxId || (p.generateMembers && highestMember == kMaxId)) {
     CylindricalFrameResult r;
     r.error = "The new nodes and members cannot be numbered: ids would pass 4294967295";
     return r;
   }
-  CylindricalFrameResult r = GenerateCylindricalFrame(p, highest + 1, 1);
-  if (r.ok()) doc.nodes.insert(doc.nodes.end(), r.frame.nodes.begin(), r.frame.nodes.end());
+  // Without members the member ids are not used; 1 keeps the generator's check quiet.
+  CylindricalFrameResult r =
+      GenerateCylindricalFrame(p, highestNode + 1, highestMember == kMaxId ? 1 : highestMember + 1);
+  if (!r.ok()) return r;
+
+  if (!doc.materials.empty()) r.material = 1;
+  for (size_t i = 0; i < doc.sections.size(); ++i)
+    if (!doc.sections[i].IsRigidLink()) {
+      r.section = static_cast<int32_t>(i) + 1;
+      break;
+    }
+
+  const CylindricalFrame& f = r.frame;
+  doc.nodes.insert(doc.nodes.end(), f.nodes.begin(), f.nodes.end());
+  doc.members.reserve(doc.members.size() + f.members.size());
+  for (const GeneratedMember& g : f.members) {
+    fmBm bm;
+    bm.id = g.id;
+    bm.nodes = {g.nodeI, g.nodeJ};
+    bm.mat = r.material;
+    bm.sect = r.section;
+    doc.members.push_back(bm);
+  }
+  doc.supports.reserve(doc.supports.size() + f.supports.size());
+  for (const GeneratedSupport& g : f.supports)
+    doc.supports.push_back(g.kind == SupportKind::Fixed ? fmSupport::Fixed(g.node) : fmSupport::Pinned(g.node));
   return r;
 }
 

@@ -89,6 +89,8 @@ struct CylindricalFrame {
 struct CylindricalFrameResult {
   std::string error;  // empty on success
   CylindricalFrame frame;
+  // Added to a document: the material and section references its members got (0: none).
+  int32_t material = 0, section = 0;
   bool ok() const { return error.empty(); }
 };
 
@@ -100,10 +102,14 @@ struct CylindricalFrameResult {
 CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters& p, uint32_t firstNodeId,
                                                 uint32_t firstMemberId);
 
-// Generates into a model: the new nodes are numbered after the model's highest node id and
-// appended to it; the model is untouched when the parameters are refused. The document has
-// no member or support records yet, so the members (numbered from 1) and supports are only
-// returned, for the caller to report.
+// Generates into a model, all or nothing: the model is untouched when the parameters are
+// refused or the new ids would pass 4294967295.
+// - Nodes are numbered after the model's highest node id and members after its highest
+//   member id, and appended to `nodes` and `members`.
+// - Every member takes the model's first material (reference 1) and its first section that
+//   is not the rigid link, so the frame can be analysed as generated and changed in the
+//   member table; a model without materials or sections gives 0, none chosen.
+// - Pinned (Dx, Dy, Dz) or fixed (all six) supports go to `supports`, one per base node.
 CylindricalFrameResult AddCylindricalFrameToDocument(model::ModelDocument& doc, const CylindricalFrameParameters& p);
 
 const char* SupportKindName(SupportKind kind);  // "pinned", "fixed", "none"

@@ -49,3 +49,19 @@ TEST_F(ModelHostTest, ElementGridsShowTheDocumentsElementsAndWriteItOnOk) {
     EXPECT_TRUE(c.changed(model.doc));
   }
 }
+
+TEST_F(ModelHostTest, RenumberingASupportedNodeRemovesItsSupport) {
+  auto dlg = CreateBoundDialog("CNodeDataDlg", model, nullptr);
+  ASSERT_TRUE(dlg);
+  dlg->InitDialogForTest();
+  auto& grid = static_cast<CDataGridDlg&>(*dlg);
+  grid.Spread().sheet().SetData(1, 1, "1001");  // node 1 carries a fixed support
+  dlg->PressButton(IDOK);
+  ASSERT_EQ(dlg->ModalResult(), IDOK) << (Messages().empty() ? "" : Messages().back());
+  EXPECT_TRUE(TakeBackDialogResult("CNodeDataDlg", *dlg, IDOK, model));
+  EXPECT_EQ(model.status, "Removed 1 support at nodes no longer in the model (1)");
+  ASSERT_EQ(model.doc.supports.size(), 5u);
+  EXPECT_EQ(model.doc.supports[0], fmSupport::Fixed(2));
+  // The model saves into a document that opens again.
+  EXPECT_EQ(model::ParseModelDocument(model::SerializeModelDocument(model.doc), "x").supports, model.doc.supports);
+}

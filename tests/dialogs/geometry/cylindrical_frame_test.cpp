@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <utility>
@@ -221,9 +222,10 @@ TEST(CylindricalFrame, RotatesAboutAGlobalAxisThenMovesToTheInsertionPoint) {
   };
   for (const auto& c : cases) {
     CylindricalFrameParameters p;
-    p.radialList = "10";
-    p.angleList = "0, 90";
-    p.axialList = "5";
+    // Whole strings: assigning short literals here trips a false -Wrestrict of GCC 12.
+    p.radialList = std::string("10");
+    p.angleList = std::string("0, 90");
+    p.axialList = std::string("5");
     p.rotationAxis = c.axis;
     p.rotationAngle = c.angle;
     p.insertX = 100, p.insertY = 200, p.insertZ = 300;
@@ -257,26 +259,113 @@ TEST(CylindricalFrame, RefusesWhatItCannotBuild) {
             "The new nodes and members cannot be numbered: ids would pass 4294967295");
 }
 
-TEST(CylindricalFrame, AddsNodesToADocumentAfterItsHighestId) {
+// A model with nodes, members, a support, materials and sections, ids out of order; its
+// first section is the rigid link, which generated members must not get.
+model::ModelDocument SmallModel() {
   model::ModelDocument doc;
-  doc.nodes = {{12, 0, 0, 0, 0}, {5, 1, 0, 0, 0}};
-  CylindricalFrameParameters p;
-  p.angleList = "0, 4@90";
-  const CylindricalFrameResult r = AddCylindricalFrameToDocument(doc, p);
-  ASSERT_TRUE(r.ok()) << r.error;
-  ASSERT_EQ(doc.nodes.size(), 2u + 8u);
-  EXPECT_EQ(doc.nodes[1], (fmNd{5, 1, 0, 0, 0}));
-  for (size_t i = 0; i < 8; ++i) EXPECT_EQ(doc.nodes[2 + i].id, 13u + i);
-  EXPECT_EQ(r.frame.members.front().id, 1u);
+  doc.nodes = {{12, 0, 0, 0, 0}, {5, 0, 1, 0, 0}};
+  doc.members = {{{30, 0, 2}, {12, 5}, 1, 0, fmNonlinear::Linear}, {{7, 0, 1}, {5, 12}, 3, 0, fmNonlinear::Linear}};
+  doc.supports = {fmSupport::Pinned(5)};
+  doc.materials = {fmMat(1), fmMat(2)};
+  doc.materials[0].label = "A992";
+  doc.sections = {fmSect(1), fmSect(2), fmSect(3)};
+  doc.sections[0].label = "rigid_link";
+  doc.sections[1].label = "W14X90";
+  return doc;
+}
 
-  // Refused parameters and a model whose ids are used up leave the nodes as they were.
-  p.angleList = "0, 360";
-  EXPECT_EQ(AddCylindricalFrameToDocument(doc, p).error, kClosedFrameNeedsTwoIncrements);
-  EXPECT_EQ(doc.nodes.size(), 10u);
-  p.angleList = "0, 4@90";
-  doc.nodes.push_back({4294967295u, 0, 0, 0, 0});
-  EXPECT_FALSE(AddCylindricalFrameToDocument(doc, p).ok());
-  EXPECT_EQ(doc.nodes.size(), 11u);
+TEST(CylindricalFrameInModel, AppendsNodesMembersAndBaseSupports) {
+  const struct {
+    const char* angles;
+    const char* axial;
+    int supports;
+    bool members;
+    size_t nodes, memberCount, supportCount;
+  } cases[] = {
+      {"0, 4@90", "5", 2, true, 8, 12, 4},     // closed ring, fixed base
+      {"0, 2@30", "12, 3", 1, true, 9, 12, 3},  // open, pinned base
+      {"0, 2@30", "12", 0, false, 6, 0, 0},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.angles) + " | " + c.axial);
+    const model::ModelDocument before = SmallModel();
+    model::ModelDocument doc = before;
+    CylindricalFrameParameters p;
+    p.radialList = std::string("10");
+    p.angleList = c.angles, p.axialList = c.axial;
+    p.supports = c.supports;
+    p.generateMembers = c.members;
+    p.insertY = 2;  // the base level lies at y = 2
+    ASSERT_TRUE(AddCylindricalFrameToDocument(doc, p).ok());
+
+    // What was there stays in front; the new records follow, numbered after the highest ids.
+    ASSERT_EQ(doc.nodes.size(), 2 + c.nodes);
+    ASSERT_EQ(doc.members.size(), 2 + c.memberCount);
+    ASSERT_EQ(doc.supports.size(), 1 + c.supportCount);
+    EXPECT_TRUE(std::equal(before.nodes.begin(), before.nodes.end(), doc.nodes.begin()));
+    EXPECT_TRUE(std::equal(before.members.begin(), before.members.end(), doc.members.begin()));
+    EXPECT_EQ(doc.supports[0], before.supports[0]);
+    std::set<uint32_t> base;
+    for (size_t i = 0; i < c.nodes; ++i) {
+      EXPECT_EQ(doc.nodes[2 + i].id, 13u + i);
+      if (doc.nodes[2 + i].y == 2.0) base.insert(doc.nodes[2 + i].id);
+    }
+    for (size_t i = 0; i < c.memberCount; ++i) {
+      const fmBm& m = doc.members[2 + i];
+      EXPECT_EQ(m.id, 31u + i);
+      EXPECT_TRUE(m.nodes[0] >= 13 && m.nodes[1] >= 13) << m.id;
+      // The first material, and the first section that is not the rigid link.
+      EXPECT_TRUE(m.mat == 1 && m.sect == 2) << m.id;
+    }
+    std::set<uint32_t> supported;
+    for (size_t i = 1; i < doc.supports.size(); ++i) {
+      supported.insert(doc.supports[i].node);
+      EXPECT_TRUE(c.supports == 2 ? doc.supports[i].IsFixed() : doc.supports[i].IsPinned());
+    }
+    EXPECT_EQ(supported, c.supports ? base : std::set<uint32_t>{});
+  }
+
+  // Nothing to refer to: references 0, none chosen; numbering starts at 1.
+  model::ModelDocument empty;
+  empty.sections = {fmSect(1)};
+  empty.sections[0].label = "RIGID_LINK";
+  ASSERT_TRUE(AddCylindricalFrameToDocument(empty, {}).ok());
+  ASSERT_EQ(empty.members.size(), 7u);
+  EXPECT_EQ(empty.nodes.front().id, 1u);
+  EXPECT_EQ(empty.members.front().id, 1u);
+  for (const fmBm& m : empty.members) EXPECT_TRUE(m.mat == 0 && m.sect == 0) << m.id;
+}
+
+TEST(CylindricalFrameInModel, RefusalsLeaveTheModelUntouched) {
+  const char* kIdsUsedUp = "The new nodes and members cannot be numbered: ids would pass 4294967295";
+  const struct {
+    const char* angles;
+    uint32_t highestNode, highestMember;
+    const char* error;  // empty: accepted
+  } cases[] = {
+      {"0, 360", 12, 30, kClosedFrameNeedsTwoIncrements},
+      {"0, 4@90", 4294967295u, 30, kIdsUsedUp},
+      {"0, 4@90", 12, 4294967295u, kIdsUsedUp},
+      {"0, 4@90", 12, 4294967284u, kIdsUsedUp},  // eleven ids left for twelve members
+      {"0, 4@90", 12, 4294967283u, ""},
+  };
+  for (const auto& c : cases) {
+    model::ModelDocument doc = SmallModel();
+    doc.nodes[0].id = c.highestNode;
+    doc.members[0].id = c.highestMember;
+    const model::ModelDocument before = doc;
+    CylindricalFrameParameters p;
+    p.angleList = c.angles;
+    p.supports = 2;
+    EXPECT_EQ(AddCylindricalFrameToDocument(doc, p).error, c.error) << c.angles << " " << c.highestMember;
+    if (*c.error) {
+      EXPECT_EQ(doc.nodes, before.nodes);
+      EXPECT_EQ(doc.members, before.members);
+      EXPECT_EQ(doc.supports, before.supports);
+    } else {
+      EXPECT_EQ(doc.members.back().id, 4294967295u);
+    }
+  }
 }
 
 }  // namespace
