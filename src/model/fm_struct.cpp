@@ -7,11 +7,13 @@
 #include <emmintrin.h>
 #endif
 #include <limits>
+#include <mutex>
 #include <unordered_map>
 
 #include "model/id_index.h"
 #include "tools/fm_exception.h"
 #include "tools/format.h"
+#include "tools/parallel.h"
 
 const std::array<const char*, 6>& DofNames() {
   static const std::array<const char*, 6> names = {"X", "Y", "Z", "OX", "OY", "OZ"};
@@ -257,25 +259,45 @@ void Envelope(const CfmStruct& s, const std::vector<bool>& marked, std::vector<f
     for (const fmResult6Val& r : reference) lookUpAndTake(r, cases[0].first);
     first = 1;
   }
-  // A block of nodes at a time through all cases, so the block's envelope stays in the cache
-  // while the case vectors stream past.
+  // The nodes are shared among the cores; each takes a block of its nodes at a time through
+  // all cases, so the block's envelope stays in the cache while the case vectors stream past.
+  // Where a case stops lining up, the rest of it within the range is left to the look-up
+  // below, which may add envelopes and so runs alone.
+  struct LeftOver {
+    size_t k, begin, end;
+  };
+  std::vector<LeftOver> leftOver;
+  std::mutex leftOverLock;
   const size_t lined = out.size();
-  constexpr size_t kBlock = 16384;
-  for (size_t begin = 0; begin < lined; begin += kBlock) {
-    const size_t end = std::min(begin + kBlock, lined);
-    for (size_t k = first; k < cases.size(); ++k) {
-      const auto& [c, records] = cases[k];
-      const size_t stop = std::min(end, records->size());
-      const fmResult6Val* data = records->data();
-      for (size_t i = begin; i < stop; ++i) {
-        if (i + 16 < stop) __builtin_prefetch(data + i + 16);
-        const fmResult6Val& r = data[i];
-        if (out[i].number == r.number)
+  tools::ParallelRanges(lined, 65536, [&](size_t rangeBegin, size_t rangeEnd) {
+    constexpr size_t kBlock = 16384;
+    std::vector<size_t> stop(cases.size(), rangeEnd);  // where each case stopped lining up
+    for (size_t begin = rangeBegin; begin < rangeEnd; begin += kBlock) {
+      const size_t end = std::min(begin + kBlock, rangeEnd);
+      for (size_t k = first; k < cases.size(); ++k) {
+        const auto& [c, records] = cases[k];
+        const size_t last = std::min({end, records->size(), stop[k]});
+        const fmResult6Val* data = records->data();
+        for (size_t i = begin; i < last; ++i) {
+          if (i + 16 < last) __builtin_prefetch(data + i + 16);
+          const fmResult6Val& r = data[i];
+          if (out[i].number != r.number) {
+            stop[k] = i;
+            break;
+          }
           Take(out[i], r, c);
-        else
-          lookUpAndTake(r, c);
+        }
       }
     }
+    const std::lock_guard<std::mutex> hold(leftOverLock);
+    for (size_t k = first; k < cases.size(); ++k) {
+      const size_t end = std::min(rangeEnd, cases[k].second->size());
+      if (stop[k] < end) leftOver.push_back({k, stop[k], end});
+    }
+  });
+  for (const LeftOver& part : leftOver) {
+    const auto& [c, records] = cases[part.k];
+    for (size_t i = part.begin; i < part.end; ++i) lookUpAndTake((*records)[i], c);
   }
   for (size_t k = first; k < cases.size(); ++k) {
     const auto& [c, records] = cases[k];

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <map>
 
 #include "dialogs/results/sample_struct.h"
 #include "model/fm_struct.h"
@@ -90,6 +91,46 @@ TEST(DisplacementEnvelope, NotANumberNeverWinsAndRepeatedNodesAreOneRecord) {
   EXPECT_EQ(env[1].max[1], 3.0);
   EXPECT_EQ(env[1].maxCase[1], 0);
   EXPECT_EQ(env[1].minCase[1], 0);
+}
+
+// Large enough to be shared among the cores: records out of line in the middle of one case,
+// a shorter case and a node only the last case has must give what a plain search gives.
+TEST(DisplacementEnvelope, ALargeModelSharedAmongCoresMatchesAPlainSearch) {
+  constexpr int kNodes = 200000;
+  CfmStruct s;
+  s.m_Solution.cases = {fmLoadCase(1, "A"), fmLoadCase(2, "B"), fmLoadCase(3, "C")};
+  s.m_Solution.results.resize(3);
+  for (int c = 0; c < 3; ++c) {
+    auto& d = s.m_Solution.results[static_cast<size_t>(c)].displacements;
+    for (int i = 0; i < kNodes; ++i) d.push_back(Rec(i + 1, std::sin(0.01 * i + c), std::cos(0.02 * i * (c + 1))));
+  }
+  auto& b = s.m_Solution.results[1].displacements;
+  std::swap(b[150000], b[150001]);
+  std::swap(b[70000], b[120000]);
+  s.m_Solution.results[2].displacements.resize(kNodes - 1000);
+  s.m_Solution.results[2].displacements.push_back(Rec(kNodes + 5, 9.0));
+
+  std::vector<fmEnvelopeValue6> env;
+  s.CalcNodalDisplacementEnvelope(env, {true, true, true});
+  ASSERT_EQ(env.size(), static_cast<size_t>(kNodes + 1));
+  std::map<int32_t, fmEnvelopeValue6> expected;
+  for (int c = 0; c < 3; ++c)
+    for (const fmResult6Val& r : s.m_Solution.results[static_cast<size_t>(c)].displacements) {
+      auto [it, added] = expected.try_emplace(r.number);
+      fmEnvelopeValue6& e = it->second;
+      for (int k = 0; k < 2; ++k) {
+        if (added || r.v[k] > e.max[k]) e.max[k] = r.v[k], e.maxCase[k] = c;
+        if (added || r.v[k] < e.min[k]) e.min[k] = r.v[k], e.minCase[k] = c;
+      }
+    }
+  int wrong = 0;
+  for (const fmEnvelopeValue6& e : env) {
+    const fmEnvelopeValue6& x = expected.at(e.number);
+    for (int k = 0; k < 2; ++k)
+      wrong += e.max[k] != x.max[k] || e.maxCase[k] != x.maxCase[k] || e.min[k] != x.min[k] || e.minCase[k] != x.minCase[k];
+  }
+  EXPECT_EQ(wrong, 0);
+  EXPECT_EQ(env.back().number, kNodes + 5);
 }
 
 TEST(SupportReactionEnvelope, UsesTheReactionVectors) {

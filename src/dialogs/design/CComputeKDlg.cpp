@@ -44,19 +44,23 @@ void CComputeKDlg::DoDataExchange(CDataExchange* pDX) {
 }
 
 void CComputeKDlg::ShowResults() {
-  auto shown = [](double k) {
-    return k > 0.0 ? tools::Format("%.2f", k) : res::LoadStringOr(kStrNoRoot, "No root");
+  auto shown = [](double k, bool failed) {
+    return failed ? res::LoadStringOr(kStrNoRoot, "No root") : tools::Format("%.2f", k);
   };
-  SetDlgItemText(kCtlBracedK, shown(m_dBracedK));
-  SetDlgItemText(kCtlUnbracedK, shown(m_dUnbracedK));
+  SetDlgItemText(kCtlBracedK, shown(m_dBracedK, bracedFailed_));
+  SetDlgItemText(kCtlUnbracedK, shown(m_dUnbracedK, unbracedFailed_));
 }
 
 void CComputeKDlg::OnCompute() {
   if (!UpdateData(1)) return;
   const design::KResult braced = design::SolveK(FrameKind::Braced, m_dGA, m_dGB);
   const design::KResult unbraced = design::SolveK(FrameKind::Unbraced, m_dGA, m_dGB);
-  m_dBracedK = braced.k.value_or(0.0);
-  m_dUnbracedK = unbraced.k.value_or(0.0);
+  // A failure leaves its K as it was before any computation, as an error raised in the
+  // solver would have.
+  m_dBracedK = braced.k.value_or(1.0);
+  m_dUnbracedK = unbraced.k.value_or(1.0);
+  bracedFailed_ = !braced.k;
+  unbracedFailed_ = !unbraced.k;
   computedFor_ = std::pair{m_dGA, m_dGB};
   UpdateData(0);
   if (chart_) chart_->Plot(m_dGA, m_dGB, &braced, &unbraced);
@@ -80,6 +84,7 @@ void CComputeKDlg::OnRatioEdited() {
   if (computedFor_) {
     computedFor_.reset();
     m_dBracedK = m_dUnbracedK = 1.0;
+    bracedFailed_ = unbracedFailed_ = false;
     ShowResults();
   }
   if (chart_ && ga && gb && *ga >= design::kGMin && *ga <= design::kGMax && *gb >= design::kGMin &&

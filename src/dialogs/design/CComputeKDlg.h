@@ -14,8 +14,9 @@ class CComputeKDlg : public CDialog {
  public:
   explicit CComputeKDlg(QWidget* pParent = nullptr);
 
-  // 1.0 until computed. A computation that finds no root in the bracket leaves 0.0, which
-  // no column has, so a host never takes a failed K for a result.
+  // 1.0 until computed. A computation that finds no root in its bracket leaves its K at 1.0
+  // (shown as "No root"), so OK refuses a failed braced K and a host never takes a failed K
+  // for a result: a valid braced K lies in 0.51 to 0.99, a valid unbraced K in 1.01 to 20.
   double m_dBracedK = 1.0;
   double m_dUnbracedK = 1.0;
   double m_dGA = 0.47;  // top joint, 0 to 1000
@@ -36,6 +37,7 @@ class CComputeKDlg : public CDialog {
   void OnRatioEdited();
 
   KFactorChart* chart_ = nullptr;
+  bool bracedFailed_ = false, unbracedFailed_ = false;  // the last Compute found no root
   // The ratios the shown results belong to; editing either away from them clears the results.
   std::optional<std::pair<double, double>> computedFor_;
 };

@@ -1,5 +1,7 @@
 #include "dialogs/grid/TSpread.h"
 
+#include <algorithm>
+
 #include <QApplication>
 #include <QClipboard>
 #include <QHeaderView>
@@ -73,9 +75,19 @@ void TSpread::ApplySettings() {
   view_->verticalHeader()->setDefaultSectionSize(rowHeight);
   view_->horizontalHeader()->setFixedHeight(2 * rowHeight);
   view_->verticalHeader()->setVisible(s.showRowHeader);
-  const int charWidth = QFontMetrics(font).averageCharWidth() + 1;
-  for (int col = 1; col <= sheet_.MaxCols(); ++col)
-    view_->setColumnWidth(col - 1, static_cast<int>(sheet_.GetColWidth(col) * charWidth) + 8);
+  const QFontMetrics metrics(font);
+  const int charWidth = metrics.averageCharWidth() + 1;
+  // A column is at least as wide as its heading and the texts of its first rows, so a report
+  // never shows a number cut short; the rest of a million rows are not measured.
+  constexpr int kRowsMeasured = 200;
+  const int measuredRows = std::min(sheet_.MaxRows(), kRowsMeasured);
+  for (int col = 1; col <= sheet_.MaxCols(); ++col) {
+    int width = static_cast<int>(sheet_.GetColWidth(col) * charWidth);
+    for (int row = 0; row <= measuredRows; ++row)
+      if (const std::string& text = sheet_.GetData(col, row); !text.empty())
+        width = std::max(width, metrics.horizontalAdvance(QString::fromStdString(text)));
+    view_->setColumnWidth(col - 1, width + 8);
+  }
   view_->verticalHeader()->setFixedWidth(static_cast<int>(sheet_.GetColWidth(0) * charWidth) + 8);
 }
 

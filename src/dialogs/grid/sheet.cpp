@@ -2,6 +2,7 @@
 
 #include "tools/parse.h"
 #include "tools/labels.h"
+#include "tools/parallel.h"
 
 namespace grid {
 namespace {
@@ -22,10 +23,17 @@ void Sheet::SetMaxCols(int cols) {
 void Sheet::SetMaxRows(int rows) {
   if (rows < 0) rows = 0;
   rows_ = rows;
-  for (Column& c : columns_) {
-    c.cells.resize(static_cast<size_t>(rows) + 1);
-    if (!c.locks.empty()) c.locks.resize(static_cast<size_t>(rows) + 1, 0);
-  }
+  // The cells of a report of a million rows take most of a gigabyte: the columns are set up
+  // on all cores then.
+  constexpr int kRowsWorthSharing = 262144;
+  const size_t columnsPerRange = rows >= kRowsWorthSharing ? 1 : columns_.size();
+  tools::ParallelRanges(columns_.size(), columnsPerRange, [&](size_t begin, size_t end) {
+    for (size_t i = begin; i < end; ++i) {
+      Column& c = columns_[i];
+      c.cells.resize(static_cast<size_t>(rows) + 1);
+      if (!c.locks.empty()) c.locks.resize(static_cast<size_t>(rows) + 1, 0);
+    }
+  });
 }
 
 const std::string& Sheet::GetData(int col, int row) const {

@@ -10,6 +10,7 @@
 #include "model/id_index.h"
 #include "tools/format.h"
 #include "tools/labels.h"
+#include "tools/parallel.h"
 
 namespace results {
 
@@ -312,55 +313,46 @@ void EnvelopeReport(const ReportContext& ctx, const std::vector<fmEnvelopeValue6
   if (envelope.empty()) return;
   const CfmStruct& m = ctx.model;
   const bool selectedOnly = ShowSelected(ctx);
-  const int nodes = selectedOnly ? static_cast<int>(std::count_if(envelope.begin(), envelope.end(),
-                                                                  [&](const fmEnvelopeValue6& e) {
-                                                                    return m.IsNodeSelected(e.number);
-                                                                  }))
-                                 : static_cast<int>(envelope.size());
+  std::vector<const fmEnvelopeValue6*> shown;
+  shown.reserve(envelope.size());
+  for (const fmEnvelopeValue6& e : envelope)
+    if (!selectedOnly || m.IsNodeSelected(e.number)) shown.push_back(&e);
   std::vector<std::string> headers = {"Node Id", "max/min"};
   for (int k = 0; k < 6; ++k) {
     headers.push_back(m.m_Units.Heading(names[k], k < 3 ? first : second));
     headers.push_back("Comb#");
   }
-  SetUpGrid(ctx, 2 * nodes, headers, 6);
+  SetUpGrid(ctx, 2 * static_cast<int>(shown.size()), headers, 6);
 
   const Shown a = ShownAs(m, first), b = ShownAs(m, second);
-  CellWriter out(ctx.sheet);
-  // A block of nodes at a time, one column after the other: each column's cells are written
-  // in order while the block's envelope stays in the cache.
-  constexpr size_t kBlock = 2048;
-  std::vector<const fmEnvelopeValue6*> block;
-  block.reserve(kBlock);
-  int firstRow = 1;
-  auto flush = [&] {
-    const int count = static_cast<int>(block.size());
-    for (int i = 0; i < count; ++i) {
-      out.Id(1, firstRow + 2 * i, block[static_cast<size_t>(i)]->number);
-      out.Text(2, firstRow + 2 * i, "max");
-      out.Text(2, firstRow + 2 * i + 1, "min");
-    }
-    for (int k = 0; k < 6; ++k) {
-      const Shown& shown = k < 3 ? a : b;
+  // Each core fills the rows of its share of the nodes. Within a share, a block of nodes at a
+  // time, one column after the other: each column's cells are written in order while the
+  // block's envelope stays in the cache.
+  tools::ParallelRanges(shown.size(), 32768, [&](size_t rangeBegin, size_t rangeEnd) {
+    CellWriter out(ctx.sheet);
+    constexpr size_t kBlock = 2048;
+    for (size_t begin = rangeBegin; begin < rangeEnd; begin += kBlock) {
+      const int count = static_cast<int>(std::min(kBlock, rangeEnd - begin));
+      const fmEnvelopeValue6* const* block = shown.data() + begin;
+      const int firstRow = 1 + 2 * static_cast<int>(begin);
       for (int i = 0; i < count; ++i) {
-        const fmEnvelopeValue6& e = *block[static_cast<size_t>(i)];
-        out.Value(3 + 2 * k, firstRow + 2 * i, e.max[k], shown);
-        out.Value(3 + 2 * k, firstRow + 2 * i + 1, e.min[k], shown);
+        out.Id(1, firstRow + 2 * i, block[i]->number);
+        out.Text(2, firstRow + 2 * i, "max");
+        out.Text(2, firstRow + 2 * i + 1, "min");
       }
-      for (int i = 0; i < count; ++i) {
-        const fmEnvelopeValue6& e = *block[static_cast<size_t>(i)];
-        out.Id(4 + 2 * k, firstRow + 2 * i, static_cast<int64_t>(e.maxCase[k]) + 1);
-        out.Id(4 + 2 * k, firstRow + 2 * i + 1, static_cast<int64_t>(e.minCase[k]) + 1);
+      for (int k = 0; k < 6; ++k) {
+        const Shown& s = k < 3 ? a : b;
+        for (int i = 0; i < count; ++i) {
+          out.Value(3 + 2 * k, firstRow + 2 * i, block[i]->max[k], s);
+          out.Value(3 + 2 * k, firstRow + 2 * i + 1, block[i]->min[k], s);
+        }
+        for (int i = 0; i < count; ++i) {
+          out.Id(4 + 2 * k, firstRow + 2 * i, static_cast<int64_t>(block[i]->maxCase[k]) + 1);
+          out.Id(4 + 2 * k, firstRow + 2 * i + 1, static_cast<int64_t>(block[i]->minCase[k]) + 1);
+        }
       }
     }
-    firstRow += 2 * count;
-    block.clear();
-  };
-  for (const fmEnvelopeValue6& e : envelope) {
-    if (selectedOnly && !m.IsNodeSelected(e.number)) continue;
-    block.push_back(&e);
-    if (block.size() == kBlock) flush();
-  }
-  flush();
+  });
 }
 
 }  // namespace

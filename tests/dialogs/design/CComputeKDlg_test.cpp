@@ -89,11 +89,15 @@ TEST_F(ComputeKTest, ComputesBothFactorsAndMarksTheRoots) {
     const std::vector<std::string> expected = *c.message ? std::vector<std::string>{c.message}
                                                          : std::vector<std::string>{};
     EXPECT_EQ(Messages(), expected);
-    // A failed K is 0, never NaN and never a stale result.
-    EXPECT_EQ(dlg.m_dBracedK == 0.0, std::string(c.braced) == "No root");
-    EXPECT_EQ(dlg.m_dUnbracedK == 0.0, std::string(c.unbraced) == "No root");
+    // A failed K is back at 1.0, never NaN and never a stale result.
+    if (std::string(c.braced) == "No root") {
+      EXPECT_EQ(dlg.m_dBracedK, 1.0);
+    }
+    if (std::string(c.unbraced) == "No root") {
+      EXPECT_EQ(dlg.m_dUnbracedK, 1.0);
+    }
     const auto marker = dlg.Chart()->RootMarker(FrameKind::Unbraced);
-    EXPECT_EQ(marker.has_value(), dlg.m_dUnbracedK > 0.0);
+    EXPECT_EQ(marker.has_value(), std::string(c.unbraced) != "No root");
     if (marker) {
       EXPECT_DOUBLE_EQ(marker->x(), dlg.m_dUnbracedK);
     }
@@ -160,17 +164,28 @@ TEST_F(ComputeKTest, BadRatiosAreRefusedAndChangeNothing) {
   }
 }
 
-TEST_F(ComputeKTest, FailedResultsMayBeTakenBackAsZero) {
+TEST_F(ComputeKTest, AFailedBracedKCannotBeTakenBack) {
   Open();
+  ASSERT_TRUE(dlg.PressButton(kCtlCompute));  // a good result first: the failure must replace it
   Type(kCtlGA, "100");
   Type(kCtlGB, "100");
   ASSERT_TRUE(dlg.PressButton(kCtlCompute));
   prompter.Clear();
   PressEnter();
-  EXPECT_EQ(dlg.ModalResult(), IDOK);
-  EXPECT_EQ(dlg.m_dBracedK, 0.0);
+  EXPECT_EQ(Messages(), std::vector<std::string>{"Invalid Ks"});
+  EXPECT_EQ(dlg.ModalResult(), 0);
+  EXPECT_EQ(dlg.m_dBracedK, 1.0);
   EXPECT_NEAR(dlg.m_dUnbracedK, 9.11, 0.005);
-  EXPECT_EQ(dlg.m_dGA, 100.0);
+
+  // Back to ratios with roots: the dialog closes with both.
+  Type(kCtlGA, "1");
+  Type(kCtlGB, "1");
+  ASSERT_TRUE(dlg.PressButton(kCtlCompute));
+  prompter.Clear();
+  PressEnter();
+  EXPECT_EQ(dlg.ModalResult(), IDOK);
+  EXPECT_NEAR(dlg.m_dBracedK, 0.7744, 1e-3);
+  EXPECT_NEAR(dlg.m_dUnbracedK, 1.3164, 1e-3);
 }
 
 TEST_F(ComputeKTest, CloseCancels) {
