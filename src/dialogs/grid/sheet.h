@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "tools/large_block_allocator.h"
+
 // The cells of one spreadsheet grid, without any widget: every table of the program is
 // filled into a Sheet, shown by TSpread, and exported, printed or read back from it.
 //
@@ -110,7 +112,7 @@ class Sheet {
 
  private:
   struct Column {
-    std::vector<std::string> cells;  // index = row, 0 = heading
+    std::vector<std::string, tools::LargeBlockAllocator<std::string>> cells;  // index = row, 0 = heading
     std::vector<uint8_t> locks;      // per row; empty until a cell lock is set
     bool locked = false;
     CellType type;
