@@ -236,6 +236,8 @@ TEST(HostProgram, ShowRendersADialogAndRefusesWhatItCannot) {
       {{"--frobnicate"}, 2, "norvane-host: unknown option --frobnicate"},
       {{"--model", dir + "/none.json", "--show", "CUnitsDlg", "--screenshot", png}, 1,
        "norvane-host: Cannot open model \"" + dir + "/none.json\""},
+      {{"--show", "CComputeKDlg", "--press", "Solve", "--screenshot", png}, 1,
+       "norvane-host: CComputeKDlg has no button \"Solve\""},
   };
   for (const Case& c : cases) {
     r = testsupport::RunProgram(NORVANE_HOST_PATH, c.args);

@@ -5,6 +5,7 @@
 #include <QImage>
 #include <QPixmap>
 #include <QPrinter>
+#include <QPushButton>
 #include <iostream>
 
 #include "apps/host/DialogBindings.h"
@@ -77,6 +78,14 @@ class ReportingPrompter : public ScriptedPrompter {
   }
 };
 
+// The enabled push button whose caption, without its mnemonic marks, is the text given.
+QPushButton* FindButton(QWidget& dialog, const std::string& caption) {
+  for (QPushButton* button : dialog.findChildren<QPushButton*>()) {
+    if (button->isEnabled() && button->text().remove(QLatin1Char('&')).toStdString() == caption) return button;
+  }
+  return nullptr;
+}
+
 }  // namespace
 
 bool RenderDialogToPng(const std::string& className, HostModel& model, const std::string& pngPath,
@@ -93,6 +102,14 @@ bool RenderDialogToPng(const std::string& className, HostModel& model, const std
     progress->SendMessage(CProgressDlg::WM_PROGRESS_UPDATE, 42);
   } else {
     dlg->InitDialogForTest();
+  }
+  if (const auto press = model.showOptions.find("press"); press != model.showOptions.end()) {
+    QPushButton* button = FindButton(*dlg, press->second);
+    if (!button) {
+      error = className + " has no button \"" + press->second + "\"";
+      return false;
+    }
+    button->click();
   }
   return RenderWidgetToPng(*dlg, pngPath, error);
 }

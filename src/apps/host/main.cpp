@@ -19,6 +19,7 @@ const char* kUsage =
     "usage: norvane-host [MODEL] [--screenshot FILE]\n"
     "       norvane-host --show CLASS [--model FILE] [--screenshot FILE] [--print-to-pdf FILE]\n"
     "       norvane-host --show CResultsDlg --kind N [--case N] [--query ID] ...\n"
+    "       norvane-host --show CLASS --press BUTTON --screenshot FILE\n"
     "       norvane-host --list\n"
     "\n"
     "Without --show the main window opens on MODEL (the bundled example by default).\n"
@@ -26,6 +27,7 @@ const char* kUsage =
     "after its set-up and exits; with --print-to-pdf it prints the dialog's whole table to a\n"
     "PDF file, as \"Print...\" lays it out, and exits. --kind, --case and --query are handed to\n"
     "the dialog's binding (the results dialog: report kind, 1-based case or mode, object number).\n"
+    "--press clicks the button of that caption (e.g. Compute) before the screenshot.\n"
     "--list prints the dialog classes by family.\n";
 
 struct Options {
@@ -60,6 +62,8 @@ bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string&
         error = "--list takes no other option";
         return false;
       }
+    } else if (a == "--press") {
+      if (!value(o.showOptions["press"])) return false;
     } else if (a == "--kind" || a == "--case" || a == "--query") {
       std::string number;
       if (!value(number)) return false;
