@@ -1,9 +1,10 @@
+#include "dialogs/design/CComputeKDlg.h"
+
 #include <QApplication>
 #include <QChart>
 #include <QKeyEvent>
 #include <QLineEdit>
 
-#include "dialogs/design/CComputeKDlg.h"
 #include "dialogs/design/KFactorChart.h"
 #include "resources/design_ids.h"
 #include "support/DialogTest.h"
@@ -36,8 +37,9 @@ class ComputeKTest : public DialogTest {
 };
 
 TEST_F(ComputeKTest, ComputesBothFactorsAndMarksTheRoots) {
-  const char* both = "Braced K: Root must be bracketed for bisection in rtbis\n"
-                     "Unbraced K: Root must be bracketed for bisection in rtbis";
+  const char* both =
+      "Braced K: Root must be bracketed for bisection in rtbis\n"
+      "Unbraced K: Root must be bracketed for bisection in rtbis";
   const struct {
     const char* ga;
     const char* gb;
@@ -58,18 +60,12 @@ TEST_F(ComputeKTest, ComputesBothFactorsAndMarksTheRoots) {
     EXPECT_EQ(Text(kCtlBracedK), c.braced);
     EXPECT_EQ(Text(kCtlUnbracedK), c.unbraced);
     EXPECT_EQ(Messages(), *c.message ? std::vector<std::string>{c.message} : std::vector<std::string>{});
-    // A failed K is back at 1.0, never NaN and never a stale result.
-    if (std::string(c.braced) == "No root") {
-      EXPECT_EQ(dlg.m_dBracedK, 1.0);
-    }
-    if (std::string(c.unbraced) == "No root") {
-      EXPECT_EQ(dlg.m_dUnbracedK, 1.0);
-    }
+    // A failed K is back at 1.0 (no root found is ever exactly 1), never NaN and never a stale result.
+    EXPECT_EQ(std::string(c.braced) == "No root", dlg.m_dBracedK == 1.0);
+    EXPECT_EQ(std::string(c.unbraced) == "No root", dlg.m_dUnbracedK == 1.0);
     const auto marker = dlg.Chart()->RootMarker(FrameKind::Unbraced);
     ASSERT_EQ(marker.has_value(), std::string(c.unbraced) != "No root");
-    if (marker) {
-      EXPECT_DOUBLE_EQ(marker->x(), dlg.m_dUnbracedK);
-    }
+    EXPECT_DOUBLE_EQ(marker ? marker->x() : 1.0, dlg.m_dUnbracedK);
   }
   EXPECT_EQ(dlg.Chart()->Chart(FrameKind::Unbraced)->title().toStdString(),
             "Unbraced frame: f(K) is not defined when GA + GB = 0");
@@ -100,9 +96,7 @@ TEST_F(ComputeKTest, EnterNeedsComputedKsAndAFailedBracedKCannotBeTakenBack) {
 
 TEST_F(ComputeKTest, EditingClearsTheResultsAndBadRatiosAreRefused) {
   const struct {
-    const char* ga;
-    const char* gb;
-    const char* message;
+    const char *ga, *gb, *message;
   } cases[] = {
       {"1000.5", "1", "Please enter a number between 0 and 1000."},
       {"-0.1", "1", "Please enter a number between 0 and 1000."},

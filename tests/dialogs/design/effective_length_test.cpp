@@ -1,8 +1,9 @@
+#include "dialogs/design/effective_length.h"
+
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "dialogs/design/effective_length.h"
 #include "tools/fm_exception.h"
 #include "tools/format.h"
 
@@ -77,8 +78,8 @@ TEST(Rtbis, FollowsTheHalvingRules) {
     double lower, upper, accuracy;
     const char* error;
   } failures[] = {
-      {0.5, 1.0, 1e-6, design::kNotBracketed},     // no sign change
-      {0.3, 1.0, 1e-6, design::kNotBracketed},     // f is 0 at an end: f1 * f2 = 0
+      {0.5, 1.0, 1e-6, design::kNotBracketed},        // no sign change
+      {0.3, 1.0, 1e-6, design::kNotBracketed},        // f is 0 at an end: f1 * f2 = 0
       {0.0, 1.0, 1e-30, design::kTooManyBisections},  // 40 halvings cannot reach 1e-30
   };
   for (const auto& c : failures) {

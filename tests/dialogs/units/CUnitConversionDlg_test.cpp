@@ -1,7 +1,8 @@
+#include "dialogs/units/CUnitConversionDlg.h"
+
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "dialogs/units/CUnitConversionDlg.h"
 #include "resources/units_ids.h"
 #include "support/DialogTest.h"
 #include "support/comma_locale.h"
@@ -91,9 +92,9 @@ TEST_F(UnitConversionTest, NonNumericValueShowsTheNumberMessageAndKeepsTheResult
     bool message;
   };
   // Texts on the way to a number wait quietly; anything else is refused once.
-  const Case cases[] = {{"", false},    {"-", false},   {"-.", false}, {"2e-", false}, {"-5E+", false},
-                        {"abc", true},  {"1,5", true},  {"12 ft", true}, {"1e400", true}, {"--", true},
-                        {"2-", true},   {"-e", true},   {"2ee", true}};
+  const Case cases[] = {{"", false},   {"-", false},  {"-.", false},   {"2e-", false},  {"-5E+", false},
+                        {"abc", true}, {"1,5", true}, {"12 ft", true}, {"1e400", true}, {"--", true},
+                        {"2-", true},  {"-e", true},  {"2ee", true}};
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string("\"") + c.typed + "\"");
     prompter.Clear();
