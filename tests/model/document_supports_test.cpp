@@ -6,8 +6,8 @@ using namespace doc_test;
 
 namespace {
 
-const char* kNodes =
-    R"(, "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0}, {"id": 4, "x": 1, "y": 0, "z": 0}, {"id": 9, "x": 2, "y": 0, "z": 0}])";
+const char* kNodes = R"(, "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0}, {"id": 4, "x": 1, "y": 0, "z": 0},
+                                   {"id": 9, "x": 2, "y": 0, "z": 0}])";
 
 }  // namespace
 

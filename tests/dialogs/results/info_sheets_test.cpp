@@ -127,7 +127,8 @@ TEST(NodeInfo, SpringsLoadsGroupedByCaseAndMasses) {
 TEST(MemberInfo, PropertiesAxesAndLoadsOfABeam) {
   Lines lines;
   ASSERT_TRUE(GetBeamInfo(Described(), lines, 7));
-  EXPECT_EQ(Lines(lines.begin(), lines.begin() + 3), (Lines{"**Length = 20.000 (ft)", "**NODES", "  Start Node = 3;  End Node = 4"}));
+  EXPECT_EQ(Lines(lines.begin(), lines.begin() + 3),
+            (Lines{"**Length = 20.000 (ft)", "**NODES", "  Start Node = 3;  End Node = 4"}));
   const Lines properties = Section(lines, "**PROPERTIES");
   // Along X: local y up and local z along Z, then turned 90 degrees about x.
   EXPECT_EQ(Lines(properties.begin(), properties.begin() + 7),
@@ -157,7 +158,8 @@ TEST(MemberInfo, AColumnsAxesAndASpringsReactions) {
   EXPECT_EQ(Lines(lines.begin() + 7, lines.begin() + 10),
             (Lines{"  Local x vector (0.0000, 1.0000, 0.0000)", "  Local y vector (-1.0000, 0.0000, 0.0000)",
                    "  Local z vector (0.0000, 0.0000, 1.0000)"}));
-  EXPECT_EQ(Section(lines, "**LINE SPRING"), (Lines{"  Flag: 111", "  Kx = 1.000;  Ky = 2.000;  Kz = 3.000 (kip/ft^2)"}));
+  EXPECT_EQ(Section(lines, "**LINE SPRING"),
+            (Lines{"  Flag: 111", "  Kx = 1.000;  Ky = 2.000;  Kz = 3.000 (kip/ft^2)"}));
   EXPECT_EQ(Section(lines, "**LINE SPRING REACTIONS"),
             (Lines{"*Load Combination [Dead]", "error finding member 7", "*Load Combination [Wind X]",
                    "  Rx = 0.500;  Ry = 0.000;  Rz = 0.000 (kip)", "*Load Combination [D+W]", "error finding member 7"}));
