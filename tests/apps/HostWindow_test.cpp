@@ -92,18 +92,6 @@ TEST_F(HostWindowTest, BadFilesAreExplainedAndTheOpenModelIsKept) {
   }
 }
 
-TEST_F(HostWindowTest, OkMarksTheModelModifiedAndCancelDoesNot) {
-  ChangeLengthToMetres(IDCANCEL);
-  EXPECT_FALSE(window.model().modified);
-  EXPECT_EQ(window.model().doc.units.Label(fmUnit::Length), "ft");
-
-  ChangeLengthToMetres(IDOK);
-  EXPECT_TRUE(window.model().modified);
-  EXPECT_EQ(window.model().doc.units.Label(fmUnit::Length), "m");
-  EXPECT_DOUBLE_EQ(window.model().doc.nodes[1].x, 20 * 0.3048);
-  EXPECT_TRUE(window.windowTitle().startsWith("building.json*")) << window.windowTitle().toStdString();
-}
-
 TEST_F(HostWindowTest, SavedDefaultUnitsStartANewModel) {
   EXPECT_TRUE(window.NewModel());
   EXPECT_EQ(window.model().doc.units, fmUnit()) << "English until defaults are saved";
@@ -121,15 +109,20 @@ TEST_F(HostWindowTest, SavedDefaultUnitsStartANewModel) {
   metric.SetMetric();
   EXPECT_EQ(window.model().doc.units, metric);
   EXPECT_FALSE(window.model().modified);
-
 }
 
-TEST_F(HostWindowTest, QuittingAModifiedModelAsksToSave) {
+TEST_F(HostWindowTest, OkMarksTheModelModifiedAndQuittingThenAsksToSave) {
+  const std::string original = tools::ReadWholeFile(modelPath);
+  ChangeLengthToMetres(IDCANCEL);
+  EXPECT_FALSE(window.model().modified);
+  EXPECT_EQ(window.model().doc.units.Label(fmUnit::Length), "ft");
   EXPECT_TRUE(window.close()) << "an unchanged model closes without a question";
   EXPECT_TRUE(Messages().empty());
 
-  const std::string original = tools::ReadWholeFile(modelPath);
   ChangeLengthToMetres(IDOK);
+  EXPECT_TRUE(window.model().modified);
+  EXPECT_DOUBLE_EQ(window.model().doc.nodes[1].x, 20 * 0.3048);
+  EXPECT_TRUE(window.windowTitle().startsWith("building.json*")) << window.windowTitle().toStdString();
   prompter.QueueCancel();  // Cancel: stay
   EXPECT_FALSE(window.close());
   prompter.QueueAnswer(false);  // No: closed, the file as it was
@@ -166,7 +159,6 @@ TEST_F(HostWindowTest, SaveAsWritesTheChosenFileAndAFailureKeepsTheOldName) {
   ASSERT_EQ(Messages().size(), 1u);
   EXPECT_EQ(Messages()[0], "Cannot write \"" + nowhere + "\": the folder \"" + dir / "missing-folder" +
                               "\" does not exist");
-
 }
 
 TEST(HostProgram, ShowRendersADialogAndRefusesWhatItCannot) {
