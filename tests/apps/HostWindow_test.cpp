@@ -1,14 +1,8 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QImage>
-#include <QMenuBar>
-#include <QSettings>
 
-#include <cerrno>
-#include <cstdlib>
-#include <cstring>
 #include <filesystem>
-#include <map>
 
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostWindow.h"
@@ -98,18 +92,6 @@ TEST_F(HostWindowTest, BadFilesAreExplainedAndTheOpenModelIsKept) {
   }
 }
 
-TEST_F(HostWindowTest, OkMarksTheModelModifiedAndCancelDoesNot) {
-  ChangeLengthToMetres(IDCANCEL);
-  EXPECT_FALSE(window.model().modified);
-  EXPECT_EQ(window.model().doc.units.Label(fmUnit::Length), "ft");
-
-  ChangeLengthToMetres(IDOK);
-  EXPECT_TRUE(window.model().modified);
-  EXPECT_EQ(window.model().doc.units.Label(fmUnit::Length), "m");
-  EXPECT_DOUBLE_EQ(window.model().doc.nodes[1].x, 20 * 0.3048);
-  EXPECT_TRUE(window.windowTitle().startsWith("building.json*")) << window.windowTitle().toStdString();
-}
-
 TEST_F(HostWindowTest, SavedDefaultUnitsStartANewModel) {
   EXPECT_TRUE(window.NewModel());
   EXPECT_EQ(window.model().doc.units, fmUnit()) << "English until defaults are saved";
@@ -127,33 +109,29 @@ TEST_F(HostWindowTest, SavedDefaultUnitsStartANewModel) {
   metric.SetMetric();
   EXPECT_EQ(window.model().doc.units, metric);
   EXPECT_FALSE(window.model().modified);
-
-  {
-    QSettings settings;  // settings spoiled by hand fall back to English
-    settings.setValue("Units/Unit", "1,2,3");
-  }
-  EXPECT_TRUE(window.NewModel());
-  EXPECT_EQ(window.model().doc.units.unit, fmUnit().unit);
 }
 
-TEST_F(HostWindowTest, DialogsWithoutModelDataLeaveItUnmodified) {
-  auto about = CreateBoundDialog("CAboutDlg", window.model(), &window);
-  ASSERT_NE(about, nullptr);
-  about->InitDialogForTest();
-  ASSERT_TRUE(about->PressButton(IDOK));
-  EXPECT_FALSE(TakeBackDialogResult("CAboutDlg", *about, IDOK, window.model()));
+TEST_F(HostWindowTest, OkMarksTheModelModifiedAndQuittingThenAsksToSave) {
+  const std::string original = tools::ReadWholeFile(modelPath);
+  ChangeLengthToMetres(IDCANCEL);
   EXPECT_FALSE(window.model().modified);
-  EXPECT_EQ(CreateBoundDialog("CNoSuchDlg", window.model(), &window), nullptr);
-}
+  EXPECT_EQ(window.model().doc.units.Label(fmUnit::Length), "ft");
+  EXPECT_TRUE(window.close()) << "an unchanged model closes without a question";
+  EXPECT_TRUE(Messages().empty());
 
-TEST_F(HostWindowTest, QuittingAModifiedModelAsks) {
   ChangeLengthToMetres(IDOK);
-
+  EXPECT_TRUE(window.model().modified);
+  EXPECT_DOUBLE_EQ(window.model().doc.nodes[1].x, 20 * 0.3048);
+  EXPECT_TRUE(window.windowTitle().startsWith("building.json*")) << window.windowTitle().toStdString();
   prompter.QueueCancel();  // Cancel: stay
   EXPECT_FALSE(window.close());
-  EXPECT_EQ(Messages(), std::vector<std::string>{kSaveQuestion});
+  prompter.QueueAnswer(false);  // No: closed, the file as it was
+  EXPECT_TRUE(window.close());
+  EXPECT_EQ(tools::ReadWholeFile(modelPath), original);
+  EXPECT_EQ(Messages(), std::vector<std::string>(2, kSaveQuestion));
 
   prompter.Clear();
+  window.model().modified = true;
   prompter.QueueAnswer(true);  // Yes: saved in place, then closed
   EXPECT_TRUE(window.close());
   EXPECT_EQ(Messages(), std::vector<std::string>{kSaveQuestion});
@@ -161,20 +139,6 @@ TEST_F(HostWindowTest, QuittingAModifiedModelAsks) {
   const model::ModelDocument reread = model::LoadModelDocument(modelPath);
   EXPECT_EQ(reread.units.Label(fmUnit::Length), "m");
   EXPECT_DOUBLE_EQ(reread.nodes[1].x, 20 * 0.3048);
-}
-
-TEST_F(HostWindowTest, QuittingWithoutSavingLeavesTheFile) {
-  const std::string original = tools::ReadWholeFile(modelPath);
-  ChangeLengthToMetres(IDOK);
-  prompter.QueueAnswer(false);
-  EXPECT_TRUE(window.close());
-  EXPECT_EQ(Messages(), std::vector<std::string>{kSaveQuestion});
-  EXPECT_EQ(tools::ReadWholeFile(modelPath), original);
-}
-
-TEST_F(HostWindowTest, AnUnchangedModelClosesWithoutAQuestion) {
-  EXPECT_TRUE(window.close());
-  EXPECT_TRUE(Messages().empty());
 }
 
 TEST_F(HostWindowTest, SaveAsWritesTheChosenFileAndAFailureKeepsTheOldName) {
@@ -195,24 +159,6 @@ TEST_F(HostWindowTest, SaveAsWritesTheChosenFileAndAFailureKeepsTheOldName) {
   ASSERT_EQ(Messages().size(), 1u);
   EXPECT_EQ(Messages()[0], "Cannot write \"" + nowhere + "\": the folder \"" + dir / "missing-folder" +
                               "\" does not exist");
-
-  prompter.Clear();
-  prompter.QueuePath("");  // the user cancels the file dialog
-  EXPECT_FALSE(window.SaveModelAs());
-  EXPECT_EQ(window.model().path, copy);
-}
-
-TEST_F(HostWindowTest, MenusListTheDialogsByFamily) {
-  std::map<std::string, std::vector<std::string>> menus;
-  for (QAction* top : window.menuBar()->actions()) {
-    if (top->text() != "&Dialogs") continue;
-    for (QAction* family : top->menu()->actions())
-      for (QAction* entry : family->menu()->actions())
-        menus[family->text().toStdString()].push_back(entry->text().toStdString());
-  }
-  EXPECT_EQ(menus["Library frame"],
-            (std::vector<std::string>{"CAboutDlg", "CPrivateLabelAboutDlg", "CProgressDlg", "CPreferencesDlg"}));
-  EXPECT_EQ(menus["Units"], (std::vector<std::string>{"CUnitsDlg", "CUnitConversionDlg"}));
 }
 
 TEST(HostProgram, ShowRendersADialogAndRefusesWhatItCannot) {

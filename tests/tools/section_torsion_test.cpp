@@ -7,23 +7,14 @@
 TEST(RectangleTorsion, AgreesWithTheClassicBetaTableWithinOnePercent) {
   const struct {
     double ratio, beta;
-  } table[] = {{1.0, 0.141}, {1.2, 0.166}, {1.5, 0.196}, {2.0, 0.229}, {2.5, 0.249}, {3.0, 0.263},
-               {4.0, 0.281}, {5.0, 0.291}, {6.0, 0.299}, {8.0, 0.307}, {10.0, 0.312}};
+  } table[] = {{1.0, 0.141}, {1.5, 0.196}, {2.0, 0.229}, {3.0, 0.263}, {5.0, 0.291}, {10.0, 0.312}};
   for (const auto& row : table) {
     const double t = 2.0, a = row.ratio * t;
     const double expected = row.beta * a * t * t * t;
     EXPECT_NEAR(tools::calc_rect_J(a, t), expected, 0.01 * expected) << "a/t = " << row.ratio;
     EXPECT_DOUBLE_EQ(tools::calc_rect_J(t, a), tools::calc_rect_J(a, t)) << "either order of the sides";
   }
-}
-
-TEST(RectangleTorsion, ThinStripTendsToOneThirdBT3) {
-  const double b = 1000, t = 1;
-  EXPECT_NEAR(tools::calc_rect_J(b, t) / (b * t * t * t / 3), 1.0, 1e-3);
-  EXPECT_GT(tools::calc_rect_J(10, 1), tools::calc_rect_J(5, 1));
-}
-
-TEST(RectangleTorsion, NonPositiveSideGivesZero) {
+  EXPECT_NEAR(tools::calc_rect_J(1000, 1) / (1000.0 / 3), 1.0, 1e-3) << "a thin strip tends to a t^3 / 3";
   EXPECT_EQ(tools::calc_rect_J(0, 5), 0);
   EXPECT_EQ(tools::calc_rect_J(-2, 0.3), 0);
 }

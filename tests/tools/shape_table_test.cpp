@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
+#include <tuple>
 #include <numbers>
 
 #include "support/TempDir.h"
@@ -49,36 +50,11 @@ const std::string kGoodRows =
 
 }  // namespace
 
-TEST(ShapeColumns, NamedValueIndicesMatchThePublishedLayout) {
-  const std::pair<int, const char*> named[] = {
-      {tools::aisc::W, "W"},       {tools::aisc::A, "A"},       {tools::aisc::d, "d"},       {tools::aisc::Ht, "Ht"},
-      {tools::aisc::h, "h"},       {tools::aisc::OD, "OD"},     {tools::aisc::bf, "bf"},     {tools::aisc::B, "B"},
-      {tools::aisc::b, "b"},       {tools::aisc::tw, "tw"},     {tools::aisc::tf, "tf"},     {tools::aisc::t, "t"},
-      {tools::aisc::tnom, "tnom"}, {tools::aisc::tdes, "tdes"}, {tools::aisc::kdes, "kdes"}, {tools::aisc::Ix, "Ix"},
-      {tools::aisc::Zx, "Zx"},     {tools::aisc::Sx, "Sx"},     {tools::aisc::rx, "rx"},     {tools::aisc::Iy, "Iy"},
-      {tools::aisc::Zy, "Zy"},     {tools::aisc::Sy, "Sy"},     {tools::aisc::ry, "ry"},     {tools::aisc::J, "J"},
-      {tools::aisc::Cw, "Cw"}};
-  for (const auto& [index, name] : named) EXPECT_EQ(tools::AiscValueIndex(name), index) << name;
-  EXPECT_EQ(tools::AiscValueIndex("AISC_Manual_Label"), -1);
-  EXPECT_EQ(std::string(tools::AiscColumnNames().back()), "WGo");
-}
-
 TEST(BundledShapes, CommittedFilesAreWhatTheBuilderMakes) {
   const tools::BundledTables fresh = tools::BuildBundledTables(kDataDir);
   EXPECT_TRUE(Read(kDataDir + "/aisc14u.idx") == fresh.aiscIndex) << "run: norvane-cli shapes bundle data";
   EXPECT_TRUE(Read(kDataDir + "/aisc14u.tbl") == fresh.aiscTable) << "run: norvane-cli shapes bundle data";
   EXPECT_TRUE(Read(kDataDir + "/nds.tbl") == fresh.nds) << "run: norvane-cli shapes bundle data";
-}
-
-TEST(BundledShapes, HoldTheCommonTypes) {
-  const auto lib = tools::AiscLibrary::LoadFrom(kDataDir);
-  for (const char* type : {"W", "HSS", "PIPE", "C", "MC", "L", "WT", "HP", "S"}) {
-    size_t n = 0;
-    for (const auto& s : lib.shapes()) n += s.type == type;
-    EXPECT_GT(n, 10u) << type;
-  }
-  for (const char* label : {"W14X90", "HSS6X6X1/2", "HSS6.625X0.500", "Pipe4STD", "C10X30", "L4X4X1/2"})
-    EXPECT_GE(lib.Find(label), 0) << label;
 }
 
 // Every W shape: its area and Ix agree with its flanges, web and four root fillets
@@ -106,23 +82,12 @@ TEST(BundledShapes, EveryWShapeIsConsistentWithItsDimensions) {
 
 TEST(BundledShapes, LumberHasDressedSizesAndTheirProperties) {
   const auto table = tools::ParseNdsTable(Read(kDataDir + "/nds.tbl"), "nds.tbl");
-  const struct {
-    const char* label;
-    double b, d;
-  } sizes[] = {{"1x4", 0.75, 3.5}, {"2x4", 1.5, 3.5}, {"2x6", 1.5, 5.5},  {"2x8", 1.5, 7.25}, {"2x12", 1.5, 11.25},
-               {"4x4", 3.5, 3.5},  {"6x6", 5.5, 5.5}, {"6x10", 5.5, 9.5}, {"8x8", 7.5, 7.5}};
-  for (const auto& size : sizes) {
-    const auto it = std::find_if(table.begin(), table.end(), [&](const auto& s) { return s.label == size.label; });
-    ASSERT_NE(it, table.end()) << size.label;
-    EXPECT_DOUBLE_EQ(it->b, size.b) << size.label;
-    EXPECT_DOUBLE_EQ(it->d, size.d) << size.label;
-  }
-  const auto& s = table[static_cast<size_t>(
-      std::find_if(table.begin(), table.end(), [](const auto& x) { return x.label == "2x4"; }) - table.begin())];
-  EXPECT_DOUBLE_EQ(s.A, 5.25);
-  EXPECT_NEAR(s.Sx, 3.0625, 1e-12);
-  EXPECT_NEAR(s.Ix, 5.359375, 1e-12);
-  EXPECT_NEAR(s.Iy, 0.984375, 1e-12);
+  const auto s = std::find_if(table.begin(), table.end(), [&](const auto& x) { return x.label == "2x4"; });
+  ASSERT_NE(s, table.end());
+  EXPECT_EQ(std::tuple(s->b, s->d, s->A), std::tuple(1.5, 3.5, 5.25));
+  EXPECT_NEAR(s->Sx, 3.0625, 1e-12);
+  EXPECT_NEAR(s->Ix, 5.359375, 1e-12);
+  EXPECT_NEAR(s->Iy, 0.984375, 1e-12);
 }
 
 TEST_F(ShapeLibraryTest, LooksUpShapesWithoutRegardToCase) {
@@ -132,7 +97,6 @@ TEST_F(ShapeLibraryTest, LooksUpShapesWithoutRegardToCase) {
   ASSERT_GE(i, 0);
   EXPECT_EQ(index[static_cast<size_t>(i)].label, "W14X90");
   EXPECT_LT(tools::get_shape("W14X91"), 0);
-  EXPECT_LT(tools::get_shape(""), 0);
   EXPECT_GE(tools::get_nds_shape("2X4"), 0);
   EXPECT_LT(tools::get_nds_shape("2x5x7"), 0);
 }
@@ -162,10 +126,7 @@ TEST_F(ShapeLibraryTest, TransformsShapesIntoSections) {
   fmSect wood;
   tools::transform_nds_to_norvane_section(wood, (*tools::CurrentNdsTable())[size_t(tools::get_nds_shape("2x4"))]);
   EXPECT_EQ(wood.label, "2x4");
-  EXPECT_DOUBLE_EQ(wood.A, 5.25);
   EXPECT_DOUBLE_EQ(wood.Ay, 5.25 / 1.2);
-  EXPECT_DOUBLE_EQ(wood.b, 1.5);
-  EXPECT_DOUBLE_EQ(wood.d, 3.5);
   tools::ScaleSectionFromInches(wood, 12);  // to feet
   EXPECT_DOUBLE_EQ(wood.A, 5.25 / 144);
   EXPECT_DOUBLE_EQ(wood.d, 3.5 / 12);
@@ -201,6 +162,8 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
     const char* name;
     std::string text;
     const char* message;
+    size_t size = 0;  // the file grown to this size, unread
+    const char* verb = "import";
   } cases[] = {
       {"missing column", noIx, "line 1: the header lacks the column(s) Ix."},
       {"text for a number", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,5x3.8,2.18,0.0547,\n",
@@ -208,7 +171,6 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
       {"duplicate label", kHeader + kGoodRows + "W8x31,W8x31,W,F,31,9.13,8,8,0.285,0.435,0.829,110,37.1,0.536,\n",
        "line 4, column 2 (AISC_Manual_Label): the label W8x31 is already used on line 3."},
       {"empty file", "", "the file is empty."},
-      {"blank lines only", "\n \r\n", "the file is empty."},
       {"binary file", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16),
        "this is not a text file (it holds binary data)."},
       {"not UTF-8", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,caf\xE9\n",
@@ -218,39 +180,23 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
        "line 2, column 1: a quoted field is not closed."},
       {"no area", kHeader + "W10X12,W10X12,W,F,12,,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,\n",
        "line 2, column 6 (A): the shape W10X12 needs a positive value."},
-      {"header only", kHeader, "the file names its columns but holds no shapes."},
+      {"100 MB", kHeader, "the file is too large (104857600 bytes)", size_t(100) << 20, "read"},
   };
   for (const auto& c : cases) {
     const std::string path = WriteCsv("bad.csv", c.text);
+    if (c.size) std::filesystem::resize_file(path, c.size);
     try {
       tools::ascii_binary(path);
       ADD_FAILURE() << c.name << " was accepted";
     } catch (const fmException& e) {
       const std::string what = e.what();
-      EXPECT_EQ(what.rfind("Cannot import \"" + path + "\": ", 0), 0u) << c.name << ": " << what;
+      EXPECT_EQ(what.rfind("Cannot " + std::string(c.verb) + " \"" + path + "\": ", 0), 0u) << c.name << ": " << what;
       EXPECT_NE(what.find(c.message), std::string::npos) << c.name << ": " << what;
     }
     EXPECT_TRUE(Read(UserFile("aisc14u.idx")) == idx) << c.name;
     EXPECT_TRUE(Read(UserFile("aisc14u.tbl")) == tbl) << c.name;
     EXPECT_FALSE(Exists(UserFile("aisc14u.tbl.new"))) << c.name;
   }
-}
-
-TEST_F(ShapeLibraryTest, AHundredMegabyteFileIsRefusedUnread) {
-  const std::string path = files / "huge.csv";
-  {
-    std::ofstream f(path, std::ios::binary);
-    f << kHeader;
-  }
-  std::filesystem::resize_file(path, size_t(100) << 20);
-  try {
-    tools::ascii_binary(path);
-    ADD_FAILURE() << "a 100 MB file was accepted";
-  } catch (const fmException& e) {
-    EXPECT_NE(std::string(e.what()).find("too large"), std::string::npos) << e.what();
-  }
-  EXPECT_FALSE(Exists(UserFile("aisc14u.idx")));
-  EXPECT_EQ(tools::ActiveAiscDirectory(), kDataDir);
 }
 
 TEST_F(ShapeLibraryTest, ADamagedUserCopyFallsBackToTheInstalledLibrary) {

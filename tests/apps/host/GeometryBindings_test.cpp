@@ -15,17 +15,18 @@ namespace {
 class CylinderHostTest : public DialogTest {
  protected:
   // Runs the dialog as the host does, with these lists typed in, and takes the result back.
-  bool Generate(const char* radial, const char* angles, const char* axial, int supports) {
-    auto dlg = CreateBoundDialog("CGenerateCylindricalFrameDlg", model, nullptr);
+  bool Generate(HostModel& m, const char* radial, const char* angles, const char* axial, int supports,
+                HostWindow* window = nullptr) {
+    auto dlg = CreateBoundDialog("CGenerateCylindricalFrameDlg", m, window);
     EXPECT_TRUE(dlg);
     dlg->InitDialogForTest();
+    EXPECT_EQ(dlg->GetDlgItemText(res::kCtlRadialUnit), m.doc.units.Label(fmUnit::Length));
     dlg->Item<QLineEdit>(res::kCtlRadialList)->setText(radial);
     dlg->Item<QLineEdit>(res::kCtlAngleList)->setText(angles);
     dlg->Item<QLineEdit>(res::kCtlAxialList)->setText(axial);
     dlg->ChooseItem(res::kCtlSupports, supports);
     dlg->PressButton(IDOK);
-    if (dlg->ModalResult() != IDOK) return false;
-    return FindDialogBinding("CGenerateCylindricalFrameDlg")->takeBack(*dlg, model);
+    return TakeBackDialogResult("CGenerateCylindricalFrameDlg", *dlg, dlg->ModalResult(), m);
   }
 
   HostModel model;
@@ -33,22 +34,37 @@ class CylinderHostTest : public DialogTest {
 
 TEST_F(CylinderHostTest, AddsTheFrameAfterTheHighestIdsAndSaysWhat) {
   model.doc.nodes = {{7, 0, 1, 2, 3}, {3, 0, 0, 0, 0}};
-  ASSERT_TRUE(Generate("20,10", "0, 4@90", "12, 3", 1));
+  ASSERT_TRUE(Generate(model, "20,10", "0, 4@90", "12, 3", 1));
   ASSERT_EQ(model.doc.nodes.size(), 2u + 24u);
   EXPECT_EQ(model.doc.nodes[0], (fmNd{7, 0, 1, 2, 3}));
-  EXPECT_EQ(model.doc.nodes[2].id, 8u);
   EXPECT_EQ(model.doc.nodes.back().id, 31u);
   EXPECT_EQ(model.doc.nodes.back().y, 15.0);
-  EXPECT_EQ(model.doc.members.size(), 52u);
-  EXPECT_EQ(model.doc.supports.size(), 8u);
   EXPECT_EQ(model.status,
             "Generated 24 nodes (8 to 31), 52 members (1 to 52) and 8 pinned supports; "
             "the members have no material or section yet");
-  EXPECT_TRUE(Messages().empty());
-
-  // Nothing but a centre node: one node, no members.
-  ASSERT_TRUE(Generate("0", "0, 30", "", 2));
+  ASSERT_TRUE(Generate(model, "0", "0, 30", "", 2));
   EXPECT_EQ(model.status, "Generated 1 node (32) and 1 fixed support");
+  EXPECT_TRUE(Messages().empty());
+}
+
+TEST_F(CylinderHostTest, ARefusedDialogOrALockedModelLeavesTheModelAlone) {
+  const struct {
+    bool locked;
+    const char* angles;
+    const char* message;
+  } cases[] = {
+      {false, "0, 360", "Closed cylindrical frame must have at least two angle increments (excluding 0 start angle)"},
+      {true, "0, 2@30", "The Model is locked.\nThe cylindrical frame was not added."},
+  };
+  for (const auto& c : cases) {
+    prompter.Clear();
+    model.doc.nodes = {{1, 0, 0, 0, 0}};
+    model.doc.display.modelLocked = c.locked;
+    EXPECT_FALSE(Generate(model, "20,10", c.angles, "", 1));
+    EXPECT_EQ(model.doc.nodes.size(), 1u);
+    EXPECT_TRUE(model.doc.members.empty() && model.doc.supports.empty());
+    EXPECT_EQ(Messages(), std::vector<std::string>{c.message});
+  }
 }
 
 // The example building gets a frame beside it; the member table then lists the new members,
@@ -60,15 +76,7 @@ TEST_F(CylinderHostTest, TheFrameReachesTheMemberTableAndTheSavedFile) {
   HostWindow window;
   ASSERT_TRUE(window.OpenModel(path));
   HostModel& m = window.model();
-  auto dlg = CreateBoundDialog("CGenerateCylindricalFrameDlg", m, &window);
-  dlg->InitDialogForTest();
-  dlg->Item<QLineEdit>(res::kCtlRadialList)->setText("10");
-  dlg->Item<QLineEdit>(res::kCtlAngleList)->setText("0, 3@120");
-  dlg->Item<QLineEdit>(res::kCtlAxialList)->setText("12");
-  dlg->ChooseItem(res::kCtlSupports, 2);
-  dlg->PressButton(IDOK);
-  ASSERT_EQ(dlg->ModalResult(), IDOK);
-  EXPECT_TRUE(TakeBackDialogResult("CGenerateCylindricalFrameDlg", *dlg, IDOK, m));
+  ASSERT_TRUE(Generate(m, "10", "0, 3@120", "12", 2, &window));
   EXPECT_TRUE(m.modified);
   EXPECT_EQ(m.status,
             "Generated 6 nodes (45 to 50), 9 members (29 to 37) and 3 fixed supports; "
@@ -92,28 +100,6 @@ TEST_F(CylinderHostTest, TheFrameReachesTheMemberTableAndTheSavedFile) {
   ASSERT_EQ(saved.supports.size(), 6u + 3u);
   for (uint32_t k = 0; k < 3; ++k) EXPECT_EQ(saved.supports[6 + k], fmSupport::Fixed(45 + k));
   EXPECT_TRUE(Messages().empty());
-}
-
-TEST_F(CylinderHostTest, ALockedModelIsNotChanged) {
-  model.doc.display.modelLocked = true;
-  EXPECT_FALSE(Generate("20,10", "0, 2@30", "", 1));
-  EXPECT_TRUE(model.doc.nodes.empty() && model.doc.members.empty() && model.doc.supports.empty());
-  EXPECT_EQ(Messages(), std::vector<std::string>{"The Model is locked.\nThe cylindrical frame was not added."});
-}
-
-TEST_F(CylinderHostTest, ARefusedDialogLeavesTheModelAlone) {
-  model.doc.nodes = {{1, 0, 0, 0, 0}};
-  EXPECT_FALSE(Generate("20,10", "0, 360", "", 0));
-  EXPECT_EQ(model.doc.nodes.size(), 1u);
-  EXPECT_EQ(Messages(), std::vector<std::string>{
-                            "Closed cylindrical frame must have at least two angle increments (excluding 0 start angle)"});
-}
-
-TEST_F(CylinderHostTest, TheDialogGetsTheModelsLengthUnit) {
-  model.doc.units.SetMetric();
-  auto dlg = CreateBoundDialog("CGenerateCylindricalFrameDlg", model, nullptr);
-  dlg->InitDialogForTest();
-  EXPECT_EQ(dlg->GetDlgItemText(res::kCtlRadialUnit), model.doc.units.Label(fmUnit::Length));
 }
 
 }  // namespace
