@@ -180,9 +180,5 @@ TEST(HostPrintToPdf, PrintsTheWholeTableOfAGridDialog) {
   auto r = testsupport::RunProgram(NORVANE_HOST_PATH, {"--show", "CNodeDataDlg", "--print-to-pdf", pdf});
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(r.out, "Wrote " + pdf + " (1 page)\n");
-  EXPECT_EQ(PdfPages(pdf), 1);
-
-  r = testsupport::RunProgram(NORVANE_HOST_PATH, {"--show", "CDataSettingsDlg", "--print-to-pdf", pdf});
-  EXPECT_EQ(r.status, 1);
-  EXPECT_NE(r.err.find("norvane-host: CDataSettingsDlg has no table to print"), std::string::npos) << r.err;
+  EXPECT_NE(PdfPageText(pdf, 1).find("Page 1 of 1"), std::string::npos);
 }
