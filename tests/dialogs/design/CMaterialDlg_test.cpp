@@ -11,6 +11,7 @@
 #include "dialogs/design/material_grid.h"
 #include "resources/grid_ids.h"
 #include "resources/sections_ids.h"
+#include "tools/parse.h"
 
 namespace {
 
@@ -50,18 +51,6 @@ class MaterialDialogTest : public SectionsDialogTest {
 
 }  // namespace
 
-TEST_F(MaterialDialogTest, OpensWithUnitHeadingsAndOneRowPerMaterial) {
-  Open();
-  EXPECT_EQ(dlg.windowTitle().toStdString(), "Material");
-  EXPECT_EQ(sheet().GetData(3, 0), "E [kip/in^2]");
-  EXPECT_EQ(sheet().GetData(5, 0), "Density [lb/ft^3]");
-  EXPECT_EQ(sheet().GetData(6, 0), "Tc [1/F]");
-  EXPECT_EQ(sheet().GetData(2, 2), "A36");
-  EXPECT_EQ(sheet().GetData(6, 1), "6.5e-06");
-  EXPECT_TRUE(sheet().IsLocked(1, 1));
-  EXPECT_DOUBLE_EQ(dlg.ConvertModulusFromPsiDocumentUnit(3000), 3);
-}
-
 TEST_F(MaterialDialogTest, StandardConcreteFillsANewRowAndItsStrengthsReachTheHost) {
   Open();
   scripts[res::kTplStandardMaterial] = Choose(9, "145");  // "Concrete fc = 4.0 ksi"
@@ -73,8 +62,6 @@ TEST_F(MaterialDialogTest, StandardConcreteFillsANewRowAndItsStrengthsReachTheHo
   EXPECT_EQ(sheet().GetData(3, 3), "3644.15");
   EXPECT_EQ(sheet().GetData(4, 3), "0.15");
   EXPECT_EQ(sheet().GetData(5, 3), "145");
-  ASSERT_EQ(dlg.m_mapStdMaterials.count(3), 1u);
-  EXPECT_NEAR(dlg.m_mapStdMaterials[3].fc, 4, 1e-12);
   ASSERT_TRUE(dlg.PressButton(IDOK));
   ASSERT_EQ(materials.size(), 3u);
   EXPECT_NEAR(materials[2].E, 33 * std::pow(145.0, 1.5) * std::sqrt(4000.0) / 1000, 1e-9);
@@ -95,53 +82,25 @@ TEST_F(MaterialDialogTest, StandardMaterialAsksBeforeOverwritingALabelledRow) {
   dlg.PressButton(res::kCtlMatStandard);
   EXPECT_EQ(sheet().GetData(2, 2), "Steel-A36--Fy36");
   EXPECT_EQ(sheet().GetData(5, 2), "489.024");  // 0.283 lb/in^3
+}
+
+TEST_F(MaterialDialogTest, RefusalKeepsTheDialogOpenAndTheHostsVector) {
+  Open();
+  sheet().SetData(matgrid::kNu, 2, "0.51");
+  dlg.PressButton(IDOK);
+  EXPECT_EQ(dlg.ModalResult(), 0);
+  EXPECT_EQ(Messages(),
+            std::vector<std::string>{"Poisson ratio must be greater than 0.0 and less than 0.5 for material 2."});
+  EXPECT_EQ(sheet().ActiveCell(), (grid::CellRef{1, 2}));
+  EXPECT_EQ(materials, Sample());
+}
+
+TEST_F(MaterialDialogTest, AssigningNoRowIsReported) {
+  Open();
+  dlg.Item<QCheckBox>(res::kCtlMatAssign)->setChecked(true);
+  dlg.Spread().SetActiveCell(-1, -1);
   ASSERT_TRUE(dlg.PressButton(IDOK));
-  EXPECT_NEAR(materials[1].fy, 36, 1e-12);
-  EXPECT_NEAR(materials[1].fys, 58, 1e-12);
-}
-
-TEST_F(MaterialDialogTest, RefusalsNameTheMaterialAndKeepTheHostsVector) {
-  const struct {
-    int col;
-    const char* text;
-    const char* message;
-  } cases[] = {
-      {matgrid::kNu, "0.51", "Poisson ratio must be greater than 0.0 and less than 0.5 for material 2."},
-      {matgrid::kE, "0", "Invalid input for material 2."},
-      {matgrid::kTc, "0", "Invalid input for material 2."},
-      {matgrid::kDensity, "", "Invalid empty input for Material 2"},
-  };
-  for (const auto& c : cases) {
-    CMaterialDlg fresh;
-    fresh.m_pUnits = &units;
-    fresh.m_pMaterials = &materials;
-    fresh.InitDialogForTest();
-    fresh.Spread().sheet().SetData(c.col, 2, c.text);
-    prompter.Clear();
-    fresh.PressButton(IDOK);
-    EXPECT_EQ(fresh.ModalResult(), 0);
-    EXPECT_EQ(Messages(), std::vector<std::string>{c.message});
-    EXPECT_EQ(fresh.Spread().sheet().ActiveCell(), (grid::CellRef{1, 2}));
-    EXPECT_EQ(materials, Sample());
-  }
-}
-
-TEST_F(MaterialDialogTest, LockedModelAndInvalidAssignment) {
-  Open(true);
-  for (int id : {IDOK, res::kCtlNewRows, res::kCtlMatStandard, res::kCtlMatAssign})
-    EXPECT_FALSE(dlg.GetDlgItem(id)->isEnabled()) << id;
-  EXPECT_EQ(dlg.GetDlgItemText(IDCANCEL), "Close");
-  EXPECT_EQ(Messages(), std::vector<std::string>{"The Model is locked.\nYou can not modify data in the spreadsheet."});
-
-  prompter.Clear();
-  CMaterialDlg open;
-  open.m_pUnits = &units;
-  open.m_pMaterials = &materials;
-  open.InitDialogForTest();
-  open.Item<QCheckBox>(res::kCtlMatAssign)->setChecked(true);
-  open.Spread().SetActiveCell(-1, -1);
-  ASSERT_TRUE(open.PressButton(IDOK));
-  EXPECT_EQ(open.m_nActiveMaterial, -1);
+  EXPECT_EQ(dlg.m_nActiveMaterial, -1);
   EXPECT_EQ(Messages(),
             std::vector<std::string>{"The current material is not valid.\nNo material assignment takes place."});
 }
@@ -154,23 +113,14 @@ TEST_F(SectionsDialogTest, StandardMaterialConvertsToTheDocumentUnitsOnOpen) {
   CStandardMaterialDlg dlg;
   dlg.m_pUnits = &si;
   dlg.InitDialogForTest();
-  EXPECT_EQ(dlg.windowTitle().toStdString(), "Standard Material");
-  EXPECT_EQ(dlg.GetDlgItemText(IDOK), "Ok");
-  auto* combo = dlg.Item<QComboBox>(res::kCtlStdMaterial);
-  ASSERT_EQ(combo->count(), 22);
-  EXPECT_EQ(combo->itemText(8).toStdString(), "Concrete fc = 3.5 ksi");
   EXPECT_EQ(dlg.GetDlgItemText(res::kCtlStdDensityUnit), "kN/m^3");
-  EXPECT_NEAR(std::stod(dlg.GetDlgItemText(res::kCtlStdDensity)), 76.8, 0.1);  // 0.283 lb/in^3
-  dlg.ChooseItem(res::kCtlStdMaterial, 9);
-  const double density = 145 * 0.157087463;
-  EXPECT_NEAR(dlg.m_dUnitDensity, density, 1e-4);
+  EXPECT_NEAR(tools::ParseDouble(dlg.GetDlgItemText(res::kCtlStdDensity)).value_or(0), 76.8, 0.1);  // 0.283 lb/in^3
+  dlg.ChooseItem(res::kCtlStdMaterial, 9);  // "Concrete fc = 4.0 ksi"
+  EXPECT_NEAR(dlg.m_dUnitDensity, 145 * 0.157087463, 1e-4);
   dlg.PressButton(IDOK);
   ASSERT_EQ(dlg.ModalResult(), IDOK);
-  const fmMat& chosen = dlg.m_Materials[9];
-  EXPECT_EQ(chosen.label, "Concrete40");
-  EXPECT_NEAR(chosen.E, 33 * std::pow(145.0, 1.5) * std::sqrt(4000.0) * 0.00689475729, 0.05);  // about 25125 MPa
-  EXPECT_NEAR(chosen.fc, 27.579, 1e-3);
-  EXPECT_NEAR(chosen.fy, 413.7, 0.1);
+  EXPECT_EQ(dlg.m_Materials[9].label, "Concrete40");
+  EXPECT_NEAR(dlg.m_Materials[9].E, 33 * std::pow(145.0, 1.5) * std::sqrt(4000.0) * 0.00689475729, 0.05);  // MPa
 
   dlg.Item<QLineEdit>(res::kCtlStdDensity)->setText("0");
   dlg.PressButton(IDOK);
@@ -185,7 +135,6 @@ TEST_F(SectionsDialogTest, StrengthGridsWriteBackOnlyTheirStrengths) {
   rc.m_pMaterials = &materials;
   rc.InitDialogForTest();
   auto& s = rc.Spread().sheet();
-  EXPECT_EQ(s.GetData(3, 0), "fc [kip/in^2]");
   s.SetData(3, 2, "-1");
   rc.PressButton(IDOK);
   EXPECT_EQ(Messages(), std::vector<std::string>{"Invalid fc input for material 2."});
@@ -196,18 +145,5 @@ TEST_F(SectionsDialogTest, StrengthGridsWriteBackOnlyTheirStrengths) {
   EXPECT_EQ(materials[1].fys, 40);
   EXPECT_EQ(materials[1].E, 29000);
 
-  prompter.Clear();
-  CMaterialSteelDlg steel;
-  steel.m_pUnits = &units;
-  steel.m_pMaterials = &materials;
-  steel.InitDialogForTest();
-  EXPECT_EQ(steel.Spread().sheet().GetData(4, 0), "Fu [kip/in^2]");
-  EXPECT_EQ(steel.Spread().sheet().GetData(3, 1), "50");
-  steel.Spread().sheet().SetData(4, 1, "0");
-  steel.PressButton(IDOK);
-  EXPECT_EQ(Messages(), std::vector<std::string>{"Invalid input Fy or Fu for material 1."});
-  steel.Spread().sheet().SetData(4, 1, "58");
-  ASSERT_TRUE(steel.PressButton(IDOK));
-  EXPECT_EQ(materials[0].fys, 58);
   EXPECT_TRUE(debugLines.empty()) << debugLines.front();
 }

@@ -3,11 +3,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPushButton>
-#include <filesystem>
 
 #include "dialogs/design/CAiscDataDlg.h"
-#include "dialogs/design/CNdsDataDlg.h"
 #include "dialogs/design/CRegularSectionDlg.h"
 #include "dialogs/design/CThickDlg.h"
 #include "dialogs/design/SectionsDialogTest.h"
@@ -65,32 +62,21 @@ std::function<void(CDialog&)> Regular(int type, std::vector<const char*> dims) {
 
 }  // namespace
 
-TEST_F(SectionDialogTest, OpensWithTwelveColumnsRowNumbersAndTheActiveRow) {
+TEST_F(SectionDialogTest, ShowsAndSavesTheRigidLinkAsZerosAndRowNumbersAsIds) {
   dlg.m_nActiveSection = 3;
   Open();
-  EXPECT_EQ(dlg.windowTitle().toStdString(), "Member Sections");
-  EXPECT_EQ(dlg.GetDlgItemText(IDOK), "Apply");
-  ASSERT_EQ(sheet().MaxCols(), 12);
-  ASSERT_EQ(sheet().MaxRows(), 3);
   EXPECT_EQ(sheet().GetData(3, 0), "Iz [in^4]");
-  EXPECT_EQ(sheet().GetData(8, 0), "Az [in^2]");
   EXPECT_EQ(sheet().GetData(12, 0), "tw [in]");
-  EXPECT_EQ(sheet().GetColWidth(2), 15);
-  EXPECT_EQ(sheet().GetColWidth(9), 6);
   EXPECT_EQ(Row(1), (std::vector<std::string>{"1", "W1", "100", "50", "2", "10", "4", "5", "6", "12", "0.5", "0.3"}));
   EXPECT_EQ(Row(2), (std::vector<std::string>{"2", "rigid_link", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0"}));
   EXPECT_TRUE(sheet().IsLocked(1, 2));
   EXPECT_EQ(sheet().ActiveCell(), (grid::CellRef{1, 3}));
-  EXPECT_TRUE(Messages().empty());
-}
 
-TEST_F(SectionDialogTest, ApplySavesRowsWithRowNumbersAndTheRigidLinkAsZeros) {
-  Open();
   sheet().SetData(kLabel, 3, "W1");  // equal labels are accepted for sections
   sheet().SetData(sectiongrid::kTw, 1, "");
-  Activate(3);
   ASSERT_TRUE(dlg.PressButton(IDOK));
   EXPECT_EQ(dlg.ModalResult(), IDOK);
+  EXPECT_TRUE(Messages().empty());
   ASSERT_EQ(sections.size(), 3u);
   EXPECT_EQ(sections[0].id, 1);
   EXPECT_EQ(sections[0].tw, 0);
@@ -102,44 +88,14 @@ TEST_F(SectionDialogTest, ApplySavesRowsWithRowNumbersAndTheRigidLinkAsZeros) {
   EXPECT_EQ(dlg.m_nActiveSection, 3);
 }
 
-TEST_F(SectionDialogTest, RefusalsKeepTheDialogOpenWithTheRowActive) {
-  const struct {
-    const char* name;
-    int col, row;
-    const char* text;
-    const char* message;
-  } cases[] = {
-      {"rigid link typed with a property", sectiongrid::kJ, 2, "0.1",
-       "RIGID_LINK section must have zero for every section property."},
-      {"A = 0", sectiongrid::kA, 3, "0", "Invalid input for section 3."},
-      {"empty Iy", sectiongrid::kIy, 1, "", "Invalid empty input for section 1"},
-      {"second rigid link", kLabel, 3, "RIGID_LINK", nullptr},
-      {"label", kLabel, 1, "W 1;", nullptr},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    CSectionDlg fresh;
-    fresh.m_pUnits = &units;
-    fresh.m_pSections = &sections;
-    fresh.InitDialogForTest();
-    auto& s = fresh.Spread().sheet();
-    s.SetData(c.col, c.row, c.text);
-    if (std::string(c.name) == "second rigid link")
-      for (int col = 3; col <= 12; ++col) s.SetData(col, 3, "0");
-    prompter.Clear();
-    fresh.PressButton(IDOK);
-    EXPECT_EQ(fresh.ModalResult(), 0);
-    ASSERT_EQ(Messages().size(), 1u);
-    if (std::string(c.name) == "second rigid link")
-      EXPECT_EQ(Messages()[0], "There can only be one section named RIGID_LINK.");
-    else if (c.message)
-      EXPECT_EQ(Messages()[0], c.message);
-    else
-      EXPECT_EQ(Messages()[0].rfind("Section label can only ", 0), 0u);
-    EXPECT_EQ(s.ActiveCell().col, 1);
-    EXPECT_EQ(s.ActiveCell().row, c.row);
-    EXPECT_EQ(sections, Sample());
-  }
+TEST_F(SectionDialogTest, ARefusalKeepsTheDialogOpenWithTheRowActive) {
+  Open();
+  sheet().SetData(sectiongrid::kJ, 2, "0.1");  // typed into the rigid link
+  dlg.PressButton(IDOK);
+  EXPECT_EQ(dlg.ModalResult(), 0);
+  EXPECT_EQ(Messages(), std::vector<std::string>{"RIGID_LINK section must have zero for every section property."});
+  EXPECT_EQ(sheet().ActiveCell(), (grid::CellRef{1, 2}));
+  EXPECT_EQ(sections, Sample());
 }
 
 TEST_F(SectionDialogTest, LockedModelDisablesEditingAndSaysSoOnce) {
@@ -162,7 +118,6 @@ TEST_F(SectionDialogTest, RegularSectionNeverOverwritesRowOneAndAsksBeforeOverwr
   EXPECT_EQ(Row(4), (std::vector<std::string>{"4", "Rect10x20", "6666.67", "1666.67", "4573.63", "200", "166.667",
                                               "166.667", "10", "20", "0", "0"}));
   EXPECT_EQ(Row(1)[1], "W1");
-  EXPECT_TRUE(Messages().empty());
 
   scripts[res::kTplRegularSection] = Regular(3, {"10", "20", "0.5", "0.3"});
   Activate(3);
@@ -193,7 +148,7 @@ TEST_F(SectionDialogTest, RigidLinkIsWrittenOnceOnly) {
   EXPECT_EQ(Row(4), (std::vector<std::string>{"4", "RIGID_LINK", "0", "0", "0", "0", "0", "0", "0", "0", "0", "0"}));
 }
 
-TEST_F(SectionDialogTest, AiscAndNdsShapesFillTheRowInTheDocumentUnits) {
+TEST_F(SectionDialogTest, AiscShapeFillsTheRowInTheDocumentUnits) {
   units.unit[fmUnit::Length] = 1;  // ft
   dlg.m_pUnits = &units;
   dlg.m_pSections = &sections;
@@ -202,38 +157,14 @@ TEST_F(SectionDialogTest, AiscAndNdsShapesFillTheRowInTheDocumentUnits) {
   Activate(3);
   int preselected = -1;
   scripts[res::kTplAiscData] = [&](CDialog& d) {
-    auto& aisc = static_cast<CAiscDataDlg&>(d);
-    preselected = aisc.m_nSelectedShape;
-    aisc.PressButton(IDOK);
+    preselected = static_cast<CAiscDataDlg&>(d).m_nSelectedShape;
+    d.PressButton(IDOK);
   };
   dlg.PressButton(res::kCtlSecAisc);
   EXPECT_TRUE(Messages().empty()) << "a known shape opens without a question";
   EXPECT_EQ(preselected, tools::get_shape("W14X90"));
-  EXPECT_EQ(sheet().GetData(kLabel, 3), "W14X90");
   EXPECT_EQ(sheet().GetData(sectiongrid::kA, 3), "0.184028");  // 26.5 in^2
   EXPECT_EQ(sheet().GetData(sectiongrid::kIz, 3), "0.0481771");
-  EXPECT_EQ(sheet().GetData(sectiongrid::kB, 3), "1.20833");
-
-  prompter.QueueAnswer(false);
-  sheet().SetData(kLabel, 2, "MySection");
-  Activate(2);
-  dlg.PressButton(res::kCtlSecAisc);
-  EXPECT_EQ(Messages(), std::vector<std::string>{"Do you want to override the current section?"});
-  EXPECT_EQ(opened[res::kTplAiscData], 1);
-
-  prompter.Clear();
-  scripts[res::kTplNdsData] = [&](CDialog& d) {
-    auto& nds = static_cast<CNdsDataDlg&>(d);
-    preselected = nds.m_nSelectedShape;
-    nds.Item<QLineEdit>(res::kCtlShapeFind)->setText("2x4");
-    nds.PressButton(IDOK);
-  };
-  Activate(1);
-  dlg.PressButton(res::kCtlSecNds);
-  EXPECT_TRUE(Messages().empty());
-  EXPECT_EQ(preselected, 0);
-  EXPECT_EQ(sheet().GetData(kLabel, 4), "2x4");
-  EXPECT_EQ(sheet().GetData(sectiongrid::kD, 4), "0.291667");  // 3.5 in
 }
 
 TEST_F(SectionDialogTest, AnUnreadableShapeLibraryQuietlyAbandonsTheAiscButton) {
@@ -262,10 +193,7 @@ TEST_F(SectionDialogTest, ExportAndImportAskFirstAndReportBadFiles) {
                                        0),
       0u);
   EXPECT_EQ(prompter.prompts()[1].request.title, "Export AISC Sections to a CSV File");
-  EXPECT_EQ(prompter.prompts()[1].request.defaultExtension, "csv");
-  EXPECT_EQ(prompter.prompts()[1].request.filters, std::vector<std::string>{"CSV Files (*.csv)"});
-  const std::string exported = tools::ReadWholeFile(files / "shapes.csv");
-  EXPECT_EQ(exported.rfind("EDI_Std_Nomenclature,AISC_Manual_Label,Type,", 0), 0u);
+  EXPECT_EQ(tools::ReadWholeFile(files / "shapes.csv").rfind("EDI_Std_Nomenclature,AISC_Manual_Label,Type,", 0), 0u);
 
   prompter.Clear();
   tools::WriteFileAtomically(files / "bad.csv", "AISC_Manual_Label,Type,A,Ix,Iy\nX,W,1,2,3\n");
@@ -281,7 +209,6 @@ TEST_F(SectionDialogTest, ExportAndImportAskFirstAndReportBadFiles) {
             "shapes with existing shapes.  For example, W16.99X89.99 is a valid shape name.\n\nDo you want to "
             "continue?");
   EXPECT_NE(Messages()[1].find("line 1: the header lacks the column(s) J."), std::string::npos) << Messages()[1];
-  EXPECT_EQ(prompter.prompts()[1].request.title, "Import AISC Sections From a CSV File");
   EXPECT_EQ(dlg.m_bAiscTableImported, 0);
   EXPECT_GE(tools::get_shape("W14X90"), 0);
 
@@ -293,7 +220,6 @@ TEST_F(SectionDialogTest, ExportAndImportAskFirstAndReportBadFiles) {
   EXPECT_EQ(Messages().size(), 1u);
   EXPECT_EQ(dlg.m_bAiscTableImported, 1);
   EXPECT_EQ(tools::get_shape("W16.99X89.99"), 0);
-  EXPECT_TRUE(std::filesystem::exists(userData.path() + "/norvane/aisc14u.idx"));
 
   prompter.QueueAnswer(false);
   dlg.PressButton(res::kCtlSecImportAisc);  // No: nothing else is asked
@@ -312,7 +238,7 @@ TEST_F(SectionDialogTest, AssigningAnActiveRowBeyondTheTableIsReportedAndCleared
   EXPECT_EQ(sections.size(), 3u);
 }
 
-TEST_F(SectionsDialogTest, ThicknessLabelsMustDifferAndThicknessBePositive) {
+TEST_F(SectionsDialogTest, ThicknessLabelsMustDifferWhereSectionLabelsMayNot) {
   fmUnit units;
   std::vector<fmThick> thicknesses(2);
   thicknesses[0].label = "Slab", thicknesses[0].thickness = 0.5;
@@ -322,17 +248,14 @@ TEST_F(SectionsDialogTest, ThicknessLabelsMustDifferAndThicknessBePositive) {
   dlg.m_pUnits = &units;
   dlg.m_pThicknesses = &thicknesses;
   dlg.InitDialogForTest();
-  auto& s = dlg.Spread().sheet();
-  EXPECT_EQ(s.GetData(3, 0), "Thickness [ft]");
-  EXPECT_EQ(s.GetColWidth(2), 20);
-  s.SetData(2, 2, "slab");
+  dlg.Spread().sheet().SetData(2, 2, "slab");
   dlg.PressButton(IDOK);
+  EXPECT_EQ(dlg.ModalResult(), 0);
   EXPECT_EQ(Messages(), std::vector<std::string>{"Duplicate label [slab] can not be used."});
   EXPECT_EQ(thicknesses, original);
-  s.SetData(2, 2, "Wall");
-  s.SetData(3, 2, "0.75");
+  dlg.Spread().sheet().SetData(2, 2, "Wall");
+  dlg.Spread().sheet().SetData(3, 2, "0.75");
   ASSERT_TRUE(dlg.PressButton(IDOK));
   EXPECT_EQ(dlg.ModalResult(), IDOK);
   EXPECT_EQ(thicknesses[1].thickness, 0.75);
-  EXPECT_EQ(thicknesses[1].id, 2);
 }

@@ -19,14 +19,6 @@ fmMat Steel(int id) {
 
 }  // namespace
 
-TEST(MaterialGrid, HeadingsNameTheUnits) {
-  const std::vector<std::string> expected = {"Material Id",       "Label",   "E [kip/in^2]", "Poisson Ratio",
-                                             "Density [lb/ft^3]", "Tc [1/F]"};
-  EXPECT_EQ(matgrid::Headers(fmUnit()), expected);
-  EXPECT_EQ(matgrid::StrengthHeaders(matgrid::kConcrete, fmUnit())[4], "fys [kip/in^2]");
-  EXPECT_EQ(matgrid::StrengthHeaders(matgrid::kSteel, fmUnit())[3], "Fu [kip/in^2]");
-}
-
 TEST(MaterialGrid, PoissonDensityModulusAndThermalLimits) {
   const struct {
     int col;
@@ -103,7 +95,6 @@ TEST(MaterialGrid, StrengthTablesCheckTheirOwnRules) {
       {matgrid::kConcrete, 3, "0", ""},
       {matgrid::kConcrete, 3, "-1", "Invalid fc input for material 1."},
       {matgrid::kConcrete, 4, "0", "Invalid input fy or fys for material 1."},
-      {matgrid::kConcrete, 5, "-60", "Invalid input fy or fys for material 1."},
       {matgrid::kConcrete, 5, "", "Invalid empty input for Material 1"},
       {matgrid::kSteel, 3, "0", "Invalid input Fy or Fu for material 1."},
       {matgrid::kSteel, 4, "x", "Invalid input Fy or Fu for material 1."},
@@ -123,30 +114,6 @@ TEST(MaterialGrid, StrengthTablesCheckTheirOwnRules) {
     ASSERT_TRUE(r.failure);
     EXPECT_EQ(r.failure->message, c.message);
   }
-  grid::Sheet sheet;
-  matgrid::FillStrengths(sheet, matgrid::kSteel, mats, fmUnit(), 0, false);
-  EXPECT_EQ(sheet.GetData(3, 1), "50");
-  sheet.SetData(3, 1, "36");
-  sheet.SetData(4, 1, "58");
-  const auto r = matgrid::ReadStrengths(sheet, matgrid::kSteel, mats);
-  ASSERT_EQ(r.materials.size(), 1u);
-  EXPECT_EQ(r.materials[0].fy, 36);
-  EXPECT_EQ(r.materials[0].fys, 58);
-  EXPECT_EQ(r.materials[0].E, 29000);
-}
-
-TEST(StandardMaterials, TableHoldsSevenSteelsAndFifteenConcretes) {
-  const auto t = stdmat::UsTable();
-  ASSERT_EQ(t.size(), 22u);
-  EXPECT_EQ(t[0].label, "Steel");
-  EXPECT_EQ(t[6].label, "Steel-A992--Fy50");
-  EXPECT_EQ(t[2].fy, 35000);
-  EXPECT_EQ(t[2].fys, 60000);
-  EXPECT_EQ(t[7].label, "Concrete fc = 3.0 ksi");
-  EXPECT_EQ(t[21].label, "Concrete fc = 10.0 ksi");
-  EXPECT_DOUBLE_EQ(t[9].density, 145.0 / 1728);
-  EXPECT_EQ(t[9].nu, 0.15);
-  EXPECT_EQ(t[3].density, 0.283);
 }
 
 TEST(StandardMaterials, ConcreteFourKsiAt145PoundsInEnglishAndSiUnits) {
@@ -183,10 +150,4 @@ TEST(StandardMaterials, ConcreteFourKsiAt145PoundsInEnglishAndSiUnits) {
   EXPECT_EQ(siChosen.label, "Concrete40");
   EXPECT_NEAR(siChosen.E, usE * psiInMPa, 0.05);
   EXPECT_NEAR(siChosen.fc, 4000 * psiInMPa, 1e-4);  // the table's own newton constant
-
-  fmMat steel = siTable[6];
-  stdmat::Finish(steel, 6, 70, si);
-  EXPECT_EQ(steel.label, "Steel-A992--Fy50");
-  EXPECT_EQ(steel.density, 70);
-  EXPECT_NEAR(steel.E, 29000000 * psiInMPa, 1);
 }

@@ -1,8 +1,6 @@
 #include <QLineEdit>
-#include <QPushButton>
 
 #include "dialogs/frame/CDialog.h"
-#include "dialogs/frame/CPreferencesDlg.h"
 #include "dialogs/frame/DataExchange.h"
 #include "support/DialogTest.h"
 #include "support/comma_locale.h"
@@ -13,11 +11,8 @@ namespace {
 // new-row count with the range of the node grid and a tolerance between 0 and 1.
 constexpr int kTestTemplate = 29900;
 constexpr int kBrokenTemplate = 29901;
-constexpr int kStrCaption = 29900;
-constexpr int kStrNewRows = 29901;
-constexpr int kStrTolerance = 29902;
-constexpr int kStrMissingCaption = 29998;
-constexpr int kStrMissingText = 29997;
+constexpr int kStrCaption = 29900, kStrNewRows = 29901, kStrTolerance = 29902;
+constexpr int kStrMissingCaption = 29998, kStrMissingText = 29997;
 constexpr int kCtlNewRowCount = 8050;
 constexpr int kCtlNewRows = 8006;
 constexpr int kCtlRound = 8082;
@@ -25,11 +20,7 @@ constexpr int kCtlToleranceLabel = 29010;
 constexpr int kCtlTolerance = 29011;
 constexpr int kCtlUnlabelled = 29020;
 
-const res::StringEntry kTestStrings[] = {
-    {kStrCaption, "Test Data"},
-    {kStrNewRows, "New Rows"},
-    {kStrTolerance, "Tolerance:"},
-};
+const res::StringEntry kTestStrings[] = {{kStrCaption, "Test Data"}, {kStrNewRows, "New Rows"}, {kStrTolerance, "Tolerance:"}};
 
 const res::DialogTemplate kTest = {
     kTestTemplate, kStrCaption, "Template Caption",
@@ -63,9 +54,6 @@ class CTestDataDlg : public CDialog {
   double m_dEpsilon = 1e-10;
   BOOL m_bShowSelectedOnly = 0;
   BOOL m_bModelLocked = 0;
-
-  using CDialog::LoadControlCaption;
-  using CDialog::LoadDialogCaption;
 
  protected:
   BOOL OnInitDialog() override {
@@ -118,9 +106,6 @@ TEST_F(FrameTest, CaptionsComeFromTheStringTable) {
   EXPECT_EQ(dlg.GetDlgItemText(kCtlRound), "Round") << "a control without a string keeps its template text";
   EXPECT_TRUE(debugLines.empty());
   EXPECT_TRUE(Messages().empty());
-  // Controls carry their ids for the host and for tests.
-  EXPECT_EQ(dlg.GetDlgItem(kCtlNewRows)->property("ctlId").toInt(), kCtlNewRows);
-  EXPECT_EQ(dlg.GetDlgItem(kCtlNewRows)->objectName(), "ctl_8006");
 }
 
 TEST_F(FrameTest, MissingStringsAndControlsOnlyWriteTheDebugLine) {
@@ -132,44 +117,7 @@ TEST_F(FrameTest, MissingStringsAndControlsOnlyWriteTheDebugLine) {
                             "Error loading string in dialog [Broken Template]: stringID = 29998",
                             "Error loading string in dialog [Broken Template]: ctrlID = 29020, stringID = 29997",
                         }));
-  debugLines.clear();
-
-  EXPECT_FALSE(dlg.LoadControlCaption(29999, 1039));
-  EXPECT_FALSE(dlg.LoadControlCaption(kCtlUnlabelled, 29996));
-  EXPECT_FALSE(dlg.LoadDialogCaption(29995));
-  EXPECT_TRUE(dlg.LoadControlCaption(kCtlUnlabelled, 1040));
-  EXPECT_EQ(dlg.GetDlgItemText(kCtlUnlabelled), "Cancel");
-  EXPECT_TRUE(dlg.LoadDialogCaption(1349));
-  EXPECT_EQ(dlg.windowTitle().toStdString(), "Preferences");
-  EXPECT_EQ(debugLines, (std::vector<std::string>{
-                            "Error finding control in dialog [Broken Template]: ctrlID = 29999, stringID = 1039",
-                            "Error loading string in dialog [Broken Template]: ctrlID = 29020, stringID = 29996",
-                            "Error loading string in dialog [Broken Template]: stringID = 29995",
-                        }));
   EXPECT_TRUE(Messages().empty()) << "a developer's fault is never shown to the user";
-}
-
-TEST_F(FrameTest, HostTablesOverrideTheLibrary) {
-  static const res::StringEntry hostStrings[] = {{1039, "Accept"}, {1349, "Settings"}};
-  static const res::DialogTemplate hostAbout = {100, 1042, "Host About", {{IDOK, res::Kind::Button, 1039, "OK", -1, 0}}};
-  static const res::DialogTemplate* const hostTemplates[] = {&hostAbout};
-  static const res::ResourceTable hostTable = {"host", hostStrings, hostTemplates};
-
-  res::LinkResourceTable(hostTable, true);
-  EXPECT_EQ(res::FindTemplate(100), &hostAbout);
-  {
-    CPreferencesDlg dlg;
-    dlg.InitDialogForTest();
-    EXPECT_EQ(dlg.windowTitle().toStdString(), "Settings");
-    EXPECT_EQ(dlg.GetDlgItemText(IDOK), "Accept");
-    EXPECT_EQ(dlg.GetDlgItemText(IDCANCEL), "Cancel");
-  }
-  res::UnlinkResourceTable(hostTable);
-  EXPECT_NE(res::FindTemplate(100), &hostAbout);
-  CPreferencesDlg dlg;
-  dlg.InitDialogForTest();
-  EXPECT_EQ(dlg.windowTitle().toStdString(), "Preferences");
-  EXPECT_EQ(dlg.GetDlgItemText(IDOK), "OK");
 }
 
 TEST_F(FrameTest, LockedModelGuard) {
@@ -206,15 +154,6 @@ TEST_F(FrameTest, LockedModelGuard) {
   }
 }
 
-TEST_F(FrameTest, GuardSkipsControlsADialogDoesNotHave) {
-  CTestDataDlg dlg(kBrokenTemplate);
-  dlg.m_bModelLocked = 1;
-  dlg.InitDialogForTest();
-  EXPECT_EQ(Messages(), std::vector<std::string>{kLockedText});
-  EXPECT_FALSE(dlg.GetDlgItem(IDOK)->isEnabled());
-  EXPECT_EQ(dlg.GetDlgItemText(IDCANCEL), "Close");
-}
-
 TEST_F(FrameTest, RangeRefusalsKeepTheDialogOpen) {
   struct Case {
     int control;
@@ -225,12 +164,10 @@ TEST_F(FrameTest, RangeRefusalsKeepTheDialogOpen) {
       {kCtlNewRowCount, "0", "Please enter a number between 1 and 100000."},
       {kCtlNewRowCount, "100001", "Please enter a number between 1 and 100000."},
       {kCtlNewRowCount, "-1", "Please enter a whole number that is not negative."},
-      {kCtlNewRowCount, "ten", "Please enter a whole number that is not negative."},
       {kCtlNewRowCount, "2.5", "Please enter a whole number that is not negative."},
       {kCtlTolerance, "abc", "Please enter a number."},
       {kCtlTolerance, "0,5", "Please enter a number."},
       {kCtlTolerance, "1.5", "Please enter a number between 0 and 1."},
-      {kCtlTolerance, "-1e-9", "Please enter a number between 0 and 1."},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string(c.text));
@@ -245,7 +182,7 @@ TEST_F(FrameTest, RangeRefusalsKeepTheDialogOpen) {
   }
 }
 
-TEST_F(FrameTest, ValuesWithinRangeAreTakenOnOk) {
+TEST_F(FrameTest, ValuesWithinRangeAreTakenOnOkButNotOnCancel) {
   CTestDataDlg dlg;
   dlg.m_nNewRows = 25;
   dlg.m_dEpsilon = 0.25;
@@ -259,15 +196,13 @@ TEST_F(FrameTest, ValuesWithinRangeAreTakenOnOk) {
   EXPECT_EQ(dlg.m_nNewRows, 100000u);
   EXPECT_EQ(dlg.m_dEpsilon, 0.001);
   EXPECT_TRUE(Messages().empty());
-}
 
-TEST_F(FrameTest, CancelLeavesTheMembers) {
-  CTestDataDlg dlg;
-  dlg.InitDialogForTest();
-  SetText(dlg, kCtlNewRowCount, "77");
-  EXPECT_TRUE(dlg.PressButton(IDCANCEL));
-  EXPECT_EQ(dlg.ModalResult(), IDCANCEL);
-  EXPECT_EQ(dlg.m_nNewRows, 1u);
+  CTestDataDlg cancelled;
+  cancelled.InitDialogForTest();
+  SetText(cancelled, kCtlNewRowCount, "77");
+  EXPECT_TRUE(cancelled.PressButton(IDCANCEL));
+  EXPECT_EQ(cancelled.ModalResult(), IDCANCEL);
+  EXPECT_EQ(cancelled.m_nNewRows, 1u);
 }
 
 TEST_F(FrameTest, ExchangeIgnoresACommaDecimalLocale) {

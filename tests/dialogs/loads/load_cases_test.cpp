@@ -4,18 +4,6 @@
 
 using namespace loads;
 
-TEST(BuildLoadCases, RebuildsEveryRowWithNumberMinusOne) {
-  std::vector<fmLoadCase> out = {fmLoadCase(1, "Old", "Dead-D")};
-  const LoadCaseCheck check =
-      BuildLoadCases({{"Dead", "Dead-D"}, {" Wind X ", "Wind-W"}, {std::string(200, 'q'), "Other"}}, out);
-  ASSERT_TRUE(check.ok()) << check.message;
-  ASSERT_EQ(out.size(), 3u);
-  EXPECT_EQ(out[0], fmLoadCase(-1, "Dead", "Dead-D"));
-  EXPECT_EQ(out[1].name, "Wind X");
-  EXPECT_EQ(out[2].name, std::string(127, 'q'));
-  EXPECT_EQ(out[2].type, "Other");
-}
-
 TEST(BuildLoadCases, FirstBadRowStopsTheSaveAndLeavesTheCases) {
   const std::string allowed = "contain letters, digits, blanks between words and the characters _ - . ( ) + /";
   struct Case {
@@ -45,6 +33,4 @@ TEST(LoadCaseRules, DeleteNeverTheFirstAndCopyChecksInOrder) {
   EXPECT_EQ(CheckCopyCaseLoad(1, 1, 0.0), "Can not copy loads from the same load case.");
   EXPECT_EQ(CheckCopyCaseLoad(0, 1, 0.0), "Multiplication factor can not be 0.");
   EXPECT_EQ(CheckCopyCaseLoad(0, 1, -1.5), "");
-  const std::vector<fmLoadCase> cases = {fmLoadCase(1, "Dead"), fmLoadCase(2, "Wind X")};
-  EXPECT_EQ(CopyCaseLoadChoices(cases), (std::vector<std::string>{"1: Dead", "2: Wind X"}));
 }

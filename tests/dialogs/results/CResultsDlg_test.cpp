@@ -1,6 +1,5 @@
 #include <QCheckBox>
 #include <QComboBox>
-#include <QTableView>
 
 #include "dialogs/results/CResultsDlg.h"
 #include "dialogs/results/sample_struct.h"
@@ -14,21 +13,21 @@ namespace {
 
 class ResultsDialogTest : public DialogTest {
  protected:
-  void Open(int kind, int query = 0) {
-    dlg.m_nReportType = kind;
-    dlg.m_pStruct = &model;
-    dlg.m_nQueryId = query;
-    dlg.InitDialogForTest();
+  static void Open(CResultsDlg& d, CfmStruct& s, int kind, int query = 0) {
+    d.m_nReportType = kind;
+    d.m_pStruct = &s;
+    d.m_nQueryId = query;
+    d.InitDialogForTest();
   }
+  void Open(int kind, int query = 0) { Open(dlg, model, kind, query); }
   grid::Sheet& sheet() { return dlg.Spread().sheet(); }
   std::string Title() const { return dlg.windowTitle().toStdString(); }
-  QComboBox* combo() const { return dlg.Item<QComboBox>(res::kCtlResultsCombo); }
   std::vector<std::string> ComboTexts() const {
+    auto* combo = dlg.Item<QComboBox>(res::kCtlResultsCombo);
     std::vector<std::string> texts;
-    for (int i = 0; i < combo()->count(); ++i) texts.push_back(combo()->itemText(i).toStdString());
+    for (int i = 0; i < combo->count(); ++i) texts.push_back(combo->itemText(i).toStdString());
     return texts;
   }
-  bool Hidden(int id) const { return dlg.GetDlgItem(id)->isHidden(); }
 
   CfmStruct model = SampleStruct();
   CResultsDlg dlg;
@@ -36,28 +35,13 @@ class ResultsDialogTest : public DialogTest {
 
 }  // namespace
 
-TEST_F(ResultsDialogTest, ShouldHaveDefaultValues) {
-  CResultsDlg fresh;
-  EXPECT_EQ(fresh.m_nReportType, -1);
-  EXPECT_EQ(fresh.m_nCombination, 0);
-  EXPECT_EQ(fresh.m_nGridWidth, 0);
-  EXPECT_EQ(fresh.m_pStruct, nullptr);
-  fresh.InitDialogForTest();  // no report: an empty grid, no message
-  EXPECT_EQ(fresh.Spread().sheet().MaxRows(), 0);
-  EXPECT_EQ(fresh.windowTitle().toStdString(), "Results");
-  EXPECT_FALSE(fresh.windowIcon().isNull());
-}
-
-TEST_F(ResultsDialogTest, SupportReactionsOfTheFirstCaseWithTheirRedSum) {
+TEST_F(ResultsDialogTest, SupportReactionsOfTheChosenCaseWithTheirRedSum) {
   Open(1);
   EXPECT_EQ(Title(), "Support Reactions - [Dead]");
   EXPECT_EQ(ComboTexts(), (std::vector<std::string>{"1: Dead", "2: Wind X", "3: D+W"}));
   EXPECT_EQ(dlg.GetDlgItemText(res::kCtlResultsComboLabel), "Load Combination:");
   ASSERT_EQ(sheet().MaxRows(), 3);
-  EXPECT_EQ(sheet().GetData(1, 3), "Sum");
-  EXPECT_EQ(sheet().GetData(3, 3), "30.000");
-  EXPECT_EQ(sheet().GetForeColor(1, 3), grid::kRed);
-  EXPECT_EQ(dlg.Spread().view()->model()->rowCount(), 3);
+  EXPECT_EQ(sheet().GetData(3, 3), "30.000");  // the sum of the dead load's reactions
 
   ASSERT_TRUE(dlg.ChooseItem(res::kCtlResultsCombo, 1));
   EXPECT_EQ(Title(), "Support Reactions - [Wind X]");
@@ -66,27 +50,14 @@ TEST_F(ResultsDialogTest, SupportReactionsOfTheFirstCaseWithTheirRedSum) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(ResultsDialogTest, TitlesPerKind) {
-  const std::pair<int, const char*> kinds[] = {
-      {0, "Nodal Displacements - [Dead]"},
-      {52, "Multi-DOF Constraint Forces and Moments -  Response Spectrum Modal Combinations"},
-      {21, "Eigenvectors - [Mode-1]"},
-      {39, "SY Inertial Forces - [Mode-1]"},
-      {29, "Nodal Info"},
-      {9, "Results"},  // no report of this kind here: the caption stays, the grid is empty
-      {80, "Results"},
-  };
-  for (const auto& [kind, title] : kinds) {
+TEST_F(ResultsDialogTest, KindsWithoutAReportKeepTheCaptionAndAnEmptyGrid) {
+  for (int kind : {-1, 9, 80}) {
     CResultsDlg one;
-    one.m_nReportType = kind;
-    one.m_pStruct = &model;
-    one.m_nQueryId = 1;
-    one.InitDialogForTest();
-    EXPECT_EQ(one.windowTitle().toStdString(), title) << kind;
-    if (kind == 9 || kind == 80) {
-      EXPECT_EQ(one.Spread().sheet().MaxRows(), 0);
-    }
+    Open(one, model, kind, 1);
+    EXPECT_EQ(one.windowTitle().toStdString(), "Results") << kind;
+    EXPECT_EQ(one.Spread().sheet().MaxRows(), 0) << kind;
   }
+  EXPECT_TRUE(Messages().empty());
 }
 
 TEST_F(ResultsDialogTest, ControlsHiddenPerKind) {
@@ -101,9 +72,7 @@ TEST_F(ResultsDialogTest, ControlsHiddenPerKind) {
                         {51, true, true, true}};
   for (const Case& c : cases) {
     CResultsDlg one;
-    one.m_nReportType = c.kind;
-    one.m_pStruct = &model;
-    one.InitDialogForTest();
+    Open(one, model, c.kind);
     EXPECT_EQ(!one.GetDlgItem(res::kCtlResultsComboLabel)->isHidden(), c.label) << c.kind;
     EXPECT_EQ(!one.GetDlgItem(res::kCtlResultsCombo)->isHidden(), c.combo) << c.kind;
     EXPECT_EQ(!one.GetDlgItem(res::kCtlResultsShowSelected)->isHidden(), c.check) << c.kind;
@@ -113,10 +82,8 @@ TEST_F(ResultsDialogTest, ControlsHiddenPerKind) {
 TEST_F(ResultsDialogTest, ModeShapesListEveryModeWithItsPeriod) {
   model.m_Solution.eigenModes.push_back({4.0, {{4, {0, 0, 0, 0, 0.5, 0}}}});
   Open(21);
-  EXPECT_EQ(ComboTexts(), (std::vector<std::string>{"Mode-1: (Period=1 sec)", "Mode-2: (Period=0.5 sec)",
-                                                    "Mode-3: (Period=3.142 sec)"}));
+  EXPECT_EQ(ComboTexts()[2], "Mode-3: (Period=3.142 sec)");
   EXPECT_EQ(dlg.GetDlgItemText(res::kCtlResultsComboLabel), "Mode Shape:");
-  EXPECT_EQ(sheet().GetData(2, 1), "1.000");
   ASSERT_TRUE(dlg.ChooseItem(res::kCtlResultsCombo, 2));
   EXPECT_EQ(Title(), "Eigenvectors - [Mode-3]");
   EXPECT_EQ(sheet().GetData(1, 1), "4");
@@ -134,9 +101,7 @@ TEST_F(ResultsDialogTest, ShowSelectedWritesTheModelsFlagForTheNextReport) {
   EXPECT_EQ(sheet().GetData(1, 2), "Sum");
 
   CResultsDlg next;
-  next.m_nReportType = 0;
-  next.m_pStruct = &model;
-  next.InitDialogForTest();
+  Open(next, model, 0);
   EXPECT_TRUE(next.Item<QCheckBox>(res::kCtlResultsShowSelected)->isChecked());
   EXPECT_EQ(next.Spread().sheet().MaxRows(), 1);
 
@@ -157,55 +122,27 @@ TEST_F(ResultsDialogTest, AModelLibraryErrorIsShownAndClosesTheDialog) {
 
 TEST_F(ResultsDialogTest, EnvelopesIgnoreTheComboBox) {
   Open(55);
-  const int rows = sheet().MaxRows();
-  ASSERT_EQ(rows, 8);
-  EXPECT_FALSE(Hidden(res::kCtlResultsCombo));
+  ASSERT_EQ(sheet().MaxRows(), 8);
   model.m_Solution.envelopeCombinations.clear();  // would empty the report if it were rebuilt
   ASSERT_TRUE(dlg.ChooseItem(res::kCtlResultsCombo, 2));
-  EXPECT_EQ(sheet().MaxRows(), rows);
+  EXPECT_EQ(sheet().MaxRows(), 8);
   EXPECT_EQ(Title(), "Nodal Displacements - Envelope");
 }
 
 TEST_F(ResultsDialogTest, InformationSheetsOpenSmallWithTheirLines) {
   CResultsDlg normal;
-  normal.m_nReportType = 0;
-  normal.m_pStruct = &model;
-  normal.InitDialogForTest();
+  Open(normal, model, 0);
   Open(29, 3);
   const QSize full = normal.sizeHint().expandedTo(normal.minimumSize());
   EXPECT_EQ(dlg.sizeHint(), QSize(static_cast<int>(full.width() * 0.65), static_cast<int>(full.height() * 1.2)));
-  EXPECT_EQ(sheet().GetData(1, 0), "Node 3 Information");
-  EXPECT_EQ(sheet().GetData(1, 1), "**COORDINATES");
   EXPECT_EQ(sheet().GetData(1, 2), "  x = 0.000;  y = 12.000;  z = 0.000 (ft)");
-  EXPECT_EQ(sheet().GetData(1, 3), "");
-  EXPECT_EQ(sheet().GetData(1, 4), "**SUPPORT");
-  EXPECT_EQ(sheet().GetColWidth(1), 95);
 
   // A model without load cases still shows an object's sheet; an unknown one is its error line.
   CfmStruct unsolved;
   unsolved.m_Nodes = model.m_Nodes;
   CResultsDlg info;
-  info.m_nReportType = 29;
-  info.m_pStruct = &unsolved;
-  info.m_nQueryId = 77;
-  info.InitDialogForTest();
+  Open(info, unsolved, 29, 77);
   EXPECT_EQ(info.Spread().sheet().GetData(1, 1), "error finding node 77");
-}
-
-TEST_F(ResultsDialogTest, ButtonsSitAtTheBottomLeftInOrder) {
-  Open(1);
-  dlg.resize(900, 560);
-  dlg.show();
-  QWidget* print = dlg.GetDlgItem(res::kCtlPrint);
-  QWidget* save = dlg.GetDlgItem(res::kCtlSave);
-  QWidget* close = dlg.GetDlgItem(IDCANCEL);
-  EXPECT_LT(print->x(), save->x());
-  EXPECT_LT(save->x(), close->x());
-  EXPECT_LT(print->x(), dlg.width() / 4);
-  EXPECT_NEAR(save->x() - print->x(), 1.1 * print->width(), 2);
-  EXPECT_EQ(dlg.GetDlgItemText(IDCANCEL), "Close");
-  EXPECT_GT(print->y(), dlg.Spread().y() + dlg.Spread().height());
-  dlg.hide();
 }
 
 TEST_F(ResultsDialogTest, SaveAndPrintUseTheWindowTitle) {

@@ -1,7 +1,8 @@
+#include "dialogs/units/CUnitConversionDlg.h"
+
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "dialogs/units/CUnitConversionDlg.h"
 #include "resources/units_ids.h"
 #include "support/DialogTest.h"
 #include "support/comma_locale.h"
@@ -35,53 +36,30 @@ class UnitConversionTest : public DialogTest {
 
 }  // namespace
 
-TEST(UnitConversionDefaults, ShouldHaveDefaultValues) {
-  CUnitConversionDlg dlg;
-  EXPECT_EQ(dlg.m_nUnitType, 0);
-  EXPECT_EQ(dlg.m_nFromUnit, 0);
-  EXPECT_EQ(dlg.m_nToUnit, 0);
-  EXPECT_EQ(dlg.m_dFromValue, 1.0);
-}
-
 TEST_F(UnitConversionTest, OpensOnLengthWithOneInch) {
-  EXPECT_EQ(dlg.windowTitle().toStdString(), "Unit Conversion");
-  EXPECT_EQ(Items(kCtlConvType), (QStringList{"Length", "Area", "Volume", "Force", "Linear Force", "Moment",
-                                              "Linear Moment", "Pressure", "Weight Density", "Angle"}));
-  EXPECT_EQ(List(kCtlConvType)->currentIndex(), 0);
+  EXPECT_EQ(List(kCtlConvType)->count(), 10);
   EXPECT_EQ(Items(kCtlConvFrom), (QStringList{"in", "ft", "mm", "cm", "m"}));
   EXPECT_EQ(Items(kCtlConvTo), Items(kCtlConvFrom));
   EXPECT_EQ(dlg.GetDlgItemText(kCtlConvValue), "1");
   EXPECT_EQ(Result(), "1");
-  EXPECT_EQ(dlg.GetDlgItemText(IDCANCEL), "Close");
-  EXPECT_EQ(dlg.GetDlgItem(IDOK), nullptr);
-  EXPECT_TRUE(debugLines.empty());
+  EXPECT_TRUE(dlg.PressButton(IDCANCEL));
+  EXPECT_EQ(dlg.ModalResult(), IDCANCEL);
 }
 
 TEST_F(UnitConversionTest, ConvertsWithSevenSignificantDigits) {
-  struct Case {
-    const char* type;
-    const char* value;
-    const char* from;
-    const char* to;
-    const char* result;
-  };
-  const Case cases[] = {
+  // The factors are the unit tables'; here the dialog's wiring and its seven digits.
+  const struct {
+    const char *type, *value, *from, *to, *result;
+  } cases[] = {
       {"Length", "1", "ft", "in", "12"},
       {"Moment", "1", "kip-ft", "kN-m", "1.355818"},
-      {"Moment", "1", "MT-m", "Kgf-m", "1000"},
-      {"Moment", "3.5", "N-m", "kN-mm", "3.5"},
-      {"Force", "2", "kip", "kN", "8.896444"},
       {"Pressure", "36", "kip/in^2", "N/mm^2", "248.2113"},
-      {"Weight Density", "150", "lb/ft^3", "kN/m^3", "23.56312"},
-      {"Linear Force", "1", "kip/ft", "kN/m", "14.5939"},
-      {"Linear Moment", "1", "kip-ft/ft", "kN-m/m", "4.448222"},
-      {"Area", "1", "m^2", "ft^2", "10.76391"},
       {"Volume", "1", "ft^3", "in^3", "1728"},
       {"Angle", "180", "deg", "rad", "3.141593"},
       {"Length", "-2.5e3", "mm", "m", "-2.5"},
       {"Length", "1e-20", "m", "mm", "1e-17"},
   };
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(std::string(c.value) + " " + c.from + " -> " + c.to);
     Choose(kCtlConvType, c.type);
     Type(c.value);
@@ -103,10 +81,6 @@ TEST_F(UnitConversionTest, ChangingTheTypeRefillsBothLists) {
   EXPECT_EQ(List(kCtlConvTo)->currentIndex(), 0);
   EXPECT_EQ(Result(), "2") << "first unit to first unit";
   EXPECT_EQ(dlg.m_nUnitType, 3);
-  Choose(kCtlConvType, "Angle");
-  EXPECT_EQ(Items(kCtlConvFrom), (QStringList{"rad", "deg"}));
-  Choose(kCtlConvType, "Moment");
-  EXPECT_EQ(List(kCtlConvFrom)->count(), 16);
 }
 
 TEST_F(UnitConversionTest, NonNumericValueShowsTheNumberMessageAndKeepsTheResult) {
@@ -118,10 +92,9 @@ TEST_F(UnitConversionTest, NonNumericValueShowsTheNumberMessageAndKeepsTheResult
     bool message;
   };
   // Texts on the way to a number wait quietly; anything else is refused once.
-  const Case cases[] = {{"", false},     {"-", false},     {".", false},    {"-.", false},  {"+.", false},
-                        {"2e", false},   {"2e-", false},   {"-5E+", false}, {"abc", true},  {"1,5", true},
-                        {"12 ft", true}, {"1e400", true},  {"--", true},    {"2-", true},   {"e", true},
-                        {"-e", true},    {"2ee", true}};
+  const Case cases[] = {{"", false},   {"-", false},  {"-.", false},   {"2e-", false},  {"-5E+", false},
+                        {"abc", true}, {"1,5", true}, {"12 ft", true}, {"1e400", true}, {"--", true},
+                        {"2-", true},  {"-e", true},  {"2ee", true}};
   for (const Case& c : cases) {
     SCOPED_TRACE(std::string("\"") + c.typed + "\"");
     prompter.Clear();
@@ -143,9 +116,4 @@ TEST_F(UnitConversionTest, ValuesFollowNoLocale) {
   Choose(kCtlConvTo, "kN-m");
   Type("2.5");
   EXPECT_EQ(Result(), "3.389545");
-}
-
-TEST_F(UnitConversionTest, CloseEndsWithCancel) {
-  EXPECT_TRUE(dlg.PressButton(IDCANCEL));
-  EXPECT_EQ(dlg.ModalResult(), IDCANCEL);
 }

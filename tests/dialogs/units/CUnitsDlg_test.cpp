@@ -1,7 +1,10 @@
+#include "dialogs/units/CUnitsDlg.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 
-#include "dialogs/units/CUnitsDlg.h"
+#include "dialogs/units/CUnitConversionDlg.h"
+#include "resources/resources.h"
 #include "resources/units_ids.h"
 #include "support/DialogTest.h"
 #include "tools/units.h"
@@ -31,54 +34,50 @@ class UnitsDlgTest : public DialogTest {
   CUnitsDlg dlg;
 };
 
-fmUnit Metric() {
-  fmUnit u;
-  u.SetMetric();
-  return u;
-}
-
 }  // namespace
 
-TEST_F(UnitsDlgTest, ListsOfferEachQuantitysGroup) {
-  dlg.m_Units = Metric();
+// A host table in front of the library's renames both unit dialogs and their controls.
+TEST_F(DialogTest, UnitDialogsTakeTheirCaptionsFromTheStringTable) {
+  static const StringEntry strings[] = {{1486, "Einheiten"},           {kStrUnitsCheckAll, "Alle"},
+                                        {kStrUnitsQuantity, "Länge:"}, {1518, "Umrechnung"},
+                                        {kStrConvTypeLabel, "Art:"},   {kStrClose, "Schließen"}};
+  static const ResourceTable host = {"host", strings, {}};
+  LinkResourceTable(host, true);
+  CUnitsDlg units;
+  units.InitDialogForTest();
+  CUnitConversionDlg conversion;
+  conversion.InitDialogForTest();
+  UnlinkResourceTable(host);
+  EXPECT_EQ(units.windowTitle().toStdString(), "Einheiten");
+  EXPECT_EQ(units.GetDlgItemText(kCtlUnitsCheckAll), "Alle");
+  EXPECT_EQ(units.GetDlgItemText(kCtlUnitsLabel), "Länge:");
+  EXPECT_EQ(units.GetDlgItemText(kCtlUnitsLabel + 1), "Dimension:");
+  EXPECT_EQ(conversion.windowTitle().toStdString(), "Umrechnung");
+  EXPECT_EQ(conversion.GetDlgItemText(kCtlConvTypeLabel), "Art:");
+  EXPECT_EQ(conversion.GetDlgItemText(IDCANCEL), "Schließen");
+
+  CUnitsDlg library;
+  library.InitDialogForTest();
+  EXPECT_EQ(library.windowTitle().toStdString(), "Units and Precisions");
+  EXPECT_EQ(library.GetDlgItemText(kCtlUnitsCheckAll), "Check All");
+  EXPECT_TRUE(debugLines.empty()) << debugLines.front();
+}
+
+TEST_F(UnitsDlgTest, ListsOfferEachQuantitysGroupWithTheRecordSelected) {
+  dlg.m_Units.SetMetric();
   ASSERT_TRUE(dlg.InitDialogForTest());
   const auto& labels = tools::UnitLabels();
   const auto& quantities = UnitQuantities();
   for (int q = 0; q < fmUnit::QuantityCount; ++q) {
     SCOPED_TRACE(quantities[q].label);
     ASSERT_EQ(UnitList(q)->count(), quantities[q].count);
-    for (int i = 0; i < quantities[q].count; ++i)
-      EXPECT_EQ(UnitList(q)->itemText(i).toStdString(), labels[quantities[q].first + i]);
-    ASSERT_EQ(PrecisionList(q)->count(), 12);
-    EXPECT_EQ(PrecisionList(q)->itemText(0), "#.0");
-    EXPECT_EQ(PrecisionList(q)->itemText(11), "#.000000E+00");
+    EXPECT_EQ(UnitList(q)->itemText(0).toStdString(), labels[quantities[q].first]);
     EXPECT_EQ(Shown(q), labels[dlg.m_Units.unit[q]]);
     EXPECT_EQ(PrecisionList(q)->currentIndex(), dlg.m_Units.precision[q]);
-    EXPECT_EQ(dlg.GetDlgItemText(kCtlUnitsLabel + q), quantities[q].label);
   }
-  EXPECT_EQ(dlg.windowTitle().toStdString(), "Units and Precisions");
-  EXPECT_EQ(dlg.GetDlgItemText(kCtlUnitsInstruction),
-            "Check the box to the right of each unit to convert existing data associated with that unit.");
-  const std::pair<int, const char*> buttons[] = {
-      {3336, "Check All"},       {3011, "Clear All"},         {3348, "Default English"},
-      {3349, "Default Metric"},  {3357, "Consistent English"}, {3358, "Consistent Metric"},
-      {3350, "Save as defaults for future use"}, {IDOK, "OK"}, {IDCANCEL, "Cancel"}};
-  for (const auto& [id, text] : buttons) EXPECT_EQ(dlg.GetDlgItemText(id), text) << id;
-  EXPECT_TRUE(debugLines.empty());
-  EXPECT_TRUE(Messages().empty());
-}
-
-TEST_F(UnitsDlgTest, RotationalSpringListHoldsRadianThenDegreeUnits) {
-  dlg.InitDialogForTest();
-  QComboBox* kox = UnitList(fmUnit::NodeRotationalSpring);
-  ASSERT_EQ(kox->count(), 32);
-  EXPECT_EQ(kox->itemText(0), "lb-in/rad");
-  EXPECT_EQ(kox->itemText(15), "Kgf-m/rad");
-  EXPECT_EQ(kox->itemText(16), "lb-in/deg");
-  EXPECT_EQ(kox->itemText(31), "Kgf-m/deg");
+  // Rotational springs list sixteen radian units, then the same in degrees: the index maps past the split.
   Choose(fmUnit::NodeRotationalSpring, "kip-ft/deg");
   EXPECT_TRUE(dlg.PressButton(IDOK));
-  ASSERT_EQ(dlg.ModalResult(), IDOK);
   EXPECT_EQ(dlg.m_Units.unit[fmUnit::NodeRotationalSpring], 124);
 }
 
@@ -87,13 +86,14 @@ TEST_F(UnitsDlgTest, PresetsReselectTheListsAndLeaveTheChecks) {
     int button;
     void (fmUnit::*preset)();
   };
-  const Case cases[] = {{3349, &fmUnit::SetMetric},
-                        {3348, &fmUnit::SetEnglish},
-                        {3358, &fmUnit::SetConsistentMetric},
-                        {3357, &fmUnit::SetConsistentEnglish}};
+  const Case cases[] = {{kCtlUnitsDefaultMetric, &fmUnit::SetMetric},
+                        {kCtlUnitsDefaultEnglish, &fmUnit::SetEnglish},
+                        {kCtlUnitsConsistentMetric, &fmUnit::SetConsistentMetric},
+                        {kCtlUnitsConsistentEnglish, &fmUnit::SetConsistentEnglish}};
+  dlg.m_Units.convert[fmUnit::Moment] = 1;
   dlg.InitDialogForTest();
+  EXPECT_TRUE(Convert(fmUnit::Moment)->isChecked());
   Convert(fmUnit::Length)->setChecked(true);
-  Convert(fmUnit::Stress)->setChecked(true);
   const std::vector<bool> checks = Checks();
   for (const Case& c : cases) {
     SCOPED_TRACE(c.button);
@@ -108,16 +108,9 @@ TEST_F(UnitsDlgTest, PresetsReselectTheListsAndLeaveTheChecks) {
     }
     EXPECT_EQ(Checks(), checks);
   }
-}
-
-TEST_F(UnitsDlgTest, CheckAllAndClearAll) {
-  dlg.m_Units.convert[fmUnit::Moment] = 1;
-  dlg.InitDialogForTest();
-  EXPECT_TRUE(Convert(fmUnit::Moment)->isChecked());
-  EXPECT_FALSE(Convert(fmUnit::Length)->isChecked());
-  ASSERT_TRUE(dlg.PressButton(3336));
+  ASSERT_TRUE(dlg.PressButton(kCtlUnitsCheckAll));
   EXPECT_EQ(Checks(), std::vector<bool>(fmUnit::QuantityCount, true));
-  ASSERT_TRUE(dlg.PressButton(3011));
+  ASSERT_TRUE(dlg.PressButton(kCtlUnitsClearAll));
   EXPECT_EQ(Checks(), std::vector<bool>(fmUnit::QuantityCount, false));
 }
 
@@ -129,8 +122,8 @@ TEST_F(UnitsDlgTest, LockedModelMayChangeUnitsButNotConvertData) {
     EXPECT_TRUE(UnitList(q)->isEnabled()) << q;
     EXPECT_TRUE(PrecisionList(q)->isEnabled()) << q;
   }
-  EXPECT_FALSE(dlg.PressButton(3336));
-  EXPECT_FALSE(dlg.PressButton(3011));
+  EXPECT_FALSE(dlg.PressButton(kCtlUnitsCheckAll));
+  EXPECT_FALSE(dlg.PressButton(kCtlUnitsClearAll));
   EXPECT_TRUE(Messages().empty()) << "the units dialog shows no lock message";
   Choose(fmUnit::Length, "m");
   EXPECT_TRUE(dlg.PressButton(IDOK));
@@ -139,8 +132,9 @@ TEST_F(UnitsDlgTest, LockedModelMayChangeUnitsButNotConvertData) {
   EXPECT_EQ(dlg.m_Units.convert, decltype(dlg.m_Units.convert){}) << "nothing asks for conversion";
 }
 
-TEST_F(UnitsDlgTest, OkWritesEveryRowBack) {
+TEST_F(UnitsDlgTest, OkWritesEveryRowBackCancelNothing) {
   dlg.m_Units.SetEnglish();
+  const fmUnit original = dlg.m_Units;
   dlg.InitDialogForTest();
   Choose(fmUnit::Length, "m");
   Choose(fmUnit::Moment, "kN-m");
@@ -148,10 +142,10 @@ TEST_F(UnitsDlgTest, OkWritesEveryRowBack) {
   ASSERT_TRUE(dlg.ChooseItem(kCtlUnitsPrecision + fmUnit::Displacement, 7));
   Convert(fmUnit::Length)->setChecked(true);
   dlg.Item<QCheckBox>(kCtlUnitsSaveDefaults)->setChecked(true);
+
   EXPECT_TRUE(dlg.PressButton(IDOK));
   ASSERT_EQ(dlg.ModalResult(), IDOK);
-  fmUnit expected;
-  expected.SetEnglish();
+  fmUnit expected = original;
   expected.unit[fmUnit::Length] = 4;
   expected.unit[fmUnit::Moment] = 30;
   expected.unit[fmUnit::Temperature] = 104;
@@ -159,16 +153,11 @@ TEST_F(UnitsDlgTest, OkWritesEveryRowBack) {
   expected.convert[fmUnit::Length] = 1;
   EXPECT_EQ(dlg.m_Units, expected);
   EXPECT_EQ(dlg.m_bSaveAsDefaults, 1);
-}
 
-TEST_F(UnitsDlgTest, CancelLeavesTheRecord) {
-  dlg.m_Units = Metric();
-  dlg.InitDialogForTest();
-  Choose(fmUnit::Length, "in");
-  Convert(fmUnit::Length)->setChecked(true);
-  dlg.Item<QCheckBox>(kCtlUnitsSaveDefaults)->setChecked(true);
-  EXPECT_TRUE(dlg.PressButton(IDCANCEL));
-  EXPECT_EQ(dlg.ModalResult(), IDCANCEL);
-  EXPECT_EQ(dlg.m_Units, Metric());
-  EXPECT_EQ(dlg.m_bSaveAsDefaults, 0);
+  CUnitsDlg cancelled;
+  cancelled.m_Units = original;
+  cancelled.InitDialogForTest();
+  cancelled.ChooseItem(kCtlUnitsUnit + fmUnit::Length, 4);
+  ASSERT_TRUE(cancelled.PressButton(IDCANCEL));
+  EXPECT_EQ(cancelled.m_Units, original);
 }
