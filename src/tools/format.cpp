@@ -14,19 +14,10 @@ locale_t CLocale() {
   return c;
 }
 
-// Switches only the calling thread to the C locale for the duration of one call.
-class ScopedCLocale {
- public:
-  ScopedCLocale() : previous_(uselocale(CLocale())) {}
-  ~ScopedCLocale() { uselocale(previous_); }
-  ScopedCLocale(const ScopedCLocale&) = delete;
-  ScopedCLocale& operator=(const ScopedCLocale&) = delete;
-
- private:
-  locale_t previous_;
-};
-
 }  // namespace
+
+ScopedCLocale::ScopedCLocale() : previous_(uselocale(CLocale())) {}
+ScopedCLocale::~ScopedCLocale() { uselocale(previous_); }
 
 std::string Format(const char* fmt, ...) {
   ScopedCLocale c_locale;

@@ -2,7 +2,22 @@
 #include <string>
 #include <string_view>
 
+#include <locale.h>
+
 namespace tools {
+
+// Switches the calling thread to the "C" conventions while it lives, for libraries that
+// write numbers through printf (the workbook writer), whatever the process locale is.
+class ScopedCLocale {
+ public:
+  ScopedCLocale();
+  ~ScopedCLocale();
+  ScopedCLocale(const ScopedCLocale&) = delete;
+  ScopedCLocale& operator=(const ScopedCLocale&) = delete;
+
+ private:
+  locale_t previous_;
+};
 
 // printf-style formatting that always uses the "C" conventions ("1.5", never "1,5"),
 // whatever locale the host process or Qt has set.

@@ -167,6 +167,9 @@ lxw_error WriteCell(lxw_worksheet* ws, lxw_row_t row, lxw_col_t col, const std::
 std::optional<std::string> WriteWorkbook(const Sheet& sheet, const std::string& file, const std::string& target,
                                          const std::string& title) {
   const int rows = sheet.MaxRows(), cols = sheet.MaxCols();
+  // The workbook library prints numbers and widths with printf, so with a comma locale a
+  // spreadsheet program would read "-0,5" as text; it lives until the workbook is closed.
+  const tools::ScopedCLocale cLocale;
   const int64_t cells = int64_t(rows + 1) * cols;
   // A zip member over 4 GB needs the ZIP64 extension; estimate the worksheet's XML generously.
   const bool zip64 = cells * 64 > (int64_t(3) << 30);
