@@ -61,7 +61,7 @@ TEST_F(NodeDialogTest, EditsAndNewRowsAreWrittenBackOnOkInRowOrder) {
   EXPECT_EQ(nodes[4], (fmNd{8, 0, 1.0, 2.0, 3.0}));
 }
 
-TEST_F(NodeDialogTest, RefusalsKeepTheDialogOpenAndTheNodesUnchanged) {
+TEST_F(NodeDialogTest, RefusalsAndCancelLeaveTheNodesUnchanged) {
   struct Case {
     std::vector<std::pair<int, int>> emptied;  // cells (col, row)
     const char* text;
@@ -91,10 +91,7 @@ TEST_F(NodeDialogTest, RefusalsKeepTheDialogOpenAndTheNodesUnchanged) {
   AddNewRows("100001");
   EXPECT_EQ(Messages().back(), "Please enter a number between 1 and 100000.");
   EXPECT_EQ(sheet().MaxRows(), 4);
-}
 
-TEST_F(NodeDialogTest, CancelLeavesTheNodesAsTheyWere) {
-  Open(dlg);
   sheet().SetData(2, 1, "99");
   AddNewRows("1");
   dlg.PressButton(IDCANCEL);

@@ -95,22 +95,6 @@ TEST(ElementGrid, EditedChoicesBecomeReferencesAndFlags) {
   EXPECT_EQ(result.elements[2].nonlinear, fmNonlinear::Linear);
 }
 
-TEST(ElementGrid, NewRowsGetPlainChoicesAndAnEmptyAngleReadsAsZero) {
-  const Lists lists;
-  grid::Sheet sheet = Filled(kShellsSample, lists);
-  const int first = grid::AddRows(sheet, 3, true);
-  SetNewRowDefaults(sheet, kShells, first, sheet.MaxRows());
-  EXPECT_EQ(sheet.GetData(9, 3), "Active");
-  EXPECT_EQ(sheet.GetData(11, 5), "Normal");
-  for (int k = 0; k < 4; ++k) sheet.SetData(2 + k, 3, std::to_string(6 + k));
-  sheet.SetData(6, 3, "1: Steel");
-  sheet.SetData(7, 3, "2: Wall12in");
-  const auto result = ReadBack(sheet, kShellsSample, lists);
-  ASSERT_FALSE(result.failure) << result.failure->message;
-  ASSERT_EQ(result.elements.size(), 3u);
-  EXPECT_EQ(result.elements[2], (fmShell4{{3, 0, 1}, {6, 7, 8, 9}, 2, 0}));
-}
-
 TEST(ElementGrid, AReferenceOutsideTheListIsNamedByTheLookUp) {
   Lists lists;
   std::vector<fmBm> members = kMembersSample;
