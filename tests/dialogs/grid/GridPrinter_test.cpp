@@ -9,6 +9,7 @@
 #include "support/DialogTest.h"
 #include "support/TempDir.h"
 #include "support/files.h"
+#include "support/run_program.h"
 
 namespace {
 
@@ -167,4 +168,13 @@ TEST_F(GridPrintTest, NodeDialogPrintsAndSavesItsTableUnderItsTitle) {
   const std::string workbook = CommandOutput("unzip -p '" + dir / "nodes.xlsx" + "' xl/workbook.xml");
   EXPECT_NE(workbook.find("name=\"Node Table\""), std::string::npos) << workbook;
   EXPECT_EQ(nodes.size(), 2u);
+}
+
+TEST(HostPrintToPdf, PrintsTheWholeTableOfAGridDialog) {
+  TempDir dir;
+  const std::string pdf = dir / "nodes.pdf";
+  auto r = testsupport::RunProgram(NORVANE_HOST_PATH, {"--show", "CNodeDataDlg", "--print-to-pdf", pdf});
+  EXPECT_EQ(r.status, 0) << r.err;
+  EXPECT_EQ(r.out, "Wrote " + pdf + " (1 page)\n");
+  EXPECT_NE(PdfPageText(pdf, 1).find("Page 1 of 1"), std::string::npos);
 }
