@@ -1,5 +1,6 @@
 #include "tools/shape_table.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -13,6 +14,13 @@
 namespace {
 
 const std::string kDataDir = NORVANE_SOURCE_DATA_DIR;
+// The shared test data beside the project; NORVANE_TEST_DATA_DIR in the environment
+// points elsewhere (a worktree checked out away from it).
+std::string TestDataDir() {
+  const char* dir = std::getenv("NORVANE_TEST_DATA_DIR");
+  return dir && *dir ? dir : NORVANE_TEST_DATA_DIR;
+}
+const std::string kPublished = TestDataDir() + "/aisc-shapes-v15.0-US.csv";
 bool Exists(const std::string& path) { return std::filesystem::exists(path); }
 
 std::string Read(const std::string& path) { return Exists(path) ? tools::ReadWholeFile(path) : std::string(); }
@@ -154,4 +162,19 @@ TEST_F(ShapeLibraryTest, BundledLibraryExportsAndReimportsUnchanged) {
   EXPECT_EQ(Read(csv).substr(0, 39), "EDI_Std_Nomenclature,AISC_Manual_Label,");
   tools::ascii_binary(csv);
   EXPECT_TRUE(tools::CurrentAiscLibrary()->shapes() == installed.shapes());
+}
+
+TEST_F(ShapeLibraryTest, PublishedDatabaseImportsAndExportsUnchanged) {
+  if (!Exists(kPublished)) GTEST_SKIP() << "the published shapes database is not present at " << kPublished;
+  tools::ascii_binary(kPublished);
+  const tools::AiscLibrary* lib = tools::CurrentAiscLibrary();
+  ASSERT_NE(lib, nullptr);
+  EXPECT_EQ(lib->size(), 2091u);
+  const auto published = tools::ParseAiscCsv(Read(kPublished), kPublished);
+  const std::string exported = files / "exported.csv";
+  tools::binary_ascii(exported);
+  const auto back = tools::ParseAiscCsv(Read(exported), exported);
+  ASSERT_EQ(back.size(), published.size());
+  for (size_t i = 0; i < back.size(); ++i) EXPECT_TRUE(back[i] == published[i]) << published[i].label;
+  EXPECT_TRUE(Read(exported) == Read(kPublished)) << "the export writes the published layout";
 }
