@@ -50,8 +50,7 @@ class ComboDialogTest : public DialogTest {
     for (const auto& c : combs) labels.push_back(c.name);
     return labels;
   }
-  // The editor: note the proposed label, set the label (when given), the concrete flag and a
-  // factor per case row, then OK.
+  // The editor: note the proposed label, set label (when given), concrete flag and factors, OK.
   std::function<int(CDialog&)> Editor(std::string label, Texts factors, bool concrete = false) {
     return [=, this](CDialog& d) {
       auto& item = static_cast<CLoadComboItemDlg&>(d);
@@ -64,7 +63,6 @@ class ComboDialogTest : public DialogTest {
       return item.ModalResult();
     };
   }
-  // The code dialog: choose the code, check the rows, OK.
   std::function<int(CDialog&)> Codes(int code, std::vector<int> rows, bool pdelta = false) {
     return [=](CDialog& d) {
       auto& codes = static_cast<CStdLoadCombinationDlg&>(d);

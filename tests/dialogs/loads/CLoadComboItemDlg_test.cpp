@@ -35,7 +35,7 @@ class ComboEditorTest : public DialogTest {
 
 }  // namespace
 
-TEST_F(ComboEditorTest, ShowsTheCombinationAndOneGridRowPerCase) {
+TEST_F(ComboEditorTest, ShowsOneGridRowPerCaseAndOkStoresTheNonZeroRows) {
   EXPECT_EQ(dlg.GetDlgItemText(kCtlItemLabel), "Ultimate");
   EXPECT_TRUE(dlg.Item<QCheckBox>(kCtlItemConcreteDesign)->isChecked());
   EXPECT_FALSE(dlg.Item<QCheckBox>(kCtlItemPDelta)->isChecked());
@@ -45,12 +45,8 @@ TEST_F(ComboEditorTest, ShowsTheCombinationAndOneGridRowPerCase) {
   EXPECT_EQ(rows, (std::vector<std::string>{"Dead 1.2", "Live 0", "Wind X -0.5"}));
   EXPECT_TRUE(sheet().IsLocked(1, 2));
   EXPECT_FALSE(sheet().IsLocked(2, 2));
-  SetText(kCtlItemLabel, "ULS 1");
-  EXPECT_EQ(dlg.PrintTitle(), "Load Comb - ULS 1 Table");
-}
-
-TEST_F(ComboEditorTest, OkStoresLabelFlagsFactorsAndTheNonZeroRows) {
   SetText(kCtlItemLabel, "ULS");
+  EXPECT_EQ(dlg.PrintTitle(), "Load Comb - ULS Table");
   dlg.Item<QCheckBox>(kCtlItemPDelta)->setChecked(true);
   dlg.Item<QCheckBox>(kCtlItemConcreteDesign)->setChecked(false);
   SetText(kCtlItemSustained, "0");
