@@ -20,13 +20,10 @@ const res::StringEntry kTestStrings[] = {{kStrCaption, "Test Data"}, {kStrNewRow
 const res::DialogTemplate kTest = {
     kTestTemplate, kStrCaption, "Template Caption",
     {
-        {kCtlNewRowCount, res::Kind::Edit, 0, "", 0, 0},
-        {kCtlNewRows, res::Kind::Button, kStrNewRows, "template text", 0, 1},
+        {kCtlNewRowCount, res::Kind::Edit, 0, "", 0, 0}, {kCtlNewRows, res::Kind::Button, kStrNewRows, "template text", 0, 1},
         {kCtlToleranceLabel, res::Kind::Static, kStrTolerance, "template text", 1, 0},
-        {kCtlTolerance, res::Kind::Edit, 0, "", 1, 1},
-        {kCtlRound, res::Kind::Button, 0, "Round", 2, 0},
-        {IDOK, res::Kind::Button, 1039, "template OK", -1, 0},
-        {IDCANCEL, res::Kind::Button, 1040, "template Cancel", -1, 1},
+        {kCtlTolerance, res::Kind::Edit, 0, "", 1, 1}, {kCtlRound, res::Kind::Button, 0, "Round", 2, 0},
+        {IDOK, res::Kind::Button, 1039, "template OK", -1, 0}, {IDCANCEL, res::Kind::Button, 1040, "template Cancel", -1, 1},
     }};
 
 // Names strings that no table has: the dialog must still open with the template's texts.
@@ -34,8 +31,7 @@ const res::DialogTemplate kBroken = {
     kBrokenTemplate, kStrMissingCaption, "Broken Template",
     {
         {kCtlUnlabelled, res::Kind::Static, kStrMissingText, "Template words", 0, 0},
-        {IDOK, res::Kind::Button, 1039, "OK", -1, 0},
-        {IDCANCEL, res::Kind::Button, 1040, "Cancel", -1, 1},
+        {IDOK, res::Kind::Button, 1039, "OK", -1, 0}, {IDCANCEL, res::Kind::Button, 1040, "Cancel", -1, 1},
     }};
 
 const res::DialogTemplate* const kTestTemplates[] = {&kTest, &kBroken};
