@@ -5,8 +5,6 @@
 using AboutTest = DialogTest;
 
 TEST_F(AboutTest, VersionLineNamesTheTitleVersionAndBuild) {
-  ASSERT_STRNE(tools::kReleaseVersion, "");
-  ASSERT_STRNE(tools::kReleaseBuild, "");
   const std::string versionAndBuild = std::string("  Version ") + tools::kReleaseVersion + " (Build " +
                                       tools::kReleaseBuild + ")";
   for (const char* title : {"", "Norvane Bridge"}) {

@@ -4,8 +4,6 @@
 
 using TemplatesTest = DialogTest;
 
-// Every library template builds into widgets, each control findable by its id, and every
-// caption and control text is found: no debug line at all.
 TEST_F(TemplatesTest, EveryTemplateBuildsAndFindsAllItsTexts) {
   for (const res::ResourceTable* table : res::LibraryResourceTables()) {
     for (const res::DialogTemplate* t : table->templates) {
