@@ -1,6 +1,5 @@
 #include "dialogs/design/CAiscDataDlg.h"
 
-#include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTreeWidget>
@@ -34,12 +33,6 @@ TEST_F(SectionsDialogTest, SteelBrowserFiltersSearchesAndShowsThePropertiesInThe
   EXPECT_EQ(Property(dlg, "A"), "26.5 in^2");
   EXPECT_EQ(Property(dlg, "W"), "0.09 kip/ft");
 
-  auto* types = dlg.Item<QComboBox>(res::kCtlShapeType);
-  const int pipe = types->findText("PIPE");
-  ASSERT_GT(pipe, 0);
-  dlg.ChooseItem(res::kCtlShapeType, pipe);
-  for (int i = 0; i < list->count(); ++i) EXPECT_EQ(list->item(i)->text().left(4).toStdString(), "Pipe");
-  dlg.ChooseItem(res::kCtlShapeType, 0);
   dlg.Item<QLineEdit>(res::kCtlShapeFind)->setText("hss6x6x1/2");
   ASSERT_EQ(list->count(), 1);
   dlg.PressButton(IDOK);

@@ -67,8 +67,6 @@ TEST_F(UnitConversionTest, OpensOnOneInchAndChangingTheTypeRefillsBothLists) {
   Choose(kCtlConvType, "Force");
   EXPECT_EQ(Items(kCtlConvFrom), (QStringList{"lb", "kip", "N", "kN", "MT", "Kgf"}));
   EXPECT_EQ(Items(kCtlConvTo), Items(kCtlConvFrom));
-  EXPECT_EQ(List(kCtlConvFrom)->currentIndex(), 0);
-  EXPECT_EQ(List(kCtlConvTo)->currentIndex(), 0);
   EXPECT_EQ(Result(), "2") << "first unit to first unit";
   EXPECT_EQ(dlg.m_nUnitType, 3);
 }
