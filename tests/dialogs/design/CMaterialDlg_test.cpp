@@ -23,10 +23,9 @@ std::vector<fmMat> Sample() { return {Steel(1, "A992"), Steel(2, "A36")}; }
 
 class MaterialDialogTest : public SectionsDialogTest {
  protected:
-  void Open(bool locked = false) {
+  void Open() {
     dlg.m_pUnits = &units;
     dlg.m_pMaterials = &materials;
-    dlg.m_bModelLocked = locked;
     dlg.InitDialogForTest();
   }
   grid::Sheet& sheet() { return dlg.Spread().sheet(); }
