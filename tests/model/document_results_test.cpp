@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "dialogs/results/sample_struct.h"
 #include "model/document_helpers.h"
 #include "model/solved_structure.h"
@@ -8,19 +10,12 @@ using namespace doc_test;
 
 namespace {
 
-model::ModelDocument WithResults(const std::string& results) {
-  return Parse(R"(, "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0}, {"id": 2, "x": 0, "y": 12, "z": 0}])" +
-               (results.empty() ? std::string() : ", \"results\": " + results));
+std::string TwoNodesAnd(const std::string& results) {
+  return R"(, "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0}, {"id": 2, "x": 0, "y": 12, "z": 0}])" +
+         (results.empty() ? std::string() : ", \"results\": " + results);
 }
 
-std::string ResultsRefusal(const std::string& results) {
-  try {
-    WithResults(results);
-  } catch (const model::DocumentLoadError& e) {
-    return e.place() + ": " + e.problem();
-  }
-  return "loaded";
-}
+model::ModelDocument WithResults(const std::string& results) { return Parse(TwoNodesAnd(results)); }
 
 }  // namespace
 
@@ -61,20 +56,13 @@ TEST(DocumentResults, MalformedResultsAreRefusedWithThePlaceAndTheReason) {
        "/results/cases/0/displacements/1: expected 7 numbers: the node or element number and six values"},
       {R"({"cases": [{"label": "D", "reactions": [[1.5, 0, 0, 0, 0, 0, 0]]}]})",
        "/results/cases/0/reactions/0/0: expected a whole number from -2147483648 to 2147483647"},
-      {R"({"cases": [{"label": "D", "displacements": [[1, 0, "x", 0, 0, 0, 0]]}]})",
-       "/results/cases/0/displacements/0/2: expected a number"},
-      {R"({"cases": [{"displacements": []}]})", "/results/cases/0: missing \"label\""},
-      {R"({"cases": [{"label": "D", "constraintForces": [[1, 1, 6, 0.5, 2, 0, 0.5]]}]})",
-       "/results/cases/0/constraintForces/0/2: expected a whole number from 0 to 5"},
       {R"({"nodalLoads": [{"node": 1, "case": "D", "direction": "W", "magnitude": 1}]})",
        "/results/nodalLoads/0/direction: expected one of X, Y, Z, OX, OY, OZ"},
       {R"({"coupledSprings": [{"node": 1, "k": [1, 2, 3]}]})", "/results/coupledSprings/0/k: expected 21 numbers"},
-      {R"({"eigenModes": [{"shape": []}]})", "/results/eigenModes/0: missing \"omega2\""},
       {R"({"units": {"unit": [1, 0, 16, 40, 24, 56, 72, 15, 101, 103, 71, 86, 5, 71, 39, 108, 72, 88]}})",
        "/results/units/unit/7: unit not of the kind of \"Displacement:\""},
-      {R"([1, 2])", "/results: expected an object"},
   };
-  for (const auto& [results, refusal] : cases) EXPECT_EQ(ResultsRefusal(results), refusal) << results;
+  for (const auto& [results, refusal] : cases) EXPECT_EQ(Refusal(TwoNodesAnd(results)), refusal) << results;
 }
 
 TEST(DocumentResults, ResultsThatDoNotFitTheNodesLoadAndAreReported) {
@@ -95,26 +83,15 @@ TEST(DocumentResults, TheSolvedStructureCarriesTheModelsTablesAndFlag) {
   EXPECT_EQ(doc.results.units, doc.units);  // result units default to the document's
   doc.display.showSelectedOnly = true;
   doc.nodes.push_back({3, 0, 20, 0, 0});
-  fmBm column;
-  column.id = 7;
-  column.nodes = {1, 2};
-  column.sect = 2;
-  column.angle = 90;
-  column.nonlinear = fmNonlinear::CompressionOnly;
-  column.flags = fmElementBase::kSelected | fmElementBase::kNoSelfWeight;
-  fmBm beam = column;
-  beam.id = 8;
-  beam.nodes = {1, 3};
-  doc.members = {column, beam};
+  const uint32_t flags = fmElementBase::kSelected | fmElementBase::kNoSelfWeight;
+  doc.members = {{{7, flags, 1}, {1, 2}, 2, 90, fmNonlinear::CompressionOnly},
+                 {{8, 0, 1}, {1, 3}, 2, 0, fmNonlinear::Linear}};
   const CfmStruct s = model::SolvedStructure(doc);
   EXPECT_EQ(s.m_nShowSelected, 1);
   EXPECT_EQ(s.GetCaseName(0), "Dead");
   const CfmStruct::Member* m = s.FindMember(7);
   ASSERT_NE(m, nullptr);
-  EXPECT_EQ(m->section, 2);
-  EXPECT_EQ(m->angle, 90.0);
-  EXPECT_EQ(m->nonlinearity, 2);
-  EXPECT_TRUE(m->column);  // vertical
+  EXPECT_EQ(std::tuple(m->section, m->angle, m->nonlinearity, m->column), std::tuple(2, 90.0, 2, true));  // vertical
   EXPECT_TRUE(s.IsMemberSelected(7));
   EXPECT_EQ(m->flags & CfmStruct::kSelfWeightExcluded, CfmStruct::kSelfWeightExcluded);
   EXPECT_FALSE(s.FindMember(8)->column);  // horizontal

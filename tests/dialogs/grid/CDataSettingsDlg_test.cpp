@@ -42,33 +42,7 @@ TEST_F(DataSettingsTest, ShouldRefuseValuesOutOfRangeAndStayOpen) {
   }
 }
 
-TEST_F(DataSettingsTest, ShouldTakeTheChosenColourAndKeepItWhenCancelled) {
-  CDataSettingsDlg dlg;
-  dlg.m_crAlternateRowColor = 0xF0F5FF;
-  dlg.InitDialogForTest();
-  EXPECT_EQ(dlg.windowTitle().toStdString(), "Spreadsheet Settings");
-  EXPECT_EQ(ColorText(dlg), "#F0F5FF");
-  EXPECT_EQ(dlg.Item<QPushButton>(res::kCtlDsColor)->icon().pixmap(40, 16).toImage().pixelColor(20, 8),
-            QColor(0xF0, 0xF5, 0xFF));
-  prompter.QueueColor(0x123456);
-  ASSERT_TRUE(dlg.PressButton(res::kCtlDsColor));
-  EXPECT_EQ(ColorText(dlg), "#123456");
-  prompter.QueueCancel();
-  ASSERT_TRUE(dlg.PressButton(res::kCtlDsColor));
-  EXPECT_EQ(ColorText(dlg), "#123456");
-  EXPECT_EQ(prompter.prompts()[0].text, "Alternate Row Color");
-
-  dlg.Item<QLineEdit>(res::kCtlDsFontSize)->setText("9");
-  dlg.Item<QCheckBox>(res::kCtlDsAppendSave)->setChecked(true);
-  ASSERT_TRUE(dlg.PressButton(IDOK));
-  EXPECT_EQ(dlg.ModalResult(), IDOK);
-  const prefs::SpreadsheetSettings s = dlg.GetSettings();
-  EXPECT_EQ(s.alternateRowColor, 0x123456u);
-  EXPECT_EQ(s.fontSize, 9);
-  EXPECT_TRUE(s.appendSave);
-}
-
-TEST_F(DataSettingsTest, HostBindingLoadsAndStoresThePreferences) {
+TEST_F(DataSettingsTest, HostBindingLoadsAndStoresThePreferencesAndTheChosenColour) {
   {
     QSettings settings;
     settings.setValue("Preferences/SpreadFontSize", 11);
@@ -81,15 +55,22 @@ TEST_F(DataSettingsTest, HostBindingLoadsAndStoresThePreferences) {
   auto d = CreateBoundDialog("CDataSettingsDlg", model, nullptr);
   ASSERT_TRUE(d);
   d->InitDialogForTest();
+  EXPECT_EQ(d->windowTitle().toStdString(), "Spreadsheet Settings");
   EXPECT_EQ(d->GetDlgItemText(res::kCtlDsFontSize), "11");
   EXPECT_FALSE(d->Item<QCheckBox>(res::kCtlDsShowRowHeader)->isChecked());
   EXPECT_TRUE(d->Item<QCheckBox>(res::kCtlDsAppendSave)->isChecked());
   EXPECT_EQ(ColorText(*d), "#E0FFE0");
+  EXPECT_EQ(d->Item<QPushButton>(res::kCtlDsColor)->icon().pixmap(40, 16).toImage().pixelColor(20, 8),
+            QColor(0xE0, 0xFF, 0xE0));
 
   d->Item<QLineEdit>(res::kCtlDsRowHeight)->setText("30");
   d->Item<QCheckBox>(res::kCtlDsShowRowHeader)->setChecked(true);
   prompter.QueueColor(0xFFEEDD);
   d->PressButton(res::kCtlDsColor);
+  prompter.QueueCancel();
+  d->PressButton(res::kCtlDsColor);
+  EXPECT_EQ(ColorText(*d), "#FFEEDD") << "a cancelled choice keeps the colour";
+  EXPECT_EQ(prompter.prompts()[0].text, "Alternate Row Color");
   ASSERT_TRUE(d->PressButton(IDOK));
   ASSERT_EQ(d->ModalResult(), IDOK);
   EXPECT_TRUE(FindDialogBinding("CDataSettingsDlg")->takeBack(*d, model));
@@ -104,8 +85,7 @@ TEST_F(DataSettingsTest, HostBindingLoadsAndStoresThePreferences) {
 
 TEST_F(DataSettingsTest, DamagedStoredValuesReadAsTheDefaults) {
   const prefs::SpreadsheetSettings defaults;
-  const char* kFont = "SpreadFontSize";
-  const char* kColor = "Spreadsheet Alternate BackColor";
+  const char *kFont = "SpreadFontSize", *kColor = "Spreadsheet Alternate BackColor";
   const struct {
     const char* key;
     QVariant value;

@@ -1,6 +1,4 @@
 #include <QApplication>
-#include <QHeaderView>
-#include <QSettings>
 #include <QTableView>
 #include <QTest>
 
@@ -41,15 +39,6 @@ TEST_F(SpreadTest, TypingEditsUnlockedCellsInPlaceAndEnterMovesDown) {
   QTest::keyClicks(view(), "99");
   QTest::keyClick(view(), Qt::Key_Return);
   EXPECT_EQ(spread.GetData(1, 2), "2");
-}
-
-TEST_F(SpreadTest, RowHeadingsFollowThePreference) {
-  QSettings().setValue("Preferences/ShowGridRowHeader", 0);
-  spread.Refresh();
-  EXPECT_TRUE(view()->verticalHeader()->isHidden());
-  QSettings().setValue("Preferences/ShowGridRowHeader", 1);
-  spread.Refresh();
-  EXPECT_FALSE(view()->verticalHeader()->isHidden());
 }
 
 }  // namespace

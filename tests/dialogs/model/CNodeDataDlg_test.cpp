@@ -24,7 +24,10 @@ class NodeDialogTest : public DialogTest {
     d.InitDialogForTest();
   }
   grid::Sheet& sheet() { return dlg.Spread().sheet(); }
-  void SetNewRowCount(const char* text) { dlg.Item<QLineEdit>(res::kCtlNewRowCount)->setText(text); }
+  bool AddNewRows(const char* count) {
+    dlg.Item<QLineEdit>(res::kCtlNewRowCount)->setText(count);
+    return dlg.PressButton(res::kCtlNewRows);
+  }
 
   fmUnit units;
   std::vector<fmNd> nodes = SampleNodes();
@@ -38,24 +41,17 @@ TEST_F(NodeDialogTest, EditsAndNewRowsAreWrittenBackOnOkInRowOrder) {
   EXPECT_EQ(dlg.PrintTitle(), "Node Table");
   EXPECT_EQ(dlg.GetDlgItemText(res::kCtlEpsilon), "Epsilon = 1e-10");
   ASSERT_EQ(sheet().MaxRows(), 4);
-  EXPECT_EQ(sheet().GetData(2, 0), "X [ft]");
   EXPECT_EQ(sheet().GetData(2, 4), "1234.57");
-  EXPECT_EQ(sheet().GetData(5, 3), "Frozen");
   EXPECT_TRUE(sheet().IsLocked(1, 1));
-  EXPECT_TRUE(Messages().empty());
 
   sheet().SetData(3, 1, "2.5");
   sheet().SetData(5, 1, "frozen");
-  SetNewRowCount("2");
-  ASSERT_TRUE(dlg.PressButton(res::kCtlNewRows));
+  ASSERT_TRUE(AddNewRows("2"));
   ASSERT_EQ(sheet().MaxRows(), 6);
-  EXPECT_EQ(sheet().GetData(1, 5), "8");
   EXPECT_EQ(sheet().GetData(1, 6), "9");
   EXPECT_TRUE(sheet().IsLocked(1, 5));
   EXPECT_EQ(sheet().ActiveCell(), (grid::CellRef{1, 5}));
-  sheet().SetData(2, 5, "1");
-  sheet().SetData(3, 5, "2");
-  sheet().SetData(4, 5, "3");  // row 6 stays empty and is dropped
+  for (int col = 2; col <= 4; ++col) sheet().SetData(col, 5, std::to_string(col - 1));  // row 6 stays empty
   ASSERT_TRUE(dlg.PressButton(IDOK));
   EXPECT_EQ(dlg.ModalResult(), IDOK);
   ASSERT_EQ(nodes.size(), 5u);
@@ -65,7 +61,7 @@ TEST_F(NodeDialogTest, EditsAndNewRowsAreWrittenBackOnOkInRowOrder) {
   EXPECT_EQ(nodes[4], (fmNd{8, 0, 1.0, 2.0, 3.0}));
 }
 
-TEST_F(NodeDialogTest, RefusalsKeepTheDialogOpenAndTheNodesUnchanged) {
+TEST_F(NodeDialogTest, RefusalsAndCancelLeaveTheNodesUnchanged) {
   struct Case {
     std::vector<std::pair<int, int>> emptied;  // cells (col, row)
     const char* text;
@@ -92,17 +88,12 @@ TEST_F(NodeDialogTest, RefusalsKeepTheDialogOpenAndTheNodesUnchanged) {
     EXPECT_EQ(nodes, original);
   }
   Open(dlg);
-  SetNewRowCount("100001");
-  dlg.PressButton(res::kCtlNewRows);
+  AddNewRows("100001");
   EXPECT_EQ(Messages().back(), "Please enter a number between 1 and 100000.");
   EXPECT_EQ(sheet().MaxRows(), 4);
-}
 
-TEST_F(NodeDialogTest, CancelLeavesTheNodesAsTheyWere) {
-  Open(dlg);
   sheet().SetData(2, 1, "99");
-  SetNewRowCount("1");
-  dlg.PressButton(res::kCtlNewRows);
+  AddNewRows("1");
   dlg.PressButton(IDCANCEL);
   EXPECT_EQ(dlg.ModalResult(), IDCANCEL);
   EXPECT_EQ(nodes, original);

@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <random>
 #include <vector>
 
 #include "dialogs/results/display_format.h"
@@ -27,17 +28,11 @@ TEST(DisplayFormat, AgreesWithPrintfOnManyValuesTiesAndExtremesIncluded) {
   std::vector<double> values = {0.0,  2.675, 1.005, 0.0005, 0.00015, 1e15 + 0.5, 9007199254740993.0, 123456789.0625,
                                 4503599627370495.5, 0.1 + 0.2, 9.9995, 1e21, 1e308, 1e-300,
                                 2.2250738585072014e-308, 4.9e-324, inf};
-  uint64_t state = 0x9E3779B97F4A7C15ull;
-  auto next = [&] {
-    state ^= state << 13;
-    state ^= state >> 7;
-    state ^= state << 17;
-    return state;
-  };
+  std::mt19937_64 rng(0x9E3779B97F4A7C15ull);
   for (int i = 0; i < 5000; ++i) {
-    const double unit = static_cast<double>(next() >> 11) / 9007199254740992.0;  // [0, 1)
-    values.push_back(unit * std::pow(10.0, static_cast<int>(next() % 27) - 9));
-    values.push_back(static_cast<double>(next() % 100000) / static_cast<double>(1u << (next() % 20)));
+    const double unit = static_cast<double>(rng() >> 11) / 9007199254740992.0;  // [0, 1)
+    values.push_back(unit * std::pow(10.0, static_cast<int>(rng() % 27) - 9));
+    values.push_back(static_cast<double>(rng() % 100000) / static_cast<double>(1u << (rng() % 20)));
   }
   const size_t count = values.size();
   for (size_t i = 0; i < count; ++i) values.push_back(-values[i]);
