@@ -1,17 +1,13 @@
 #include "dialogs/design/CMaterialDlg.h"
 
-#include <QCheckBox>
-#include <QComboBox>
 #include <QLineEdit>
 #include <cmath>
 
 #include "dialogs/design/CMaterialStrengthDlg.h"
-#include "dialogs/design/CStandardMaterialDlg.h"
 #include "dialogs/design/SectionsDialogTest.h"
 #include "dialogs/design/material_grid.h"
 #include "resources/grid_ids.h"
 #include "resources/sections_ids.h"
-#include "tools/parse.h"
 
 namespace {
 
@@ -27,10 +23,9 @@ std::vector<fmMat> Sample() { return {Steel(1, "A992"), Steel(2, "A36")}; }
 
 class MaterialDialogTest : public SectionsDialogTest {
  protected:
-  void Open(bool locked = false) {
+  void Open() {
     dlg.m_pUnits = &units;
     dlg.m_pMaterials = &materials;
-    dlg.m_bModelLocked = locked;
     dlg.InitDialogForTest();
   }
   grid::Sheet& sheet() { return dlg.Spread().sheet(); }
@@ -57,11 +52,8 @@ TEST_F(MaterialDialogTest, StandardConcreteFillsANewRowAndItsStrengthsReachTheHo
   dlg.PressButton(res::kCtlMatStandard);
   EXPECT_TRUE(Messages().empty()) << "row 1 active: a new row, no question";
   ASSERT_EQ(sheet().MaxRows(), 3);
-  EXPECT_EQ(sheet().GetData(1, 3), "3");
-  EXPECT_EQ(sheet().GetData(2, 3), "Concrete40");
-  EXPECT_EQ(sheet().GetData(3, 3), "3644.15");
-  EXPECT_EQ(sheet().GetData(4, 3), "0.15");
-  EXPECT_EQ(sheet().GetData(5, 3), "145");
+  for (const auto& [col, text] : {std::pair{1, "3"}, {2, "Concrete40"}, {3, "3644.15"}, {4, "0.15"}, {5, "145"}})
+    EXPECT_EQ(sheet().GetData(col, 3), text) << col;
   ASSERT_TRUE(dlg.PressButton(IDOK));
   ASSERT_EQ(materials.size(), 3u);
   EXPECT_NEAR(materials[2].E, 33 * std::pow(145.0, 1.5) * std::sqrt(4000.0) / 1000, 1e-9);
@@ -93,38 +85,6 @@ TEST_F(MaterialDialogTest, RefusalKeepsTheDialogOpenAndTheHostsVector) {
             std::vector<std::string>{"Poisson ratio must be greater than 0.0 and less than 0.5 for material 2."});
   EXPECT_EQ(sheet().ActiveCell(), (grid::CellRef{1, 2}));
   EXPECT_EQ(materials, Sample());
-}
-
-TEST_F(MaterialDialogTest, AssigningNoRowIsReported) {
-  Open();
-  dlg.Item<QCheckBox>(res::kCtlMatAssign)->setChecked(true);
-  dlg.Spread().SetActiveCell(-1, -1);
-  ASSERT_TRUE(dlg.PressButton(IDOK));
-  EXPECT_EQ(dlg.m_nActiveMaterial, -1);
-  EXPECT_EQ(Messages(),
-            std::vector<std::string>{"The current material is not valid.\nNo material assignment takes place."});
-}
-
-TEST_F(SectionsDialogTest, StandardMaterialConvertsToTheDocumentUnitsOnOpen) {
-  fmUnit si;
-  si.SetMetric();
-  si.unit[fmUnit::Modulus] = 73;        // N/mm^2
-  si.unit[fmUnit::WeightDensity] = 94;  // kN/m^3
-  CStandardMaterialDlg dlg;
-  dlg.m_pUnits = &si;
-  dlg.InitDialogForTest();
-  EXPECT_EQ(dlg.GetDlgItemText(res::kCtlStdDensityUnit), "kN/m^3");
-  EXPECT_NEAR(tools::ParseDouble(dlg.GetDlgItemText(res::kCtlStdDensity)).value_or(0), 76.8, 0.1);  // 0.283 lb/in^3
-  dlg.ChooseItem(res::kCtlStdMaterial, 9);  // "Concrete fc = 4.0 ksi"
-  EXPECT_NEAR(dlg.m_dUnitDensity, 145 * 0.157087463, 1e-4);
-  dlg.PressButton(IDOK);
-  ASSERT_EQ(dlg.ModalResult(), IDOK);
-  EXPECT_EQ(dlg.m_Materials[9].label, "Concrete40");
-  EXPECT_NEAR(dlg.m_Materials[9].E, 33 * std::pow(145.0, 1.5) * std::sqrt(4000.0) * 0.00689475729, 0.05);  // MPa
-
-  dlg.Item<QLineEdit>(res::kCtlStdDensity)->setText("0");
-  dlg.PressButton(IDOK);
-  EXPECT_EQ(Messages().back(), "Please enter a number between 1e-06 and 1e+20.");
 }
 
 TEST_F(SectionsDialogTest, StrengthGridsWriteBackOnlyTheirStrengths) {

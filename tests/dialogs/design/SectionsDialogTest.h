@@ -8,9 +8,7 @@
 #include "support/TempDir.h"
 #include "tools/shape_table.h"
 
-// Dialog tests of the section family: the shape library reads the source tree's bundled
-// tables and a private user folder, and the dialogs a dialog opens are driven by scripts
-// keyed by their template id (a dialog without a script is cancelled and reported).
+// Shape library from the source tree; nested dialogs run the script of their template id.
 class SectionsDialogTest : public DialogTest {
  protected:
   void SetUp() override {

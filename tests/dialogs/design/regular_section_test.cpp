@@ -48,13 +48,10 @@ TEST(RegularSection, FlangeChecksInOrderForFlangedShapesOnly) {
     const char* refusal;
   } cases[] = {
       {design::kWideFlange, {5, 10, 1, 6}, "Flange width must be greater than or equal to web width"},
-      {design::kTee, {5, 10, 11, 6}, "Flange width must be greater than or equal to web width"},
-      {design::kTee, {5, 10, 11, 0.5}, "Section depth must be greater than or equal to flange thickness"},
+      {design::kTee, {5, 10, 11, 6}, "Flange width must be greater than or equal to web width"},  // before depth
       {design::kWideFlange, {5, 10, 10.0001, 5}, "Section depth must be greater than or equal to flange thickness"},
-      {design::kWideFlange, {5, 10, 10, 5}, ""},
       {design::kWideFlange, {10, 2, 2, 0.3}, ""},
       {design::kRectangle, {5, 10, 11, 6}, ""},
-      {design::kRound, {5, 0.0001, 11, 6}, ""},
   };
   for (const auto& c : cases) EXPECT_EQ(design::CheckRegularSection(c.type, c.dims), c.refusal);
 }

@@ -36,25 +36,13 @@ class UnitConversionTest : public DialogTest {
 
 }  // namespace
 
-TEST_F(UnitConversionTest, OpensOnLengthWithOneInch) {
-  EXPECT_EQ(List(kCtlConvType)->count(), 10);
-  EXPECT_EQ(Items(kCtlConvFrom), (QStringList{"in", "ft", "mm", "cm", "m"}));
-  EXPECT_EQ(Items(kCtlConvTo), Items(kCtlConvFrom));
-  EXPECT_EQ(dlg.GetDlgItemText(kCtlConvValue), "1");
-  EXPECT_EQ(Result(), "1");
-  EXPECT_TRUE(dlg.PressButton(IDCANCEL));
-  EXPECT_EQ(dlg.ModalResult(), IDCANCEL);
-}
-
 TEST_F(UnitConversionTest, ConvertsWithSevenSignificantDigits) {
-  // The factors are the unit tables'; here the dialog's wiring and its seven digits.
   const struct {
     const char *type, *value, *from, *to, *result;
   } cases[] = {
       {"Length", "1", "ft", "in", "12"},
       {"Moment", "1", "kip-ft", "kN-m", "1.355818"},
       {"Pressure", "36", "kip/in^2", "N/mm^2", "248.2113"},
-      {"Volume", "1", "ft^3", "in^3", "1728"},
       {"Angle", "180", "deg", "rad", "3.141593"},
       {"Length", "-2.5e3", "mm", "m", "-2.5"},
       {"Length", "1e-20", "m", "mm", "1e-17"},
@@ -70,15 +58,15 @@ TEST_F(UnitConversionTest, ConvertsWithSevenSignificantDigits) {
   EXPECT_TRUE(Messages().empty());
 }
 
-TEST_F(UnitConversionTest, ChangingTheTypeRefillsBothLists) {
+TEST_F(UnitConversionTest, OpensOnOneInchAndChangingTheTypeRefillsBothLists) {
+  EXPECT_EQ(Items(kCtlConvFrom), (QStringList{"in", "ft", "mm", "cm", "m"}));
+  EXPECT_EQ(Result(), "1");
   Choose(kCtlConvFrom, "ft");
   Choose(kCtlConvTo, "m");
   Type("2");
   Choose(kCtlConvType, "Force");
   EXPECT_EQ(Items(kCtlConvFrom), (QStringList{"lb", "kip", "N", "kN", "MT", "Kgf"}));
   EXPECT_EQ(Items(kCtlConvTo), Items(kCtlConvFrom));
-  EXPECT_EQ(List(kCtlConvFrom)->currentIndex(), 0);
-  EXPECT_EQ(List(kCtlConvTo)->currentIndex(), 0);
   EXPECT_EQ(Result(), "2") << "first unit to first unit";
   EXPECT_EQ(dlg.m_nUnitType, 3);
 }
@@ -87,15 +75,14 @@ TEST_F(UnitConversionTest, NonNumericValueShowsTheNumberMessageAndKeepsTheResult
   Choose(kCtlConvFrom, "ft");
   Type("12");
   ASSERT_EQ(Result(), "144");
-  struct Case {
+  // Texts on the way to a number wait quietly; anything else is refused once.
+  const struct {
     const char* typed;
     bool message;
-  };
-  // Texts on the way to a number wait quietly; anything else is refused once.
-  const Case cases[] = {{"", false},   {"-", false},  {"-.", false},   {"2e-", false},  {"-5E+", false},
+  } cases[] = {{"", false},   {"-", false},  {"-.", false},   {"2e-", false},  {"-5E+", false},
                         {"abc", true}, {"1,5", true}, {"12 ft", true}, {"1e400", true}, {"--", true},
                         {"2-", true},  {"-e", true},  {"2ee", true}};
-  for (const Case& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(std::string("\"") + c.typed + "\"");
     prompter.Clear();
     Type(c.typed);
