@@ -31,13 +31,8 @@ std::vector<std::string> Column(const Sheet& sheet, int col) {
 }  // namespace
 
 TEST(AddRows, IdsContinueFromTheLastRowLockedAndTheNewBlockActive) {
-  const struct {
-    std::vector<std::vector<std::string>> rows;
-    int count;
-    bool numberIds;
-    int firstNewRow;
-    std::vector<std::string> ids;  // column 1 after adding
-  } cases[] = {
+  const struct { std::vector<std::vector<std::string>> rows; int count; bool numberIds; int firstNewRow;
+                 std::vector<std::string> ids; } cases[] = {
       {{{"7"}, {"120"}}, 5, true, 3, {"7", "120", "121", "122", "123", "124", "125"}},
       {{}, 3, true, 1, {"1", "2", "3"}},
       {{{"50"}, {"2"}}, 1, true, 3, {"50", "2", "3"}},  // ids before are never renumbered
@@ -59,11 +54,7 @@ TEST(AddRows, IdsContinueFromTheLastRowLockedAndTheNewBlockActive) {
 
 TEST(CheckEmptyCells, FirstEmptyCellStopsTheScanAndNamesItsRowsId) {
   const Sheet sheet = IdSheet({{"10", "1", "2", "3"}, {"11", "1", " ", "3"}, {"12", "", "", ""}}, 4);
-  const struct {
-    int rowCount, firstCol, lastCol;
-    std::optional<std::string> message;
-    CellRef active;
-  } cases[] = {
+  const struct { int rowCount, firstCol, lastCol; std::optional<std::string> message; CellRef active; } cases[] = {
       {3, 2, 4, "Invalid empty input for Node 11", {1, 2}},
       {1, 2, 4, std::nullopt, {}},
       {3, 4, 4, "Invalid empty input for Node 12", {1, 3}},
@@ -113,15 +104,8 @@ TEST(CheckDuplicateLabels, CaseIgnoredForNonAsciiLettersToo) {
 
 TEST(FillSelection, CopiesOrContinuesASeriesDownTheSelection) {
   using enum grid::FillMode;
-  const struct {
-    const char* name;
-    std::vector<std::string> column;  // column 2, rows 1..
-    Block block;
-    int clickedRow;
-    grid::FillMode mode;
-    int written;
-    std::vector<std::string> expected;
-  } cases[] = {
+  const struct { const char* name; std::vector<std::string> column; Block block; int clickedRow;
+                 grid::FillMode mode; int written; std::vector<std::string> expected; } cases[] = {
       {"copy upwards too", {"", "", "x", ""}, {2, 1, 2, 4}, 3, Copy, 3, {"x", "x", "x", "x"}},
       {"series by the step below", {"10", "12.5", "", ""}, {2, 1, 2, 4}, 1, Series, 3, {"10", "12.5", "15", "17.5"}},
       {"series step 1 when below is empty", {"", "3", "", ""}, {2, 2, 2, 4}, 2, Series, 2, {"", "3", "4", "5"}},
@@ -141,10 +125,8 @@ TEST(FillSelection, CopiesOrContinuesASeriesDownTheSelection) {
 }
 
 TEST(CopyPaste, BlockRoundTripsThroughTabSeparatedText) {
-  const std::vector<std::vector<std::string>> cells = {
-      {"plain", "say \"hi\"", ""},
-      {"tab\tinside", "two\r\nlines", "Ärger"},
-  };
+  const std::vector<std::vector<std::string>> cells = {{"plain", "say \"hi\"", ""},
+                                                       {"tab\tinside", "two\r\nlines", "Ärger"}};
   Sheet source = IdSheet({}, 4);
   grid::AddRows(source, 2, false);
   for (int r = 0; r < 2; ++r)

@@ -15,9 +15,7 @@ class CopyLoadsTest : public DialogTest {
  protected:
   void SetUp() override {
     DialogTest::SetUp();
-    dlg.m_strCaption = "Copy Nodal Loads";
-    dlg.m_nTo = 2;
-    dlg.m_pLoadCases = &cases;
+    dlg.m_strCaption = "Copy Nodal Loads", dlg.m_nTo = 2, dlg.m_pLoadCases = &cases;
     dlg.InitDialogForTest();
   }
   void Choose(int from, int to, const char* factor) {

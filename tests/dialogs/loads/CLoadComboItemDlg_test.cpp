@@ -15,13 +15,9 @@ class ComboEditorTest : public DialogTest {
   void SetUp() override {
     DialogTest::SetUp();
     combs[1].items = {{"Wind X", -0.5}, {"Deleted case", 2.0}, {"dead", 1.2}};
-    combs[1].concreteDesign = 1;
-    combs[1].sustainedFactor = 1.2;
+    combs[1].concreteDesign = 1, combs[1].sustainedFactor = 1.2;
     original = combs;
-    dlg.m_nIndex = 1;
-    dlg.m_pLoadCases = &cases;
-    dlg.m_pLoadCombs = &combs;
-    dlg.m_comb = combs[1];
+    dlg.m_nIndex = 1, dlg.m_pLoadCases = &cases, dlg.m_pLoadCombs = &combs, dlg.m_comb = combs[1];
     dlg.InitDialogForTest();
   }
   grid::Sheet& sheet() { return dlg.Spread().sheet(); }

@@ -6,11 +6,7 @@ using namespace loads;
 
 TEST(BuildLoadCases, FirstBadRowStopsTheSaveAndLeavesTheCases) {
   const std::string allowed = "contain letters, digits, blanks between words and the characters _ - . ( ) + /";
-  struct Case {
-    std::vector<LoadCaseRow> rows;
-    int row;
-    std::string message;
-  };
+  struct Case { std::vector<LoadCaseRow> rows; int row; std::string message; };
   const Case cases[] = {
       {{{"Dead", "D"}, {"", "L"}, {"x#", "L"}}, 1, "Load case label can only " + allowed + ", and may not be empty."},
       {{{"Dead", "D"}, {"Live;", "L"}}, 1,

@@ -12,11 +12,7 @@ namespace {
 // The tables as the design codes publish them, typed in again here so the compiled tables are
 // checked against the codes rather than against themselves: the name after the code's prefix
 // (so a second run finds it), then every non-zero factor with its load type.
-struct Code {
-  const char* title;
-  const char* prefix;
-  std::vector<std::string> rows;
-};
+struct Code { const char *title, *prefix; std::vector<std::string> rows; };
 
 const Code kPublished[] = {
     {"IBC-2015 LRFD", "IBC-2015_", {

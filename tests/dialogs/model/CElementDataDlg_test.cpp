@@ -21,8 +21,6 @@ std::vector<T> Labelled(const std::vector<std::string>& labels) {
   return records;
 }
 
-// The host's model: twelve nodes, two materials, two sections, one thickness and a few
-// elements of each kind.
 struct HostModel {
   HostModel() {
     for (uint32_t id = 1; id <= 12; ++id) nodes.push_back({id, 0, double(id), 0, 0});
@@ -36,12 +34,8 @@ struct HostModel {
     bricks = {{{1, 0, 2}, {1, 2, 3, 4, 5, 6, 7, 8}}, {{3, kSel, 2}, {5, 6, 7, 8, 9, 10, 11, 12}}};
   }
   std::vector<fmNd> nodes;
-  std::vector<fmMat> materials;
-  std::vector<fmSect> sections;
-  std::vector<fmThick> thicknesses;
-  std::vector<fmBm> members;
-  std::vector<fmShell4> shells;
-  std::vector<fmBrick> bricks;
+  std::vector<fmMat> materials; std::vector<fmSect> sections; std::vector<fmThick> thicknesses;
+  std::vector<fmBm> members; std::vector<fmShell4> shells; std::vector<fmBrick> bricks;
   bool operator==(const HostModel&) const = default;
 };
 
@@ -49,7 +43,6 @@ enum Kind { kMembers, kShells, kBricks };
 
 class ElementDialogTest : public DialogTest {
  protected:
-  // Opens a fresh dialog of one kind on the host's vectors.
   CElementDataDlg& Open(Kind kind, bool locked = false, bool selectedOnly = false) {
     CElementDataDlg* dlg = nullptr;
     if (kind == kMembers) {
@@ -64,11 +57,8 @@ class ElementDialogTest : public DialogTest {
       dlg = (bricks = std::make_unique<CBrickDataDlg>()).get();
       bricks->m_pBricks = &host.bricks;
     }
-    dlg->m_pUnits = &units;
-    dlg->m_pNodes = &host.nodes;
-    dlg->m_pMaterials = &host.materials;
-    dlg->m_bModelLocked = locked;
-    dlg->m_bShowSelectedOnly = selectedOnly;
+    dlg->m_pUnits = &units, dlg->m_pNodes = &host.nodes, dlg->m_pMaterials = &host.materials;
+    dlg->m_bModelLocked = locked, dlg->m_bShowSelectedOnly = selectedOnly;
     dlg->InitDialogForTest();
     return *dlg;
   }
@@ -90,12 +80,7 @@ class ElementDialogTest : public DialogTest {
 };
 
 TEST_F(ElementDialogTest, EachGridFillsFromTheHostAndOkWithoutEditsKeepsItExactly) {
-  const struct {
-    Kind kind;
-    const char *caption, *title;
-    int rows;
-    std::vector<std::string> row1;
-  } cases[] = {
+  const struct { Kind kind; const char *caption, *title; int rows; std::vector<std::string> row1; } cases[] = {
       {kMembers, "Member Data", "Member Table", 3,
        {"1", "1", "2", "1: Steel", "1: W14X90", "0.123457", "Linear", "Active", "Include", "Normal"}},
       {kShells, "Shell4 Data", "Shell4 Table", 2,
@@ -159,22 +144,11 @@ TEST_F(ElementDialogTest, RefusalsShowTheirTextKeepTheDialogOpenAndTheModelUncha
     for (int col = 2; col <= lastNodeCol; ++col) cells.emplace_back(col, row, "");
     return cells;
   };
-  const auto newBrick = [] {  // nodes 1 to 8 in the new row, no material
-    Cells cells;
-    for (int k = 0; k < 8; ++k) cells.emplace_back(k + 2, 3, std::to_string(k + 1));
-    return cells;
-  };
   const auto deleted = [](const std::string& what, const std::string& ids) {
     return "Invalid input for existing " + what + " (" + ids + " - " + ids + ").\nIf you intend to delete these " +
            what + ", cancel this dialog box.\nThen select these " + what + " and go to menu Edit | Delete...";
   };
-  struct Case {
-    Kind kind;
-    const char* newRows;  // rows added first, or nullptr
-    Cells cells;
-    std::string message;
-    grid::CellRef active;
-  };
+  struct Case { Kind kind; const char* newRows; Cells cells; std::string message; grid::CellRef active; };
   const Case cases[] = {
       {kShells, nullptr, {{3, 1, "-1"}},
        "Invalid input for shell4 1.\nNode-2 must be a node id, a whole number from 0 to 4294967295, not \"-1\".", {3, 1}},
@@ -185,11 +159,10 @@ TEST_F(ElementDialogTest, RefusalsShowTheirTextKeepTheDialogOpenAndTheModelUncha
        "Invalid input for shell4 1.\n\"Slab\" is not in the list of thicknesses.", {7, 1}},
       {kMembers, "2", {{2, 4, "1"}, {3, 4, "2"}, {4, 4, "1: Steel"}},
        "Invalid input for member 5.\nNo section is chosen.", {5, 4}},
-      {kBricks, "1", newBrick(), "Invalid input for brick 4.\nNo material is chosen.", {10, 3}},
+      {kBricks, "1", {{2, 3, "1"}, {3, 3, "2"}, {4, 3, "3"}, {5, 3, "4"}, {6, 3, "5"}, {7, 3, "6"}, {8, 3, "7"},
+                      {9, 3, "8"}}, "Invalid input for brick 4.\nNo material is chosen.", {10, 3}},
       {kMembers, nullptr, {{3, 1, ""}}, "Invalid empty input for Member 1", {1, 1}},
-      {kShells, nullptr, {{5, 1, ""}}, "Invalid empty input for shell4 1", {1, 1}},
       {kMembers, nullptr, {{3, 1, "1"}}, "Member 1 has duplicate nodal IDs.", {2, 1}},
-      {kBricks, nullptr, {{9, 2, "5"}}, "brick 3 has duplicate nodal IDs.", {2, 2}},
       // Empty new rows after an emptied existing one do not excuse it.
       {kMembers, "2", emptied(3, 3), deleted("members", "4"), {1, 3}},
       {kBricks, "2", emptied(2, 9), deleted("bricks", "3"), {1, 2}},
@@ -215,19 +188,17 @@ TEST_F(ElementDialogTest, RefusalsShowTheirTextKeepTheDialogOpenAndTheModelUncha
 }
 
 TEST_F(ElementDialogTest, SelectedOnlyShowsTheSelectedElementsReadOnly) {
-  Open(kMembers, false, /*selectedOnly=*/true);
-  Open(kBricks, false, /*selectedOnly=*/true);
-  EXPECT_EQ(beams->Spread().sheet().GetData(1, 1), "2");
-  EXPECT_EQ(bricks->Spread().sheet().GetData(1, 1), "3");
-  for (CElementDataDlg* dlg : std::initializer_list<CElementDataDlg*>{beams.get(), bricks.get()}) {
-    const grid::Sheet& sheet = dlg->Spread().sheet();
+  for (const auto& [kind, id] : {std::pair(kMembers, "2"), std::pair(kBricks, "3")}) {
+    CElementDataDlg& dlg = Open(kind, false, /*selectedOnly=*/true);
+    const grid::Sheet& sheet = dlg.Spread().sheet();
     ASSERT_EQ(sheet.MaxRows(), 1);
+    EXPECT_EQ(sheet.GetData(1, 1), id);
     EXPECT_EQ(sheet.GetData(sheet.MaxCols(), 1), "Selected");
     EXPECT_TRUE(sheet.IsLockedAll());
-    EXPECT_FALSE(dlg->GetDlgItem(IDOK)->isEnabled());
-    EXPECT_FALSE(dlg->GetDlgItem(res::kCtlNewRows)->isEnabled());
-    dlg->PressButton(IDOK);
-    EXPECT_EQ(dlg->ModalResult(), 0);
+    EXPECT_FALSE(dlg.GetDlgItem(IDOK)->isEnabled());
+    EXPECT_FALSE(dlg.GetDlgItem(res::kCtlNewRows)->isEnabled());
+    dlg.PressButton(IDOK);
+    EXPECT_EQ(dlg.ModalResult(), 0);
   }
   EXPECT_EQ(Messages().size(), 2u);  // one notice per dialog
   EXPECT_EQ(host, original);

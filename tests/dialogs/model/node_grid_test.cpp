@@ -28,12 +28,9 @@ Sheet Filled(const std::vector<fmNd>& nodes) {
 TEST(NodeGrid, FillShowsRoundedValuesAndReadKeepsUntouchedCellsExact) {
   const auto nodes = SampleNodes();
   Sheet sheet = Filled(nodes);
-  const std::vector<std::vector<std::string>> rows = {
-      {"Node Id", "X [ft]", "Y [ft]", "Z [ft]", "Status"},
-      {"1", "0.3", "0.333333", "-2.5", "Normal"},
-      {"2", "20", "0", "1e-09", "Selected"},
-      {"7", "40", "12.125", "25", "Frozen"},
-  };
+  const std::vector<std::vector<std::string>> rows = {{"Node Id", "X [ft]", "Y [ft]", "Z [ft]", "Status"},
+      {"1", "0.3", "0.333333", "-2.5", "Normal"}, {"2", "20", "0", "1e-09", "Selected"},
+      {"7", "40", "12.125", "25", "Frozen"}};
   ASSERT_EQ(sheet.MaxRows(), 3);
   for (int r = 0; r <= 3; ++r)
     for (int c = 1; c <= 5; ++c) EXPECT_EQ(sheet.GetData(c, r), rows[r][c - 1]) << c << "," << r;
@@ -43,21 +40,12 @@ TEST(NodeGrid, FillShowsRoundedValuesAndReadKeepsUntouchedCellsExact) {
   sheet.SetData(nodegrid::kStatus, 3, "");
   const auto result = nodegrid::Read(sheet, nodes);
   ASSERT_FALSE(result.failure) << result.failure->message;
-  const std::vector<fmNd> expected = {
-      {1, fmNd::kFrozen, 0.1 + 0.2, 1.0 / 3.0, -2.5},
-      {2, fmNd::kSelected, 20, 0, 3.75},
-      {7, 0, 40, 12.125, 25},
-  };
-  EXPECT_EQ(result.nodes, expected);
+  EXPECT_EQ(result.nodes, (std::vector<fmNd>{{1, fmNd::kFrozen, 0.1 + 0.2, 1.0 / 3.0, -2.5},
+                                             {2, fmNd::kSelected, 20, 0, 3.75}, {7, 0, 40, 12.125, 25}}));
 }
 
 TEST(NodeGrid, RefusalsNameTheNodeAndMakeTheCellActive) {
-  struct Case {
-    int col, row;
-    std::string text;
-    std::string message;
-    CellRef cell;
-  };
+  struct Case { int col, row; std::string text, message; CellRef cell; };
   const std::vector<Case> cases = {
       {nodegrid::kY, 2, "abc", "Invalid input for node 2.\nY must be a number, not \"abc\".", {3, 2}},
       {nodegrid::kX, 1, "1e400", "Invalid input for node 1.\nX must be a number, not \"1e400\".", {2, 1}},
@@ -78,10 +66,7 @@ TEST(NodeGrid, RefusalsNameTheNodeAndMakeTheCellActive) {
 }
 
 TEST(NodeGrid, RoundOffRoundsToTheDecimalsOfEpsilon) {
-  struct Case {
-    double epsilon;
-    std::string in, out;
-  };
+  struct Case { double epsilon; std::string in, out; };
   const std::vector<Case> cases = {
       {1e-3, "1.23456", "1.235"}, {1e-3, "-0.0004", "0"},  {0.01, "2.999", "3"},
       {1, "7.5", "8"},            {1e-3, "abc", "abc"},    {0, "1.23456", "1.23456"},
