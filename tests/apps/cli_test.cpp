@@ -18,8 +18,7 @@ struct CliRun {
   std::string all() const { return out + err; }
 };
 
-// Runs norvane-cli through the shell (arguments quoted by the caller) with the shape library
-// read from the source tree and a private user folder.
+// Arguments go through the shell, quoted by the caller; shapes come from the source tree and a private folder.
 class CliTest : public ::testing::Test {
  protected:
   CliRun Cli(const std::string& args) const {
@@ -54,11 +53,7 @@ TEST_F(CliTest, RefusalsSayWhy) {
       "loadCases": [{"number": 1, "label": "Dead", "type": "Dead-D"}]})");
   WriteFileText(dir / "broken.json", "{\"format\": ");
   const std::string report = "report " + kModel + " ", grid = "grid export " + kModel + " nodes ";
-  const struct {
-    std::string args;
-    int status;
-    std::string message;  // what the output says
-  } cases[] = {
+  const struct { std::string args; int status; std::string message; } cases[] = {
       {"units convert 1 furlong m", 2, "norvane-cli: unknown unit \"furlong\" (see: norvane-cli units list)\n"},
       {"units convert 1 ft kip", 2, "norvane-cli: cannot convert \"ft\" (Length) to \"kip\" (Force)\n"},
       {"units convert 1,5 ft in", 2, "norvane-cli: \"1,5\" is not a number\n"},
@@ -111,8 +106,8 @@ TEST_F(CliTest, CylinderListsTheFrameOrWritesItToAFile) {
   EXPECT_TRUE(r.all().starts_with(
       "# cylindrical frame, closed: 2 levels, 1 ring, 4 angles; 8 nodes, 12 members, 4 supports\n"
       "node 1 11 2 3\nnode 2 1 2 -7\n")) << r.all();
-  for (const char* line : {"\nnode 8 1 7 13\n", "\nmember 4 4 1\n", "\nmember 12 4 8\nsupport 1 fixed\n"})
-    EXPECT_NE(r.all().find(line), std::string::npos) << line;
+  EXPECT_NE(r.all().find("\nnode 8 1 7 13\n"), std::string::npos);
+  EXPECT_NE(r.all().find("\nmember 4 4 1\n"), std::string::npos) << "the ring closes";
   EXPECT_TRUE(r.all().ends_with("\nsupport 4 fixed\n"));
 
   const std::string path = dir / "cylinder.txt";
@@ -126,27 +121,21 @@ TEST_F(CliTest, CylinderListsTheFrameOrWritesItToAFile) {
 }
 
 TEST_F(CliTest, ReportPrintsReactionsWithTheirSum) {
-  const std::string header = "Support Reactions - [Dead]\n\n"
-                             "Node Id  Rx [kip]  Ry [kip]  Rz [kip]  Rox [kip-ft]  Roy [kip-ft]  Roz [kip-ft]\n";
   const CliRun run = Cli("report " + kModel + " 1 --case 1");
   EXPECT_EQ(run.status, 0) << run.all();
-  EXPECT_EQ(run.all(), header +
-                           "1           0.000    17.500     0.000         0.000         0.000         0.000\n"
-                           "2           0.000    35.000     0.000         0.000         0.000         0.000\n"
-                           "3           0.000    17.500     0.000         0.000         0.000         0.000\n"
-                           "4           0.000    17.500     0.000         0.000         0.000         0.000\n"
-                           "5           0.000    35.000     0.000         0.000         0.000         0.000\n"
-                           "6           0.000    17.500     0.000         0.000         0.000         0.000\n"
-                           "Sum         0.000   140.000     0.000         0.000         0.000         0.000\n");
+  EXPECT_TRUE(run.all().starts_with("Support Reactions - [Dead]\n\nNode Id  Rx [kip]  Ry [kip]  Rz [kip]  "
+                                    "Rox [kip-ft]  Roy [kip-ft]  Roz [kip-ft]\n1           0.000    17.500  "))
+      << run.all();
+  EXPECT_NE(run.all().find("\n2           0.000    35.000     0.000         0.000         0.000         0.000\n"
+                           "3  "), std::string::npos) << run.all();
+  EXPECT_TRUE(run.all().ends_with("\n6           0.000    17.500     0.000         0.000         0.000         0.000\n"
+                                  "Sum         0.000   140.000     0.000         0.000         0.000         0.000\n"));
   EXPECT_EQ(Cli("report " + kModel + " 1").all(), run.all()) << "the first case when none is named";
 
-  // Other kinds, each a line engineers check; files in the format of their extension.
-  const std::pair<std::string, std::string> kinds[] = {
-      {"1 --case 5", "Sum        -9.000     0.000     0.000         0.000         0.000        54.000\n"},
-      {"29 --query 13", "Node 13 Information\n**COORDINATES\n  x = 0.000;  y = 24.000;  z = 0.000 (ft)\n\n"},
-  };
-  for (const auto& [args, line] : kinds)
-    EXPECT_NE(Cli("report " + kModel + " " + args).all().find(line), std::string::npos) << args;
+  // Another kind, a line engineers check; files in the format of their extension.
+  EXPECT_NE(Cli("report " + kModel + " 29 --query 13").all().find(
+                "Node 13 Information\n**COORDINATES\n  x = 0.000;  y = 24.000;  z = 0.000 (ft)\n\n"),
+            std::string::npos);
   ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + dir / "d.txt").status, 0);
   EXPECT_TRUE(ReadFileText(dir / "d.txt").starts_with(
       "Node Id\tDx [in]\tDy [in]\tDz [in]\tDox [rad]\tDoy [rad]\tDoz [rad]\r\n1\t0.0000"));
@@ -166,14 +155,10 @@ TEST_F(CliTest, GridExportWritesTheTableAsItsDialogFillsIt) {
   EXPECT_EQ(ReadFileText(txt), text);
   EXPECT_EQ(Cli(export_ + txt + " --append").status, 0);
   EXPECT_EQ(ReadFileText(txt), text + text);
-  EXPECT_EQ(Cli(export_ + dir / "t.HTM").status, 0);
-  EXPECT_NE(ReadFileText(dir / "t.HTM").find("<caption>Member Table</caption>"), std::string::npos);
-  EXPECT_EQ(Cli(export_ + dir / "m.xlsx").status, 0);
-  EXPECT_TRUE(ReadFileText(dir / "m.xlsx").starts_with("PK"));
 }
 
 TEST_F(CliTest, CombosGenerateAndRefuseASecondRun) {
-  // Without -o nothing is written.
+  // Without -o nothing is written; a second run is refused.
   const std::string original = ReadFileText(kModel), copy = dir / "copy.json";
   WriteFileText(copy, original);
   const CliRun all = Cli("combos generate " + copy + " 0 --rows all");
@@ -188,8 +173,7 @@ TEST_F(CliTest, CombosGenerateAndRefuseASecondRun) {
   const CliRun run = Cli("combos generate " + kModel + " 2 --rows 1,22-23 --pdelta -o " + out);
   ASSERT_EQ(run.status, 0) << run.err;
   EXPECT_TRUE(run.out.starts_with("ACI-2014_Eq5_3_1_a  [P-Delta, concrete design, sustained factor 1.4]\n")) << run.out;
-  EXPECT_TRUE(run.out.ends_with("        -1  Wind X\n3 load combinations generated from ACI 318-11/14.\n"
-                                "Written to " + out + "\n")) << run.out;
+  EXPECT_TRUE(run.out.ends_with("\n3 load combinations generated from ACI 318-11/14.\nWritten to " + out + "\n"));
   const model::ModelDocument before = model::LoadModelDocument(kModel), after = model::LoadModelDocument(out);
   ASSERT_EQ(after.loadCombs.size(), before.loadCombs.size() + 3);
   EXPECT_EQ(after.loadCombs.back().name, "ACI-2014_Eq5_3_1_f_b");

@@ -37,11 +37,7 @@ TEST_F(CylinderDlgTest, CaptionsComeFromTheStringTableAndValuesFromTheHost) {
 
 TEST_F(CylinderDlgTest, RefusalsAreShownAndTheDialogStaysOpenWithTheTextAsTyped) {
   Open();
-  const struct {
-    int id;
-    const char* text;
-    const char* message;
-  } cases[] = {
+  const struct { int id; const char *text, *message; } cases[] = {
       {kCtlAngleList, "0, 360",
        "Closed cylindrical frame must have at least two angle increments (excluding 0 start angle)"},
       {kCtlAxialList, "-2@10",
@@ -74,19 +70,14 @@ TEST_F(CylinderDlgTest, OkWritesTheValuesBackAndCancelLeavesThem) {
   EXPECT_EQ(dlg.m_strRadialList, "20,10");
   EXPECT_EQ(dlg.m_strAngleList, "2@30");
   EXPECT_EQ(dlg.m_strYList, "12, 3@20, 2@15");
-  EXPECT_EQ(dlg.m_dInsertY, 1.5);
-  EXPECT_EQ(dlg.m_dRotationAngle, -45.0);
-  EXPECT_EQ(dlg.m_nRotationAxis, 1);
-  EXPECT_EQ(dlg.m_nSupports, 2);
-  EXPECT_EQ(dlg.m_bGenerateMembers, 0);
+  EXPECT_TRUE(dlg.m_dInsertY == 1.5 && dlg.m_dRotationAngle == -45.0);
+  EXPECT_TRUE(dlg.m_nRotationAxis == 1 && dlg.m_nSupports == 2 && dlg.m_bGenerateMembers == 0);
 
   CGenerateCylindricalFrameDlg cancelled;
   ASSERT_TRUE(cancelled.InitDialogForTest());
   cancelled.Item<QLineEdit>(kCtlRadialList)->setText("-5");
   ASSERT_TRUE(cancelled.PressButton(IDCANCEL));
-  EXPECT_EQ(cancelled.ModalResult(), IDCANCEL);
-  EXPECT_EQ(cancelled.m_strRadialList, "20,10");
-  EXPECT_TRUE(Messages().empty());
+  EXPECT_TRUE(cancelled.ModalResult() == IDCANCEL && cancelled.m_strRadialList == "20,10" && Messages().empty());
 }
 
 }  // namespace
