@@ -52,6 +52,7 @@ TEST_F(CliTest, RefusalsSayWhy) {
   WriteFileText(dir / "unsolved.json", R"({"format": "norvane-model", "schemaVersion": 1,
       "loadCases": [{"number": 1, "label": "Dead", "type": "Dead-D"}]})");
   WriteFileText(dir / "broken.json", "{\"format\": ");
+  WriteFileText(dir / "bad.csv", "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,two,4\n");
   const std::string report = "report " + kModel + " ", grid = "grid export " + kModel + " nodes ";
   const struct { std::string args; int status; std::string message; } cases[] = {
       {"units convert 1 furlong m", 2, "norvane-cli: unknown unit \"furlong\" (see: norvane-cli units list)\n"},
@@ -69,14 +70,16 @@ TEST_F(CliTest, RefusalsSayWhy) {
       {"grid export " + dir / "broken.json" + " nodes " + dir / "n.txt", 1, "Cannot open model"},
       {"combos generate " + kModel + " 0 --rows 37", 2, "norvane-cli: bad row \"37\": rows are numbered 1 to 36"},
       {"section tee 5 10 1 6", 1, "Flange width must be greater than or equal to web width\n"},
+      {"shapes import " + dir / "bad.csv", 1, "line 2, column 5 (Iy): \"two\" is not a number."},
   };
   for (const auto& c : cases) {
     const CliRun r = Cli(c.args);
     EXPECT_EQ(r.status, c.status) << c.args << "\n" << r.all();
     EXPECT_NE(r.all().find(c.message), std::string::npos) << c.args << "\n" << r.all();
   }
-  EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"broken.json", "unsolved.json"}))
+  EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"bad.csv", "broken.json", "unsolved.json"}))
       << "a refused export writes no file";
+  EXPECT_EQ(Cli("shapes show W14X90").status, 0) << "a refused import changes nothing";
 }
 
 TEST(Cli, GarbageNeverCrashes) {
@@ -85,8 +88,7 @@ TEST(Cli, GarbageNeverCrashes) {
       {}, {""}, {"units", "convert", huge, "ft", "in"}, {"units", "convert", "\xff\xfe", "\xc3", "\x01"}};
   for (const auto& args : cases) {
     const auto r = testsupport::RunProgram(NORVANE_CLI_PATH, args);
-    ASSERT_TRUE(r.started);
-    EXPECT_TRUE(r.exited) << "ended by signal " << r.signal;
+    EXPECT_TRUE(r.started && r.exited) << "ended by signal " << r.signal;
     EXPECT_EQ(r.status, 2) << (args.empty() ? "(no arguments)" : args[0]);
     EXPECT_FALSE(r.err.empty());
   }
@@ -114,10 +116,7 @@ TEST_F(CliTest, CylinderListsTheFrameOrWritesItToAFile) {
   const CliRun file = Cli("cylinder --axial 3@4 --no-members --supports pinned --first-node 101 --output " + path);
   EXPECT_EQ(file.status, 0);
   EXPECT_EQ(file.all(), "Wrote " + path + " (24 nodes, 0 members, 6 supports)\n");
-  const std::string text = ReadFileText(path);
-  EXPECT_TRUE(text.starts_with("# cylindrical frame, open: 4 levels, 2 rings, 3 angles; 24 nodes, 0 members, "
-                               "6 supports\n")) << text;
-  EXPECT_NE(text.find("\nnode 124 15 12 -25.9807621135\n"), std::string::npos);
+  EXPECT_NE(ReadFileText(path).find("\nnode 124 15 12 -25.9807621135\n"), std::string::npos);
 }
 
 TEST_F(CliTest, ReportPrintsReactionsWithTheirSum) {
@@ -196,10 +195,4 @@ TEST_F(CliTest, SectionsAndShapes) {
   EXPECT_EQ(show.status, 0);
   for (const char* line : {"AISC_Manual_Label W14X90\n", "\nIx 999\n"})
     EXPECT_NE(show.out.find(line), std::string::npos) << line;
-
-  WriteFileText(dir / "bad.csv", "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,two,4\n");
-  const CliRun bad = Cli("shapes import " + dir / "bad.csv");
-  EXPECT_EQ(bad.status, 1);
-  EXPECT_NE(bad.all().find("line 2, column 5 (Iy): \"two\" is not a number."), std::string::npos) << bad.all();
-  EXPECT_EQ(Cli("shapes show W14X90").status, 0) << "a refused import changes nothing";
 }

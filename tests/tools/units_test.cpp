@@ -11,8 +11,7 @@ namespace {
 
 double Convert(double value, const char* from, const char* to) {
   const int a = tools::FindUnitLabel(from), b = tools::FindUnitLabel(to);
-  EXPECT_GE(a, 0) << from;
-  EXPECT_GE(b, 0) << to;
+  EXPECT_TRUE(a >= 0 && b >= 0) << from << " -> " << to;
   return tools::ConvertUnits(value, a, b);
 }
 

@@ -56,10 +56,9 @@ TEST_F(CylinderDlgTest, RefusalsAreShownAndTheDialogStaysOpenWithTheTextAsTyped)
 
 TEST_F(CylinderDlgTest, OkWritesTheValuesBackAndCancelLeavesThem) {
   Open();
-  Type(kCtlAngleList, "2@30");  // accepted: the leading 0 is put in place
-  Type(kCtlAxialList, "12, 3@20, 2@15");
-  Type(kCtlInsertY, "1.5");
-  Type(kCtlRotationAngle, "-45");
+  for (const auto& [id, text] : {std::pair{kCtlAngleList, "2@30"}, {kCtlAxialList, "12, 3@20, 2@15"},
+                                 {kCtlInsertY, "1.5"}, {kCtlRotationAngle, "-45"}})
+    Type(id, text);  // "2@30" is accepted: the leading 0 is put in place
   ASSERT_TRUE(dlg.ChooseItem(kCtlRotationAxis, 1));
   ASSERT_TRUE(dlg.ChooseItem(kCtlSupports, 2));
   dlg.Item<QCheckBox>(kCtlGenerateMembers)->setChecked(false);
