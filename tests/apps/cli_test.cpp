@@ -13,16 +13,15 @@ namespace {
 const std::string kModel = std::string(NORVANE_EXAMPLES_DIR) + "/building.json";
 
 struct CliRun {
-  int status;
+  int status = -1;
   std::string out, err;
   std::string all() const { return out + err; }
 };
 
 // Arguments go through the shell, quoted by the caller; shapes come from the source tree and a private folder.
-class CliTest : public ::testing::Test {
- protected:
+struct CliTest : ::testing::Test {
   CliRun Cli(const std::string& args) const {
-    CliRun run{-1, {}, {}};
+    CliRun run;
     run.out = CommandOutput("NORVANE_DATA_DIR='" NORVANE_SOURCE_DATA_DIR "' XDG_DATA_HOME='" + home.path() + "' '" +
                                 NORVANE_CLI_PATH + "' " + args + " 2>'" + home / "err" + "'",
                             &run.status);
@@ -131,10 +130,7 @@ TEST_F(CliTest, ReportPrintsReactionsWithTheirSum) {
                                   "Sum         0.000   140.000     0.000         0.000         0.000         0.000\n"));
   EXPECT_EQ(Cli("report " + kModel + " 1").all(), run.all()) << "the first case when none is named";
 
-  // Another kind, a line engineers check; files in the format of their extension.
-  EXPECT_NE(Cli("report " + kModel + " 29 --query 13").all().find(
-                "Node 13 Information\n**COORDINATES\n  x = 0.000;  y = 24.000;  z = 0.000 (ft)\n\n"),
-            std::string::npos);
+  // A file is written in the format of its extension.
   ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + dir / "d.txt").status, 0);
   EXPECT_TRUE(ReadFileText(dir / "d.txt").starts_with(
       "Node Id\tDx [in]\tDy [in]\tDz [in]\tDox [rad]\tDoy [rad]\tDoz [rad]\r\n1\t0.0000"));

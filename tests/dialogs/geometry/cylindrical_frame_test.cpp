@@ -60,8 +60,7 @@ TEST(CylinderCheck, AcceptsAndRefusesListsInTheDialogsOrder) {
   }
 
   const struct { const char* angles; std::vector<double> expected; bool closed; } angles[] = {
-      {"2@30", {0, 30, 30}, false},
-      {"0, 4@90", {0, 90, 90, 90, 90}, true},
+      {"2@30", {0, 30, 30}, false}, {"0, 4@90", {0, 90, 90, 90, 90}, true},
       {"0, 180, 180.0000001", {0, 180, 180.0000001}, true}};
   for (const auto& c : angles) {
     const CylinderCheck check = CheckCylindricalFrameLists("10", c.angles, "");
