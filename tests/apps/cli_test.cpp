@@ -13,17 +13,15 @@ namespace {
 const std::string kModel = std::string(NORVANE_EXAMPLES_DIR) + "/building.json";
 
 struct CliRun {
-  int status;
+  int status = -1;
   std::string out, err;
   std::string all() const { return out + err; }
 };
 
-// Runs norvane-cli through the shell (arguments quoted by the caller) with the shape library
-// read from the source tree and a private user folder.
-class CliTest : public ::testing::Test {
- protected:
+// Arguments go through the shell, quoted by the caller; shapes come from the source tree and a private folder.
+struct CliTest : ::testing::Test {
   CliRun Cli(const std::string& args) const {
-    CliRun run{-1, {}, {}};
+    CliRun run;
     run.out = CommandOutput("NORVANE_DATA_DIR='" NORVANE_SOURCE_DATA_DIR "' XDG_DATA_HOME='" + home.path() + "' '" +
                                 NORVANE_CLI_PATH + "' " + args + " 2>'" + home / "err" + "'",
                             &run.status);
@@ -53,12 +51,9 @@ TEST_F(CliTest, RefusalsSayWhy) {
   WriteFileText(dir / "unsolved.json", R"({"format": "norvane-model", "schemaVersion": 1,
       "loadCases": [{"number": 1, "label": "Dead", "type": "Dead-D"}]})");
   WriteFileText(dir / "broken.json", "{\"format\": ");
+  WriteFileText(dir / "bad.csv", "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,two,4\n");
   const std::string report = "report " + kModel + " ", grid = "grid export " + kModel + " nodes ";
-  const struct {
-    std::string args;
-    int status;
-    std::string message;  // what the output says
-  } cases[] = {
+  const struct { std::string args; int status; std::string message; } cases[] = {
       {"units convert 1 furlong m", 2, "norvane-cli: unknown unit \"furlong\" (see: norvane-cli units list)\n"},
       {"units convert 1 ft kip", 2, "norvane-cli: cannot convert \"ft\" (Length) to \"kip\" (Force)\n"},
       {"units convert 1,5 ft in", 2, "norvane-cli: \"1,5\" is not a number\n"},
@@ -74,14 +69,16 @@ TEST_F(CliTest, RefusalsSayWhy) {
       {"grid export " + dir / "broken.json" + " nodes " + dir / "n.txt", 1, "Cannot open model"},
       {"combos generate " + kModel + " 0 --rows 37", 2, "norvane-cli: bad row \"37\": rows are numbered 1 to 36"},
       {"section tee 5 10 1 6", 1, "Flange width must be greater than or equal to web width\n"},
+      {"shapes import " + dir / "bad.csv", 1, "line 2, column 5 (Iy): \"two\" is not a number."},
   };
   for (const auto& c : cases) {
     const CliRun r = Cli(c.args);
     EXPECT_EQ(r.status, c.status) << c.args << "\n" << r.all();
     EXPECT_NE(r.all().find(c.message), std::string::npos) << c.args << "\n" << r.all();
   }
-  EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"broken.json", "unsolved.json"}))
+  EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"bad.csv", "broken.json", "unsolved.json"}))
       << "a refused export writes no file";
+  EXPECT_EQ(Cli("shapes show W14X90").status, 0) << "a refused import changes nothing";
 }
 
 TEST(Cli, GarbageNeverCrashes) {
@@ -90,8 +87,7 @@ TEST(Cli, GarbageNeverCrashes) {
       {}, {""}, {"units", "convert", huge, "ft", "in"}, {"units", "convert", "\xff\xfe", "\xc3", "\x01"}};
   for (const auto& args : cases) {
     const auto r = testsupport::RunProgram(NORVANE_CLI_PATH, args);
-    ASSERT_TRUE(r.started);
-    EXPECT_TRUE(r.exited) << "ended by signal " << r.signal;
+    EXPECT_TRUE(r.started && r.exited) << "ended by signal " << r.signal;
     EXPECT_EQ(r.status, 2) << (args.empty() ? "(no arguments)" : args[0]);
     EXPECT_FALSE(r.err.empty());
   }
@@ -111,42 +107,30 @@ TEST_F(CliTest, CylinderListsTheFrameOrWritesItToAFile) {
   EXPECT_TRUE(r.all().starts_with(
       "# cylindrical frame, closed: 2 levels, 1 ring, 4 angles; 8 nodes, 12 members, 4 supports\n"
       "node 1 11 2 3\nnode 2 1 2 -7\n")) << r.all();
-  for (const char* line : {"\nnode 8 1 7 13\n", "\nmember 4 4 1\n", "\nmember 12 4 8\nsupport 1 fixed\n"})
-    EXPECT_NE(r.all().find(line), std::string::npos) << line;
+  EXPECT_NE(r.all().find("\nnode 8 1 7 13\n"), std::string::npos);
+  EXPECT_NE(r.all().find("\nmember 4 4 1\n"), std::string::npos) << "the ring closes";
   EXPECT_TRUE(r.all().ends_with("\nsupport 4 fixed\n"));
 
   const std::string path = dir / "cylinder.txt";
   const CliRun file = Cli("cylinder --axial 3@4 --no-members --supports pinned --first-node 101 --output " + path);
   EXPECT_EQ(file.status, 0);
   EXPECT_EQ(file.all(), "Wrote " + path + " (24 nodes, 0 members, 6 supports)\n");
-  const std::string text = ReadFileText(path);
-  EXPECT_TRUE(text.starts_with("# cylindrical frame, open: 4 levels, 2 rings, 3 angles; 24 nodes, 0 members, "
-                               "6 supports\n")) << text;
-  EXPECT_NE(text.find("\nnode 124 15 12 -25.9807621135\n"), std::string::npos);
+  EXPECT_NE(ReadFileText(path).find("\nnode 124 15 12 -25.9807621135\n"), std::string::npos);
 }
 
 TEST_F(CliTest, ReportPrintsReactionsWithTheirSum) {
-  const std::string header = "Support Reactions - [Dead]\n\n"
-                             "Node Id  Rx [kip]  Ry [kip]  Rz [kip]  Rox [kip-ft]  Roy [kip-ft]  Roz [kip-ft]\n";
   const CliRun run = Cli("report " + kModel + " 1 --case 1");
   EXPECT_EQ(run.status, 0) << run.all();
-  EXPECT_EQ(run.all(), header +
-                           "1           0.000    17.500     0.000         0.000         0.000         0.000\n"
-                           "2           0.000    35.000     0.000         0.000         0.000         0.000\n"
-                           "3           0.000    17.500     0.000         0.000         0.000         0.000\n"
-                           "4           0.000    17.500     0.000         0.000         0.000         0.000\n"
-                           "5           0.000    35.000     0.000         0.000         0.000         0.000\n"
-                           "6           0.000    17.500     0.000         0.000         0.000         0.000\n"
-                           "Sum         0.000   140.000     0.000         0.000         0.000         0.000\n");
+  EXPECT_TRUE(run.all().starts_with("Support Reactions - [Dead]\n\nNode Id  Rx [kip]  Ry [kip]  Rz [kip]  "
+                                    "Rox [kip-ft]  Roy [kip-ft]  Roz [kip-ft]\n1           0.000    17.500  "))
+      << run.all();
+  EXPECT_NE(run.all().find("\n2           0.000    35.000     0.000         0.000         0.000         0.000\n"
+                           "3  "), std::string::npos) << run.all();
+  EXPECT_TRUE(run.all().ends_with("\n6           0.000    17.500     0.000         0.000         0.000         0.000\n"
+                                  "Sum         0.000   140.000     0.000         0.000         0.000         0.000\n"));
   EXPECT_EQ(Cli("report " + kModel + " 1").all(), run.all()) << "the first case when none is named";
 
-  // Other kinds, each a line engineers check; files in the format of their extension.
-  const std::pair<std::string, std::string> kinds[] = {
-      {"1 --case 5", "Sum        -9.000     0.000     0.000         0.000         0.000        54.000\n"},
-      {"29 --query 13", "Node 13 Information\n**COORDINATES\n  x = 0.000;  y = 24.000;  z = 0.000 (ft)\n\n"},
-  };
-  for (const auto& [args, line] : kinds)
-    EXPECT_NE(Cli("report " + kModel + " " + args).all().find(line), std::string::npos) << args;
+  // A file is written in the format of its extension.
   ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + dir / "d.txt").status, 0);
   EXPECT_TRUE(ReadFileText(dir / "d.txt").starts_with(
       "Node Id\tDx [in]\tDy [in]\tDz [in]\tDox [rad]\tDoy [rad]\tDoz [rad]\r\n1\t0.0000"));
@@ -166,14 +150,10 @@ TEST_F(CliTest, GridExportWritesTheTableAsItsDialogFillsIt) {
   EXPECT_EQ(ReadFileText(txt), text);
   EXPECT_EQ(Cli(export_ + txt + " --append").status, 0);
   EXPECT_EQ(ReadFileText(txt), text + text);
-  EXPECT_EQ(Cli(export_ + dir / "t.HTM").status, 0);
-  EXPECT_NE(ReadFileText(dir / "t.HTM").find("<caption>Member Table</caption>"), std::string::npos);
-  EXPECT_EQ(Cli(export_ + dir / "m.xlsx").status, 0);
-  EXPECT_TRUE(ReadFileText(dir / "m.xlsx").starts_with("PK"));
 }
 
 TEST_F(CliTest, CombosGenerateAndRefuseASecondRun) {
-  // Without -o nothing is written.
+  // Without -o nothing is written; a second run is refused.
   const std::string original = ReadFileText(kModel), copy = dir / "copy.json";
   WriteFileText(copy, original);
   const CliRun all = Cli("combos generate " + copy + " 0 --rows all");
@@ -188,8 +168,7 @@ TEST_F(CliTest, CombosGenerateAndRefuseASecondRun) {
   const CliRun run = Cli("combos generate " + kModel + " 2 --rows 1,22-23 --pdelta -o " + out);
   ASSERT_EQ(run.status, 0) << run.err;
   EXPECT_TRUE(run.out.starts_with("ACI-2014_Eq5_3_1_a  [P-Delta, concrete design, sustained factor 1.4]\n")) << run.out;
-  EXPECT_TRUE(run.out.ends_with("        -1  Wind X\n3 load combinations generated from ACI 318-11/14.\n"
-                                "Written to " + out + "\n")) << run.out;
+  EXPECT_TRUE(run.out.ends_with("\n3 load combinations generated from ACI 318-11/14.\nWritten to " + out + "\n"));
   const model::ModelDocument before = model::LoadModelDocument(kModel), after = model::LoadModelDocument(out);
   ASSERT_EQ(after.loadCombs.size(), before.loadCombs.size() + 3);
   EXPECT_EQ(after.loadCombs.back().name, "ACI-2014_Eq5_3_1_f_b");
@@ -212,10 +191,4 @@ TEST_F(CliTest, SectionsAndShapes) {
   EXPECT_EQ(show.status, 0);
   for (const char* line : {"AISC_Manual_Label W14X90\n", "\nIx 999\n"})
     EXPECT_NE(show.out.find(line), std::string::npos) << line;
-
-  WriteFileText(dir / "bad.csv", "AISC_Manual_Label,Type,A,Ix,Iy,J\nX1,W,1,2,two,4\n");
-  const CliRun bad = Cli("shapes import " + dir / "bad.csv");
-  EXPECT_EQ(bad.status, 1);
-  EXPECT_NE(bad.all().find("line 2, column 5 (Iy): \"two\" is not a number."), std::string::npos) << bad.all();
-  EXPECT_EQ(Cli("shapes show W14X90").status, 0) << "a refused import changes nothing";
 }

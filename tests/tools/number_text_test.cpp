@@ -10,19 +10,14 @@
 
 namespace {
 
-struct FormatCase {
-  std::string written;
-  std::string expected;
-};
+struct FormatCase { std::string written, expected; };
 
 // Built when called, so that a test can put a locale in force first.
 std::vector<FormatCase> FormatCases() {
   return {
-      {tools::Format("%g", 1.5), "1.5"},
-      {tools::Format("%.3f %%", 12.25), "12.250 %"},
+      {tools::Format("%g", 1.5), "1.5"},        {tools::Format("%.3f %%", 12.25), "12.250 %"},
       {tools::Format("%.7g", 1.3558179483314004), "1.355818"},
-      {tools::Format("%g", 1234567.0), "1.23457e+06"},
-      {tools::FormatG(0.1), "0.1"},
+      {tools::Format("%g", 1234567.0), "1.23457e+06"}, {tools::FormatG(0.1), "0.1"},
       {tools::FormatInt(-9223372036854775807LL - 1), "-9223372036854775808"},
       {tools::Format("[%s]", std::string(1000, 'x').c_str()), "[" + std::string(1000, 'x') + "]"},  // long
   };
@@ -47,10 +42,7 @@ TEST(Format, WritesPrintfTextWithAPointWhateverTheLocale) {
 }
 
 TEST(ParseDouble, ReadsNumbersAndRefusesEverythingElse) {
-  const struct {
-    const char* text;
-    std::optional<double> expected;
-  } cases[] = {
+  const struct { const char* text; std::optional<double> expected; } cases[] = {
       {" 2.5 ", 2.5}, {"\t7\r\n", 7.0}, {"-3", -3.0},  {"+4", 4.0},   {"1E-3", 0.001}, {".5", 0.5},
       {"5.", 5.0},    {"abc", {}},      {"", {}},      {"   ", {}},   {"1,5", {}},     {"1.5ft", {}},
       {"1 2", {}},    {"1e400", {}},    {"-1e400", {}}, {"inf", {}}, {"nan", {}},     {"0x10", {}},
@@ -60,18 +52,9 @@ TEST(ParseDouble, ReadsNumbersAndRefusesEverythingElse) {
 }
 
 TEST(ParseInteger, ChecksTheRangeOfTheTarget) {
-  const struct {
-    const char* text;
-    std::optional<int32_t> asInt32;
-    std::optional<uint32_t> asUInt32;
-  } cases[] = {
-      {" 12 ", 12, 12u},
-      {"-1", -1, {}},
-      {"2147483648", {}, 2147483648u},
-      {"-2147483648", INT32_MIN, {}},
-      {"4294967295", {}, 4294967295u},
-      {"4294967296", {}, {}},
-      {"1.0", {}, {}},
+  const struct { const char* text; std::optional<int32_t> asInt32; std::optional<uint32_t> asUInt32; } cases[] = {
+      {" 12 ", 12, 12u},          {"-1", -1, {}},                   {"2147483648", {}, 2147483648u},
+      {"-2147483648", INT32_MIN, {}}, {"4294967295", {}, 4294967295u}, {"4294967296", {}, {}}, {"1.0", {}, {}},
   };
   for (const auto& c : cases) {
     EXPECT_EQ(tools::ParseInt32(c.text), c.asInt32) << '"' << c.text << '"';

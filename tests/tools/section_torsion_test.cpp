@@ -2,15 +2,12 @@
 
 #include <gtest/gtest.h>
 
-// J = beta a t^3 for a solid rectangle with long side a and short side t; the classic
-// table of beta by aspect ratio a/t.
+// J = beta a t^3 for a solid rectangle with long side a and short side t; beta by aspect ratio a/t.
 TEST(RectangleTorsion, AgreesWithTheClassicBetaTableWithinOnePercent) {
-  const struct {
-    double ratio, beta;
-  } table[] = {{1.0, 0.141}, {1.5, 0.196}, {2.0, 0.229}, {3.0, 0.263}, {5.0, 0.291}, {10.0, 0.312}};
+  const struct { double ratio, beta; } table[] = {
+      {1.0, 0.141}, {1.5, 0.196}, {2.0, 0.229}, {3.0, 0.263}, {5.0, 0.291}, {10.0, 0.312}};
   for (const auto& row : table) {
-    const double t = 2.0, a = row.ratio * t;
-    const double expected = row.beta * a * t * t * t;
+    const double t = 2.0, a = row.ratio * t, expected = row.beta * a * t * t * t;
     EXPECT_NEAR(tools::calc_rect_J(a, t), expected, 0.01 * expected) << "a/t = " << row.ratio;
     EXPECT_DOUBLE_EQ(tools::calc_rect_J(t, a), tools::calc_rect_J(a, t)) << "either order of the sides";
   }

@@ -14,8 +14,7 @@
 namespace {
 
 const std::string kDataDir = NORVANE_SOURCE_DATA_DIR;
-// The shared test data beside the project; NORVANE_TEST_DATA_DIR in the environment
-// points elsewhere (a worktree checked out away from it).
+// NORVANE_TEST_DATA_DIR in the environment points a worktree away from the project to the shared data.
 std::string TestDataDir() {
   const char* dir = std::getenv("NORVANE_TEST_DATA_DIR");
   return dir && *dir ? dir : NORVANE_TEST_DATA_DIR;
@@ -49,16 +48,13 @@ const std::string kGoodRows =
 
 TEST(BundledShapes, CommittedFilesAreWhatTheBuilderMakes) {
   const tools::BundledTables fresh = tools::BuildBundledTables(kDataDir);
-  EXPECT_TRUE(Read(kDataDir + "/aisc14u.idx") == fresh.aiscIndex) << "run: norvane-cli shapes bundle data";
-  EXPECT_TRUE(Read(kDataDir + "/aisc14u.tbl") == fresh.aiscTable) << "run: norvane-cli shapes bundle data";
-  EXPECT_TRUE(Read(kDataDir + "/nds.tbl") == fresh.nds) << "run: norvane-cli shapes bundle data";
+  for (const auto& [name, built] : {std::pair{"aisc14u.idx", fresh.aiscIndex}, {"aisc14u.tbl", fresh.aiscTable},
+                                    {"nds.tbl", fresh.nds}})
+    EXPECT_TRUE(Read(kDataDir + "/" + name) == built) << name << ": run norvane-cli shapes bundle data";
 }
 
 TEST_F(ShapeLibraryTest, TransformsShapesIntoSections) {
-  const struct {
-    const char* label;
-    double A, Ay, Az, Iz, Iy, J, b, d, tf, tw;
-  } cases[] = {
+  const struct { const char* label; double A, Ay, Az, Iz, Iy, J, b, d, tf, tw; } cases[] = {
       {"W14X90", 26.5, 0.44 * 14, 2 * 14.5 * 0.71 / 1.2, 999, 362, 4.06, 14.5, 14, 0.71, 0.44},
       {"HSS6X6X1/2", 9.74, 2 * 6 * 0.465, 2 * 6 * 0.465, 48.3, 48.3, 81.1, 6, 6, 0.465, 0.465},
       {"Pipe4STD", 2.96, 1.48, 1.48, 6.82, 6.82, 13.6, 4.5, 4.5, 0.221, 0.221},
@@ -85,13 +81,12 @@ TEST_F(ShapeLibraryTest, TransformsShapesIntoSections) {
 
 TEST_F(ShapeLibraryTest, ImportShadowsTheInstalledLibraryAndKeepsABackup) {
   const std::string installedIdx = Read(kDataDir + "/aisc14u.idx");
-  const std::string csv = WriteCsv("small.csv", kHeader + kGoodRows);
-  tools::ascii_binary(csv);
+  tools::ascii_binary(WriteCsv("small.csv", kHeader + kGoodRows));
   ASSERT_TRUE(Exists(UserFile("aisc14u.idx")));
   EXPECT_EQ(tools::ActiveAiscDirectory(), user.path() + "/norvane");
   ASSERT_NE(tools::CurrentAiscLibrary(), nullptr);
   EXPECT_EQ(tools::CurrentAiscLibrary()->size(), 2u);
-  EXPECT_LT(tools::get_shape("W14X90"), 0);
+  EXPECT_LT(tools::get_shape("W14X90"), 0) << "the installed shapes are shadowed";
   tools::fmSect_AISC s;
   ASSERT_TRUE(tools::get_aisc_shape(tools::get_shape("W8X31"), s));
   EXPECT_EQ(s.Value("Ix"), 110);
@@ -110,9 +105,7 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
 
   const std::string noIx = "EDI_Std_Nomenclature,AISC_Manual_Label,Type,A,Iy,J\nX,X,W,1,2,3\n";
   const struct {
-    const char* name;
-    std::string text;
-    const char* message;
+    const char* name; std::string text; const char* message;
     size_t size = 0;  // the file grown to this size, unread
     const char* verb = "import";
   } cases[] = {

@@ -16,7 +16,6 @@ class LoadsHostTest : public DialogTest {
     RegisterAllBindings();
     model.doc = model::LoadModelDocument(std::string(NORVANE_EXAMPLES_DIR) + "/building.json");
   }
-  // Opens a bound dialog, lets `edit` work on it, presses `button` and takes the result back.
   template <typename Edit>
   bool Run(const char* className, int button, Edit edit) {
     auto dlg = CreateBoundDialog(className, model, nullptr);

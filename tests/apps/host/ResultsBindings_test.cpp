@@ -13,14 +13,18 @@ class ResultsHostTest : public DialogTest {
     DialogTest::SetUp();
     model.doc = model::LoadModelDocument(std::string(NORVANE_EXAMPLES_DIR) + "/building.json");
   }
+  std::unique_ptr<CDialog> Open(std::map<std::string, std::string> options) {
+    model.showOptions = std::move(options);
+    auto dlg = CreateBoundDialog("CResultsDlg", model, nullptr);
+    if (dlg) dlg->InitDialogForTest();
+    return dlg;
+  }
   HostModel model;
 };
 
 TEST_F(ResultsHostTest, TheShowOptionsChooseTheReportAndTheCase) {
-  model.showOptions = {{"kind", "1"}, {"case", "5"}};
-  auto dlg = CreateBoundDialog("CResultsDlg", model, nullptr);
+  auto dlg = Open({{"kind", "1"}, {"case", "5"}});
   ASSERT_TRUE(dlg);
-  dlg->InitDialogForTest();
   auto& results = static_cast<CResultsDlg&>(*dlg);
   EXPECT_EQ(results.windowTitle().toStdString(), "Support Reactions - [Wind X]");
   EXPECT_EQ(results.Spread().sheet().GetData(2, 7), "-9.000");
@@ -29,9 +33,8 @@ TEST_F(ResultsHostTest, TheShowOptionsChooseTheReportAndTheCase) {
 }
 
 TEST_F(ResultsHostTest, ShowSelectedIsWrittenBackAlthoughTheDialogOnlyCloses) {
-  model.showOptions = {{"kind", "0"}};
-  auto dlg = CreateBoundDialog("CResultsDlg", model, nullptr);
-  dlg->InitDialogForTest();
+  auto dlg = Open({{"kind", "0"}});
+  ASSERT_TRUE(dlg);
   ASSERT_TRUE(dlg->PressButton(res::kCtlResultsShowSelected));
   ASSERT_TRUE(dlg->PressButton(IDCANCEL));
   EXPECT_EQ(dlg->ModalResult(), IDCANCEL);

@@ -37,11 +37,7 @@ TEST_F(CylinderDlgTest, CaptionsComeFromTheStringTableAndValuesFromTheHost) {
 
 TEST_F(CylinderDlgTest, RefusalsAreShownAndTheDialogStaysOpenWithTheTextAsTyped) {
   Open();
-  const struct {
-    int id;
-    const char* text;
-    const char* message;
-  } cases[] = {
+  const struct { int id; const char *text, *message; } cases[] = {
       {kCtlAngleList, "0, 360",
        "Closed cylindrical frame must have at least two angle increments (excluding 0 start angle)"},
       {kCtlAxialList, "-2@10",
@@ -60,10 +56,9 @@ TEST_F(CylinderDlgTest, RefusalsAreShownAndTheDialogStaysOpenWithTheTextAsTyped)
 
 TEST_F(CylinderDlgTest, OkWritesTheValuesBackAndCancelLeavesThem) {
   Open();
-  Type(kCtlAngleList, "2@30");  // accepted: the leading 0 is put in place
-  Type(kCtlAxialList, "12, 3@20, 2@15");
-  Type(kCtlInsertY, "1.5");
-  Type(kCtlRotationAngle, "-45");
+  for (const auto& [id, text] : {std::pair{kCtlAngleList, "2@30"}, {kCtlAxialList, "12, 3@20, 2@15"},
+                                 {kCtlInsertY, "1.5"}, {kCtlRotationAngle, "-45"}})
+    Type(id, text);  // "2@30" is accepted: the leading 0 is put in place
   ASSERT_TRUE(dlg.ChooseItem(kCtlRotationAxis, 1));
   ASSERT_TRUE(dlg.ChooseItem(kCtlSupports, 2));
   dlg.Item<QCheckBox>(kCtlGenerateMembers)->setChecked(false);
@@ -74,19 +69,14 @@ TEST_F(CylinderDlgTest, OkWritesTheValuesBackAndCancelLeavesThem) {
   EXPECT_EQ(dlg.m_strRadialList, "20,10");
   EXPECT_EQ(dlg.m_strAngleList, "2@30");
   EXPECT_EQ(dlg.m_strYList, "12, 3@20, 2@15");
-  EXPECT_EQ(dlg.m_dInsertY, 1.5);
-  EXPECT_EQ(dlg.m_dRotationAngle, -45.0);
-  EXPECT_EQ(dlg.m_nRotationAxis, 1);
-  EXPECT_EQ(dlg.m_nSupports, 2);
-  EXPECT_EQ(dlg.m_bGenerateMembers, 0);
+  EXPECT_TRUE(dlg.m_dInsertY == 1.5 && dlg.m_dRotationAngle == -45.0);
+  EXPECT_TRUE(dlg.m_nRotationAxis == 1 && dlg.m_nSupports == 2 && dlg.m_bGenerateMembers == 0);
 
   CGenerateCylindricalFrameDlg cancelled;
   ASSERT_TRUE(cancelled.InitDialogForTest());
   cancelled.Item<QLineEdit>(kCtlRadialList)->setText("-5");
   ASSERT_TRUE(cancelled.PressButton(IDCANCEL));
-  EXPECT_EQ(cancelled.ModalResult(), IDCANCEL);
-  EXPECT_EQ(cancelled.m_strRadialList, "20,10");
-  EXPECT_TRUE(Messages().empty());
+  EXPECT_TRUE(cancelled.ModalResult() == IDCANCEL && cancelled.m_strRadialList == "20,10" && Messages().empty());
 }
 
 }  // namespace
