@@ -59,6 +59,7 @@ ModelDocument ReadDocument(const nlohmann::json& root, const std::string& fileNa
     ReadThicknesses(r, doc);
     ReadElements(r, doc);
     ReadSupports(r, doc);
+    ReadSpectrumSettings(r, doc);
     ReadResults(r, doc);
   } catch (const DocumentError& e) {
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
@@ -120,6 +121,7 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   WriteThicknesses(doc, root);
   WriteElements(doc, root);
   WriteSupports(doc, root);
+  WriteSpectrumSettings(doc, root);
   WriteResults(doc, root);
   if (const std::string place = FirstNonFiniteNumber(root, ""); !place.empty())
     throw DocumentError(place, "Cannot save the model: the value at " + place +
