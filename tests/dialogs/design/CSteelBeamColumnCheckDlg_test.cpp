@@ -166,7 +166,7 @@ TEST_F(SteelCheckDialogTest, ShowProcedureOpensTheReportAndAiscTableChoosesTheSh
   EXPECT_EQ(catcher.urls[0].toLocalFile().toStdString(), reports / "kStrand.htm");
 
   scripts[kTplAiscData] = [](CDialog& browser) {
-    browser.Item<QLineEdit>(kCtlShapeFind)->setText("HSS6X6X1/2");
+    browser.Item<QLineEdit>(kCtlShapeFind)->setText("2L4X3-1/2X3/8X3/4LLBB");
     browser.PressButton(IDOK);
   };
   ASSERT_FALSE(Cell(15, 1).empty());
