@@ -1,3 +1,4 @@
+#include <csignal>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -11,6 +12,9 @@ constexpr void (*kCommands[])(cli::Program&) = {
 };
 
 int main(int argc, char** argv) {
+  // Past a file-size limit a write then fails with EFBIG and is reported, instead of the
+  // signal ending the program with a temporary file left beside the target.
+  std::signal(SIGXFSZ, SIG_IGN);
   std::ios::sync_with_stdio(false);
   cli::Program program;
   for (const auto add : kCommands) add(program);

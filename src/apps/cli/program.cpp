@@ -1,4 +1,5 @@
 #include <exception>
+#include <new>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -80,6 +81,12 @@ int Program::Run(int argc, const char* const* argv, std::ostream& out, std::ostr
   if (!chosen_) return kUsage;  // every command has an action or required verbs; kept for safety
   try {
     return chosen_(Io{out, err});
+  } catch (const std::bad_alloc&) {
+    std::string name;
+    for (const CLI::App* c = &ChosenCommand(app_); c->get_parent(); c = c->get_parent())
+      name = c->get_name() + (name.empty() ? "" : " ") + name;
+    err << "norvane-cli: Not enough memory to run \"" << name << "\"\n";
+    return kRefused;
   } catch (const std::exception& e) {
     err << "norvane-cli: " << e.what() << "\n";
     return kRefused;
