@@ -12,6 +12,7 @@
 #include "model/fm_section.h"
 #include "model/fm_solution.h"
 #include "model/fm_support.h"
+#include "model/response_spectrum_settings.h"
 #include "tools/fm_unit.h"
 
 namespace model {
@@ -31,6 +32,7 @@ struct ModelDocument {
   std::vector<fmShell4> shells;
   std::vector<fmBrick> bricks;
   std::vector<fmSupport> supports;  // at most one per node, each at a node of `nodes`
+  fmResponseSpectrumSettings spectrumAnalysis;  // spectra named from the user's spectrum file
   fmSolution results;  // what the last solver run produced; empty when never solved
 };
 
@@ -41,6 +43,8 @@ inline constexpr int kDocumentSchemaVersion = 1;
 class DocumentLoadError : public std::runtime_error {
  public:
   DocumentLoadError(const std::string& file, const std::string& place, const std::string& problem);
+  // Memory ran out while reading the file.
+  explicit DocumentLoadError(const std::string& file);
   const std::string& file() const { return file_; }
   const std::string& place() const { return place_; }
   const std::string& problem() const { return problem_; }
@@ -51,8 +55,9 @@ class DocumentLoadError : public std::runtime_error {
 
 ModelDocument ParseModelDocument(std::string_view text, const std::string& fileName);
 ModelDocument LoadModelDocument(const std::string& path);
+// Throws model::DocumentError (json_reader.h), naming the place, for a number that is not finite.
 std::string SerializeModelDocument(const ModelDocument& doc);
-// Replaces the file atomically; throws tools::FileError.
+// Replaces the file atomically; throws tools::FileError, or DocumentError before touching the file.
 void SaveModelDocument(const ModelDocument& doc, const std::string& path);
 
 // Removes the supports whose node is no longer in `nodes` (after nodes were renumbered), so
