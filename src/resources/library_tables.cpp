@@ -24,6 +24,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kSectionsResources,
       &kLoadsResources,
       &kResultsResources,
+      &GeneratedResources(),
   };
   return tables;
 }
