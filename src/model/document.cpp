@@ -85,6 +85,7 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
     ReadThicknesses(r, doc);
     ReadElements(r, doc);
     ReadSupports(r, doc);
+    ReadSpectrumSettings(r, doc);
     ReadResults(r, doc);
   } catch (const DocumentError& e) {
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
@@ -116,6 +117,7 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   WriteThicknesses(doc, root);
   WriteElements(doc, root);
   WriteSupports(doc, root);
+  WriteSpectrumSettings(doc, root);
   WriteResults(doc, root);
   return root.dump(1, '\t') + "\n";
 }

@@ -12,6 +12,7 @@
 #include "model/fm_section.h"
 #include "model/fm_solution.h"
 #include "model/fm_support.h"
+#include "model/response_spectrum_settings.h"
 #include "tools/fm_unit.h"
 
 namespace model {
@@ -31,6 +32,7 @@ struct ModelDocument {
   std::vector<fmShell4> shells;
   std::vector<fmBrick> bricks;
   std::vector<fmSupport> supports;  // at most one per node, each at a node of `nodes`
+  fmResponseSpectrumSettings spectrumAnalysis;  // spectra named from the user's spectrum file
   fmSolution results;  // what the last solver run produced; empty when never solved
 };
 

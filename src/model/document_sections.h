@@ -24,6 +24,8 @@ void WriteElements(const ModelDocument& doc, nlohmann::ordered_json& root);
 // After the nodes: a support must name one of them.
 void ReadSupports(const JsonReader& root, ModelDocument& doc);
 void WriteSupports(const ModelDocument& doc, nlohmann::ordered_json& root);
+void ReadSpectrumSettings(const JsonReader& root, ModelDocument& doc);
+void WriteSpectrumSettings(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadResults(const JsonReader& root, ModelDocument& doc);
 void WriteResults(const ModelDocument& doc, nlohmann::ordered_json& root);
 // Rescales materials, sections and thicknesses; factor[q] is 1 for a quantity not converted.

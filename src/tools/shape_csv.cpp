@@ -4,6 +4,7 @@
 
 #include "tools/fm_exception.h"
 #include "tools/format.h"
+#include "tools/labels.h"
 #include "tools/parse.h"
 #include "tools/shape_table.h"
 
@@ -192,11 +193,22 @@ std::vector<fmSect_AISC> ParseAiscCsv(std::string_view text, const std::string& 
     };
     if (s.label.empty()) Refuse(file, where(1) + ": the shape has no label.");
     if (s.type.empty()) Refuse(file, where(2) + ": the shape has no type.");
-    if (s.type.size() > 7) Refuse(file, where(2) + ": \"" + s.type + "\" is not a shape type.");
+    if (const std::string rule = IsValidLabel(s.label); !rule.empty())
+      Refuse(file, where(1) + ": Section label can only " + rule);
+    if (!IsKnownShapeType(s.type))
+      Refuse(file, where(2) + ": \"" + s.type + "\" is not a shape type (W, M, S, HP, C, MC, L, WT, MT, ST, 2L, HSS or PIPE).");
     if (s.tf.size() > 3) Refuse(file, where(3) + ": \"" + s.tf + "\" is not T or F.");
-    for (const int v : {aisc::A, aisc::Ix, aisc::Iy})
+    // What the section table refuses: A, Ix, Iy and J must be positive (a double angle may
+    // leave J to its single angle), the dimensions a section takes may not be negative.
+    for (const int v : {aisc::A, aisc::Ix, aisc::Iy, aisc::J}) {
+      if (v == aisc::J && s.type == "2L" && !s.Has(v)) continue;
       if (!s.Has(v) || !(s.Value(v) > 0))
         Refuse(file, where(v + kAiscTextColumnCount) + ": the shape " + s.label + " needs a positive value.");
+    }
+    for (const int v : {aisc::d, aisc::Ht, aisc::OD, aisc::bf, aisc::B, aisc::b, aisc::tw, aisc::tf, aisc::t,
+                        aisc::tdes})
+      if (s.Has(v) && !(s.Value(v) >= 0) && columnOf[static_cast<size_t>(v + kAiscTextColumnCount)] >= 0)
+        Refuse(file, where(v + kAiscTextColumnCount) + ": the shape " + s.label + " may not have a negative value.");
     const auto [it, added] = lineOfLabel.emplace(Upper(s.label), lineNo);
     if (!added)
       Refuse(file, where(1) + Format(": the label %s is already used on line %zu.", s.label.c_str(), it->second));

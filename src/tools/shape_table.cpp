@@ -1,5 +1,6 @@
 #include "tools/shape_table.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -233,7 +234,32 @@ AiscLibrary AiscLibrary::LoadFrom(const std::string& directory) {
   return Parse(index, table, "in \"" + directory + "\"");
 }
 
+bool IsKnownShapeType(std::string_view type) {
+  static constexpr std::string_view kTypes[] = {"W", "M", "S", "HP", "C", "MC", "L", "WT", "MT", "ST", "2L", "HSS", "PIPE"};
+  return std::find(std::begin(kTypes), std::end(kTypes), type) != std::end(kTypes);
+}
+
+std::string SingleAngleLabel(std::string_view label) {
+  // 2L<leg>X<leg>X<t>[X<spacing>][LLBB|SLBB]: the first three parts name the single angle.
+  if (label.size() < 3 || label[0] != '2' || (label[1] != 'L' && label[1] != 'l')) return "";
+  std::string_view rest = label.substr(1);
+  for (std::string_view suffix : {"LLBB", "SLBB", "llbb", "slbb"})
+    if (rest.ends_with(suffix)) rest.remove_suffix(suffix.size());
+  size_t end = 0;
+  for (int part = 0; part < 3; ++part) {
+    if (part) ++end;
+    end = rest.find_first_of("Xx", end);
+    if (part < 2 && end == std::string_view::npos) return "";
+    if (end == std::string_view::npos) end = rest.size();
+  }
+  return std::string(rest.substr(0, end));
+}
+
 void transform_aisc_to_norvane_section(fmSect& section, const fmSect_AISC& shape) {
+  transform_aisc_to_norvane_section(section, shape, CurrentAiscLibrary());
+}
+
+void transform_aisc_to_norvane_section(fmSect& section, const fmSect_AISC& shape, const AiscLibrary* library) {
   const auto v = [&](int i) { return shape.Has(i) ? shape.Value(i) : 0.0; };
   section.SetLabel(shape.label);
   section.A = v(aisc::A);
@@ -242,6 +268,12 @@ void transform_aisc_to_norvane_section(fmSect& section, const fmSect_AISC& shape
   section.J = v(aisc::J);
   section.b = section.d = section.tf = section.tw = 0;
   const std::string& type = shape.type;
+  if (type == "2L" && !shape.Has(aisc::J) && library) {
+    // Two angles that touch only along their backs twist nearly independently.
+    const int single = library->Find(SingleAngleLabel(shape.label));
+    if (single >= 0 && library->at(size_t(single)).type == "L" && library->at(size_t(single)).Has(aisc::J))
+      section.J = 2 * library->at(size_t(single)).Value(aisc::J);
+  }
   if (type == "HSS" && shape.Has(aisc::OD)) {
     // Round tube: about half the area carries shear in each direction.
     section.b = section.d = v(aisc::OD);
@@ -258,13 +290,21 @@ void transform_aisc_to_norvane_section(fmSect& section, const fmSect_AISC& shape
     section.tf = section.tw = v(aisc::tdes);
     section.Ay = 2 * section.d * section.tf;
     section.Az = 2 * section.b * section.tf;
-  } else if (type == "L" || type == "2L") {
+  } else if (type == "L") {
+    // The published Ix bends about the axis across the long leg (y is measured along it), so
+    // the long leg is the section's depth whichever column holds it.
+    section.d = std::max(v(aisc::b), v(aisc::d));
+    section.b = std::min(v(aisc::b), v(aisc::d));
+    section.tf = section.tw = v(aisc::t);
+    section.Ay = section.d * section.tf;
+    section.Az = section.b * section.tf;
+  } else if (type == "2L") {
+    // The published d is the depth of the legs back to back, about which Ix bends.
     section.b = v(aisc::b);
     section.d = v(aisc::d);
     section.tf = section.tw = v(aisc::t);
-    const double legs = type == "2L" ? 2 : 1;
-    section.Ay = legs * section.d * section.tf;
-    section.Az = legs * section.b * section.tf;
+    section.Ay = 2 * section.d * section.tf;
+    section.Az = 2 * section.b * section.tf;
   } else if (type == "WT" || type == "MT" || type == "ST") {
     section.b = v(aisc::bf);
     section.d = v(aisc::d);

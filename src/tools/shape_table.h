@@ -138,7 +138,15 @@ void ReloadShapeLibrary();
 bool get_shape_index(std::vector<AiscShapeIndexEntry>& index);
 int get_shape(std::string_view label);  // negative when unknown
 bool get_aisc_shape(int index, fmSect_AISC& shape);
+// Double angles of the published table carry no J: the transform takes twice the J of the
+// single angle of the same size from `library` (the library in use when none is given).
 void transform_aisc_to_norvane_section(fmSect& section, const fmSect_AISC& shape);
+void transform_aisc_to_norvane_section(fmSect& section, const fmSect_AISC& shape, const AiscLibrary* library);
+// The single angle a double angle is made of ("2L8X4X1X3/8LLBB" gives "L8X4X1"); empty when
+// the label is not one of a double angle.
+std::string SingleAngleLabel(std::string_view doubleAngleLabel);
+// The shape types the library knows.
+bool IsKnownShapeType(std::string_view type);
 // Rebuilds the user's steel library from a csv file; throws fmException, leaving the
 // library files as they were.
 void ascii_binary(const std::string& path);

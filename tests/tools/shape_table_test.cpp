@@ -79,6 +79,31 @@ TEST_F(ShapeLibraryTest, TransformsShapesIntoSections) {
   EXPECT_DOUBLE_EQ(wood.d, 3.5 / 12);
 }
 
+TEST_F(ShapeLibraryTest, AnglesStandOnTheirLongLegAndDoubleAnglesTakeTwiceTheSingleAngleJ) {
+  // L8X4X1 as published: d = 4, b = 8, Ix = 69.7 with y = 3.03 measured along the 8 in leg.
+  tools::fmSect_AISC single;
+  ASSERT_TRUE(tools::get_aisc_shape(tools::get_shape("L8X4X1"), single));
+  fmSect s;
+  tools::transform_aisc_to_norvane_section(s, single);
+  EXPECT_EQ((std::vector<double>{s.d, s.b, s.Iz, s.Iy, s.Ay, s.Az, s.J}),
+            (std::vector<double>{8, 4, 69.7, 11.6, 8, 4, 3.68}));
+
+  tools::fmSect_AISC pair;  // 2L8X4X1X3/8LLBB as published, without J
+  pair.label = "2L8X4X1X3/8LLBB", pair.type = "2L";
+  for (auto [v, x] : {std::pair{tools::aisc::A, 22.2}, {tools::aisc::d, 8}, {tools::aisc::b, 4}, {tools::aisc::t, 1},
+                      {tools::aisc::Ix, 139}, {tools::aisc::Iy, 56.8}})
+    pair.values[size_t(v)] = x;
+  tools::transform_aisc_to_norvane_section(s, pair);
+  EXPECT_EQ((std::vector<double>{s.d, s.b, s.Ay, s.Az, s.J}), (std::vector<double>{8, 4, 16, 8, 7.36}));
+  tools::transform_aisc_to_norvane_section(s, pair, nullptr);
+  EXPECT_EQ(s.J, 0) << "no library to derive it from";
+
+  for (auto [label, single] : {std::pair{"2L8X4X1X3/8LLBB", "L8X4X1"}, {"2L12X12X1-3/8X1-1/2", "L12X12X1-3/8"},
+                               {"2L2-1/2X1-1/2X3/16SLBB", "L2-1/2X1-1/2X3/16"}, {"2L4X4X1/2", "L4X4X1/2"},
+                               {"W14X90", ""}, {"2L4X4", ""}})
+    EXPECT_EQ(tools::SingleAngleLabel(label), single) << label;
+}
+
 TEST_F(ShapeLibraryTest, ImportShadowsTheInstalledLibraryAndKeepsABackup) {
   const std::string installedIdx = Read(kDataDir + "/aisc14u.idx");
   tools::ascii_binary(WriteCsv("small.csv", kHeader + kGoodRows));
@@ -114,6 +139,15 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
        "line 2, column 12 (Ix): \"5x3.8\" is not a number."},
       {"duplicate label", kHeader + kGoodRows + "W8x31,W8x31,W,F,31,9.13,8,8,0.285,0.435,0.829,110,37.1,0.536,\n",
        "line 4, column 2 (AISC_Manual_Label): the label W8x31 is already used on line 3."},
+      {"J not positive", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,-1,\n",
+       "line 2, column 14 (J): the shape W10X12 needs a positive value."},
+      {"label the section table refuses", kHeader + "W10X12*,W10X12*,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2, column 2 (AISC_Manual_Label): Section label can only contain letters, digits, blanks between words and "
+       "the characters _ - . ( ) + /; the character \"*\" at position 7 is not allowed."},
+      {"unknown type", kHeader + "X1,X1,BOGUS,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2, column 3 (Type): \"BOGUS\" is not a shape type (W, M, S, HP, C, MC, L, WT, MT, ST, 2L, HSS or PIPE)."},
+      {"negative depth", kHeader + "W10X12,W10X12,W,F,12,3.54,-9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2, column 7 (d): the shape W10X12 may not have a negative value."},
       {"binary file", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16),
        "this is not a text file (it holds binary data)."},
       {"not UTF-8", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,caf\xE9\n",

@@ -35,3 +35,7 @@ design::Outline CAiscDataDlg::OutlineOf(int index) const {
 }
 
 void CAiscDataDlg::OnShapeChosen(int index) { m_Shape = library_->at(size_t(index)); }
+
+std::string CAiscDataDlg::RefusalOf(int index) const {
+  return design::SteelShapeSectionFault(library_->at(size_t(index)), library_);
+}

@@ -19,6 +19,7 @@ class CAiscDataDlg : public CShapeBrowserDlg {
   std::vector<design::PropertyLine> Properties(int index, const fmUnit& units) const override;
   design::Outline OutlineOf(int index) const override;
   void OnShapeChosen(int index) override;
+  std::string RefusalOf(int index) const override;
 
  private:
   const tools::AiscLibrary* library_ = nullptr;

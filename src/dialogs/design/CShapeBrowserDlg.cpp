@@ -84,6 +84,10 @@ void CShapeBrowserDlg::OnOK() {
     MessageBox("Select a shape in the list first.");
     return;
   }
+  if (const std::string refusal = RefusalOf(index); !refusal.empty()) {
+    MessageBox(refusal);
+    return;
+  }
   m_nSelectedShape = index;
   m_strShapeName = LabelOf(index);
   OnShapeChosen(index);

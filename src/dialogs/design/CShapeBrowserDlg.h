@@ -39,6 +39,8 @@ class CShapeBrowserDlg : public CDialog {
   virtual std::vector<design::PropertyLine> Properties(int index, const fmUnit& units) const = 0;
   virtual design::Outline OutlineOf(int index) const = 0;
   virtual void OnShapeChosen(int index) = 0;
+  // Why the shape cannot be taken (shown, and the dialog stays open), or "".
+  virtual std::string RefusalOf(int /*index*/) const { return ""; }
 
   void RefillList();
   void ShowShape(int index);

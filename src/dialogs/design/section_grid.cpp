@@ -1,5 +1,7 @@
 #include "dialogs/design/section_grid.h"
 
+#include <cmath>
+
 #include "dialogs/grid/grid_ops.h"
 #include "tools/format.h"
 #include "tools/labels.h"
@@ -75,6 +77,14 @@ int FindRigidLinkRow(const grid::Sheet& sheet) {
   for (int row = 1; row <= last; ++row)
     if (IsRigidLinkLabel(tools::Trim(sheet.GetData(kLabel, row)))) return row;
   return 0;
+}
+
+const char* OutOfRangeProperty(const fmSect& s) {
+  for (const auto& v : kValues) {
+    const double value = s.*v.field;
+    if (!std::isfinite(value) || (v.positive ? !(value > 0) : !(value >= 0))) return v.name;
+  }
+  return nullptr;
 }
 
 ReadResult Read(const grid::Sheet& sheet, std::span<const fmSect> filled) {

@@ -29,6 +29,9 @@ fmSect RigidLinkSection();
 // The first row labelled RIGID_LINK (any case) among rows 1..lastRow, or 0.
 int FindRigidLinkRow(const grid::Sheet& sheet);
 
+// The name of the first property OK would refuse in an ordinary section ("J"), or null.
+const char* OutOfRangeProperty(const fmSect& section);
+
 struct ReadResult {
   std::optional<grid::GridFailure> failure;
   std::vector<fmSect> sections;  // ids = row numbers, when there is no failure

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "dialogs/design/section_grid.h"
 #include "tools/format.h"
 #include "tools/labels.h"
 
@@ -74,6 +75,18 @@ std::vector<PropertyLine> SteelShapeProperties(const tools::fmSect_AISC& shape, 
     }
   }
   return lines;
+}
+
+std::string SteelShapeSectionFault(const tools::fmSect_AISC& shape, const tools::AiscLibrary* library) {
+  fmSect section;
+  tools::transform_aisc_to_norvane_section(section, shape, library);
+  const char* property = sectiongrid::OutOfRangeProperty(section);
+  if (!property) return "";
+  if (shape.type == "2L" && !shape.Has(tools::aisc::J))
+    return tools::Format("The table gives no J for %s, and the single angle %s it would be derived from is not in "
+                         "the library. Choose another shape or enter the section by hand.",
+                         shape.label.c_str(), tools::SingleAngleLabel(shape.label).c_str());
+  return tools::Format("%s cannot make a section: the table gives it no valid %s.", shape.label.c_str(), property);
 }
 
 LumberFamily FamilyOf(const tools::fmSect_NDS& shape) {

@@ -21,6 +21,9 @@ std::vector<int> FilterSteelShapes(const tools::AiscLibrary& library, std::strin
 // in the linear-force unit), one line per published column that applies.
 std::vector<PropertyLine> SteelShapeProperties(const tools::fmSect_AISC& shape, const fmUnit& units);
 
+// Why the shape cannot become a section that the section table accepts, or "" when it can.
+std::string SteelShapeSectionFault(const tools::fmSect_AISC& shape, const tools::AiscLibrary* library);
+
 enum LumberFamily { kAllLumber, kBoards, kDimensionLumber, kTimbers };
 LumberFamily FamilyOf(const tools::fmSect_NDS& shape);
 std::vector<int> FilterLumber(const std::vector<tools::fmSect_NDS>& table, LumberFamily family, std::string_view find);

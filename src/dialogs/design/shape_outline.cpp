@@ -117,12 +117,12 @@ Outline ChannelOutline(double b, double d, double tf, double tw, const std::stri
   return o;
 }
 
-Outline AngleOutline(double b, double d, double t, const std::string& unit) {
+Outline AngleOutline(double b, double d, double t, const std::string& unit, const char* bName, const char* dName) {
   if (!Positive({b, d, t}) || t >= b || t >= d) return {};
   Outline o = Box(b, d);
   o.loops.push_back({{0, 0}, {b, 0}, {b, t}, {t, t}, {t, d}, {0, d}});
-  o.marks.push_back({{0, 0}, {b, 0}, -Gap(o), Text("b", b, unit)});
-  o.marks.push_back({{0, d}, {0, 0}, -Gap(o), Text("d", d, unit)});
+  o.marks.push_back({{0, 0}, {b, 0}, -Gap(o), Text(bName, b, unit)});
+  o.marks.push_back({{0, d}, {0, 0}, -Gap(o), Text(dName, d, unit)});
   o.marks.push_back({{b, 0}, {b, t}, -Gap(o) / 2, Text("t", t, unit)});
   return o;
 }
@@ -169,7 +169,12 @@ Outline SteelShapeOutline(const tools::fmSect_AISC& s, double unitInInches, cons
     return WideFlangeOutline(v(a::bf), v(a::d), v(a::tf), v(a::tw), in);
   if (t == "WT" || t == "MT" || t == "ST") return TeeOutline(v(a::bf), v(a::d), v(a::tf), v(a::tw), in);
   if (t == "C" || t == "MC") return ChannelOutline(v(a::bf), v(a::d), v(a::tf), v(a::tw), in);
-  if (t == "L") return AngleOutline(v(a::b), v(a::d), v(a::t), in);
+  if (t == "L") {
+    // Ix bends about the axis across the long leg: the long leg stands, as in the section
+    // the shape becomes; each leg keeps its column's name so the picture reads with the list.
+    const bool bIsLong = v(a::b) >= v(a::d);
+    return bIsLong ? AngleOutline(v(a::d), v(a::b), v(a::t), in, "d", "b") : AngleOutline(v(a::b), v(a::d), v(a::t), in);
+  }
   if (t == "PIPE" || (t == "HSS" && s.Has(a::OD))) return RingOutline(v(a::OD), v(a::tdes), in);
   if (t == "HSS") return TubeOutline(v(a::B), v(a::Ht), v(a::tdes), in);
   if (t == "2L") {

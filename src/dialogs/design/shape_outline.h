@@ -36,7 +36,9 @@ Outline RoundOutline(double D, const std::string& unit);
 Outline WideFlangeOutline(double b, double d, double tf, double tw, const std::string& unit);
 Outline TeeOutline(double b, double d, double tf, double tw, const std::string& unit);
 Outline ChannelOutline(double b, double d, double tf, double tw, const std::string& unit);
-Outline AngleOutline(double b, double d, double t, const std::string& unit);
+// b: the horizontal leg, d: the vertical one; the marks carry the names given.
+Outline AngleOutline(double b, double d, double t, const std::string& unit, const char* bName = "b",
+                     const char* dName = "d");
 Outline TubeOutline(double b, double d, double t, const std::string& unit);
 Outline RingOutline(double D, double t, const std::string& unit);
 

@@ -209,3 +209,41 @@ TEST_F(SectionsDialogTest, ThicknessLabelsMustDifferWhereSectionLabelsMayNot) {
   EXPECT_EQ(dlg.ModalResult(), IDOK);
   EXPECT_EQ(thicknesses[1].thickness, 0.75);
 }
+
+TEST_F(SectionDialogTest, ADoubleAngleMakesASectionOkAcceptsOrIsRefusedWhenChosen) {
+  // The published double angles carry no J; the single angle of the same size does.
+  TempDir files;
+  tools::WriteFileAtomically(files / "angles.csv",
+                             "AISC_Manual_Label,Type,A,d,b,t,Ix,Iy,J\n"
+                             "L8X4X1,L,11.1,4,8,1,69.7,11.6,3.68\n"
+                             "2L8X4X1LLBB,2L,22.2,8,4,1,139,47.3,\n"
+                             "2L6X6X1,2L,22,6,6,1,70.9,152,\n");
+  tools::ascii_binary(files / "angles.csv");
+  Open();
+  Activate(3);
+  std::string shown;
+  const auto choose = [&](const char* label) {
+    return [&, label](CDialog& d) {
+      d.Item<QLineEdit>(res::kCtlShapeFind)->setText(label);
+      d.PressButton(IDOK);
+    };
+  };
+  scripts[res::kTplAiscData] = choose("2L6X6X1");
+  prompter.QueueAnswer(true);  // replace W3
+  dlg.PressButton(res::kCtlSecAisc);
+  ASSERT_EQ(Messages().size(), 2u);
+  EXPECT_EQ(Messages()[1],
+            "The table gives no J for 2L6X6X1, and the single angle L6X6X1 it would be derived from is not in the "
+            "library. Choose another shape or enter the section by hand.");
+  EXPECT_EQ(sheet().GetData(kLabel, 3), "W3") << "nothing chosen, nothing written";
+
+  prompter.Clear();
+  scripts[res::kTplAiscData] = choose("2L8X4X1LLBB");
+  prompter.QueueAnswer(true);
+  dlg.PressButton(res::kCtlSecAisc);
+  EXPECT_EQ(Row(3), (std::vector<std::string>{"3", "2L8X4X1LLBB", "139", "47.3", "7.36", "22.2", "16", "8", "4", "8",
+                                              "1", "1"}));
+  dlg.PressButton(IDOK);
+  EXPECT_EQ(dlg.ModalResult(), IDOK) << (Messages().empty() ? "" : Messages().back());
+  EXPECT_DOUBLE_EQ(sections[2].J, 7.36);
+}
