@@ -233,31 +233,34 @@ double CAiscDesign::ChannelOrIMinor(double Z, double S, double lambda, const cha
   return Mn;
 }
 
-double CAiscDesign::TeeMajor() const {
+double CAiscDesign::TeeYieldingAndLtb(double depth, bool stemInTension) const {
   const double E = kE, Fy = m_Fy;
-  const bool stemInTension = m_Mux >= 0;
-  rep_.Text(stemInTension ? "Mux ≥ 0: the flange is in compression, the tip of the stem in tension."
-                          : "Mux < 0: the tip of the stem is in compression.");
   const double My = Fy * s_.Sx;
   const double Mp = std::min(Fy * s_.Zx, (stemInTension ? 1.6 : 1.0) * My);
   rep_.Step("F9.1", stemInTension ? "F9-2" : "F9-3", stemInTension ? "Mn = Mp = Fy·Zx ≤ 1.6My" : "Mn = Mp ≤ My",
             Format("min(%s·%s, %s·%s·%s)", Num(Fy).c_str(), Num(s_.Zx).c_str(), stemInTension ? "1.6" : "1.0",
                    Num(Fy).c_str(), Num(s_.Sx).c_str()),
             Num(Mp) + " kip-in");
-  double Mn = Mp;
-  if (m_Lb > 0) {
-    const double B = (stemInTension ? 2.3 : -2.3) * (s_.d / m_Lb) * std::sqrt(s_.Iy / s_.J);
-    rep_.Step("F9.2", "F9-5", "B = ±2.3·(d/Lb)·√(Iy/J)",
-              Format("%s2.3·(%s/%s)·√(%s/%s)", stemInTension ? "" : "−", Num(s_.d).c_str(), Num(m_Lb).c_str(),
-                     Num(s_.Iy).c_str(), Num(s_.J).c_str()),
-              Num(B));
-    const double Mcr = kPi * std::sqrt(E * s_.Iy * kG * s_.J) / m_Lb * (B + std::sqrt(1 + B * B));
-    rep_.Step("F9.2", "F9-4", "Mn = Mcr = π√(E·Iy·G·J)/Lb·[B + √(1 + B²)]",
-              Format("π√(%s·%s·%s·%s)/%s·[%s + √(1 + %s²)]", Num(E).c_str(), Num(s_.Iy).c_str(), Num(kG).c_str(),
-                     Num(s_.J).c_str(), Num(m_Lb).c_str(), Num(B).c_str(), Num(B).c_str()),
-              Num(Mcr) + " kip-in");
-    Mn = std::min(Mn, Mcr);
-  }
+  if (!(m_Lb > 0) || !(s_.J > 0)) return Mp;
+  const double B = (stemInTension ? 2.3 : -2.3) * (depth / m_Lb) * std::sqrt(s_.Iy / s_.J);
+  rep_.Step("F9.2", "F9-5", "B = ±2.3·(d/Lb)·√(Iy/J)",
+            Format("%s2.3·(%s/%s)·√(%s/%s)", stemInTension ? "" : "−", Num(depth).c_str(), Num(m_Lb).c_str(),
+                   Num(s_.Iy).c_str(), Num(s_.J).c_str()),
+            Num(B));
+  const double Mcr = kPi * std::sqrt(E * s_.Iy * kG * s_.J) / m_Lb * (B + std::sqrt(1 + B * B));
+  rep_.Step("F9.2", "F9-4", "Mn = Mcr = π√(E·Iy·G·J)/Lb·[B + √(1 + B²)]",
+            Format("π√(%s·%s·%s·%s)/%s·[%s + √(1 + %s²)]", Num(E).c_str(), Num(s_.Iy).c_str(), Num(kG).c_str(),
+                   Num(s_.J).c_str(), Num(m_Lb).c_str(), Num(B).c_str(), Num(B).c_str()),
+            Num(Mcr) + " kip-in");
+  return std::min(Mp, Mcr);
+}
+
+double CAiscDesign::TeeMajor() const {
+  const double E = kE, Fy = m_Fy;
+  const bool stemInTension = m_Mux >= 0;
+  rep_.Text(stemInTension ? "Mux ≥ 0: the flange is in compression, the tip of the stem in tension."
+                          : "Mux < 0: the tip of the stem is in compression.");
+  double Mn = TeeYieldingAndLtb(s_.d, stemInTension);
   if (stemInTension) {
     const double l = s_.flangeRatio, lp = Root(0.38), lr = Root(1.0);
     rep_.Step("B4.1b", "case 10", Format("flange bf/2tf = %.4g", l), Num(lp) + ", " + Num(lr), Kind(l, lp, lr));
@@ -325,31 +328,11 @@ double CAiscDesign::LegLocalBuckling(double Sc, double ratio, const char* what) 
 }
 
 double CAiscDesign::DoubleAngleMajor() const {
-  const double E = kE, Fy = m_Fy;
   const bool tipsInTension = m_Mux >= 0;
   rep_.Text(tipsInTension ? "Mux ≥ 0: the outstanding legs are in compression, the tips of the vertical legs in tension."
                           : "Mux < 0: the tips of the vertical legs are in compression.");
-  const double My = Fy * s_.Sx;
-  const double Mp = std::min(Fy * s_.Zx, (tipsInTension ? 1.6 : 1.0) * My);
-  rep_.Step("F9.1", tipsInTension ? "F9-2" : "F9-3", tipsInTension ? "Mn = Mp = Fy·Zx ≤ 1.6My" : "Mn = Mp ≤ My",
-            Format("min(%s·%s, %s·%s·%s)", Num(Fy).c_str(), Num(s_.Zx).c_str(), tipsInTension ? "1.6" : "1.0",
-                   Num(Fy).c_str(), Num(s_.Sx).c_str()),
-            Num(Mp) + " kip-in");
-  double Mn = Mp;
   if (s_.jDerived) rep_.Text("J of the double angle is twice the J of its single angle.");
-  if (m_Lb > 0 && s_.J > 0) {
-    const double B = (tipsInTension ? 2.3 : -2.3) * (s_.legVertical / m_Lb) * std::sqrt(s_.Iy / s_.J);
-    rep_.Step("F9.2", "F9-5", "B = ±2.3·(d/Lb)·√(Iy/J)",
-              Format("%s2.3·(%s/%s)·√(%s/%s)", tipsInTension ? "" : "−", Num(s_.legVertical).c_str(), Num(m_Lb).c_str(),
-                     Num(s_.Iy).c_str(), Num(s_.J).c_str()),
-              Num(B));
-    const double Mcr = kPi * std::sqrt(E * s_.Iy * kG * s_.J) / m_Lb * (B + std::sqrt(1 + B * B));
-    rep_.Step("F9.2", "F9-4", "Mn = Mcr = π√(E·Iy·G·J)/Lb·[B + √(1 + B²)]",
-              Format("π√(%s·%s·%s·%s)/%s·[%s + √(1 + %s²)]", Num(E).c_str(), Num(s_.Iy).c_str(), Num(kG).c_str(),
-                     Num(s_.J).c_str(), Num(m_Lb).c_str(), Num(B).c_str(), Num(B).c_str()),
-              Num(Mcr) + " kip-in");
-    Mn = std::min(Mn, Mcr);
-  }
+  double Mn = TeeYieldingAndLtb(s_.legVertical, tipsInTension);
   rep_.Text("Local buckling of the legs in compression is taken by F10.3 (Section F9 has no rule for the legs of double angles).");
   if (tipsInTension)
     Mn = std::min(Mn, LegLocalBuckling(s_.Ix / s_.y, s_.legHorizontal / s_.t, "outstanding leg"));
