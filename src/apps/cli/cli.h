@@ -57,5 +57,6 @@ void AddSectionCommand(Program& program);
 void AddShapesCommand(Program& program);
 void AddReportCommand(Program& program);
 void AddSteelCommand(Program& program);
+void AddSpectrumCommand(Program& program);
 
 }  // namespace cli
