@@ -46,6 +46,11 @@ void ChangeDocumentUnits(ModelDocument& doc, const fmUnit& to) {
   for (const fmThick& t : props.thicknesses)
     if (!std::isfinite(t.thickness)) RefuseTooLarge("thickness", t.id);
 
+  std::vector<fmCaseLoad> loads = doc.caseLoads;
+  ConvertCaseLoadUnits(loads, effective);
+  if (!CaseLoadsFinite(loads))
+    throw fmException("The units were not changed: a load would become larger than a number can hold in the new units.");
+
   if (length != 1.0)
     for (fmNd& nd : doc.nodes) {
       nd.x *= length;
@@ -55,6 +60,7 @@ void ChangeDocumentUnits(ModelDocument& doc, const fmUnit& to) {
   doc.materials = std::move(props.materials);
   doc.sections = std::move(props.sections);
   doc.thicknesses = std::move(props.thicknesses);
+  doc.caseLoads = std::move(loads);
   doc.units = to;
   doc.units.convert.fill(0);  // the flags ask for one conversion; they are not a setting
 }

@@ -61,6 +61,7 @@ ModelDocument ReadDocument(const nlohmann::json& root, const std::string& fileNa
     ReadSupports(r, doc);
     ReadSpectrumSettings(r, doc);
     ReadResults(r, doc);
+    ReadCaseLoads(r, doc);
   } catch (const DocumentError& e) {
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
   }
@@ -116,6 +117,7 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   WriteUnits(doc, root);
   WriteNodes(doc, root);
   WriteLoads(doc, root);
+  WriteCaseLoads(doc, root);
   WriteMaterials(doc, root);
   WriteSections(doc, root);
   WriteThicknesses(doc, root);

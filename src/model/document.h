@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "model/display_settings.h"
+#include "model/fm_case_load.h"
 #include "model/fm_element.h"
 #include "model/fm_load.h"
 #include "model/fm_material.h"
@@ -25,6 +26,7 @@ struct ModelDocument {
   std::vector<fmNd> nodes;
   std::vector<fmLoadCase> loadCases;
   std::vector<fmLoadComb> loadCombs;
+  std::vector<fmCaseLoad> caseLoads;  // the loads of loadCases[i] at i; the same count
   std::vector<fmMat> materials;
   std::vector<fmSect> sections;
   std::vector<fmThick> thicknesses;

@@ -26,6 +26,13 @@ void ReadSupports(const JsonReader& root, ModelDocument& doc);
 void WriteSupports(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadSpectrumSettings(const JsonReader& root, ModelDocument& doc);
 void WriteSpectrumSettings(const ModelDocument& doc, nlohmann::ordered_json& root);
+// After the elements and results: loads name nodes and elements, and documents without a
+// "caseLoads" section take their nodal loads and masses from the results' copies.
+void ReadCaseLoads(const JsonReader& root, ModelDocument& doc);
+void WriteCaseLoads(const ModelDocument& doc, nlohmann::ordered_json& root);
+// factor[q] is 1 for a quantity not converted.
+void ConvertCaseLoadUnits(std::vector<fmCaseLoad>& caseLoads, const double* factor);
+bool CaseLoadsFinite(const std::vector<fmCaseLoad>& caseLoads);
 void ReadResults(const JsonReader& root, ModelDocument& doc);
 void WriteResults(const ModelDocument& doc, nlohmann::ordered_json& root);
 // Rescales materials, sections and thicknesses; factor[q] is 1 for a quantity not converted.
