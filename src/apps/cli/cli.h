@@ -58,5 +58,6 @@ void AddShapesCommand(Program& program);
 void AddReportCommand(Program& program);
 void AddSteelCommand(Program& program);
 void AddSpectrumCommand(Program& program);
+void AddLoadsCommand(Program& program);
 
 }  // namespace cli
