@@ -11,10 +11,12 @@ install(TARGETS qelNorvaneDlgs EXPORT NorvaneDialogsTargets
 install(TARGETS norvane-host norvane-cli RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime)
 
 # Headers keep their paths below src/ ("dialogs/units/CUnitsDlg.h"). Those that include the
-# JSON library are the model document's internals and stay out, as do the programs' own.
+# JSON library are the model document's internals and stay out, as do the programs' own and
+# the demo host's analysis (Eigen, Spectra).
 install(DIRECTORY src/ DESTINATION ${NORVANE_INCLUDE_DIR} COMPONENT dev
         FILES_MATCHING PATTERN "*.h"
         PATTERN "apps" EXCLUDE
+        PATTERN "analysis" EXCLUDE
         PATTERN "json_*.h" EXCLUDE
         PATTERN "document_sections.h" EXCLUDE)
 install(FILES ${CMAKE_BINARY_DIR}/generated/tools/release.h DESTINATION ${NORVANE_INCLUDE_DIR}/tools COMPONENT dev)

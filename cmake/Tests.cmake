@@ -39,7 +39,7 @@ set(NORVANE_TEST_TIMEOUT 120)
 
 add_executable(core_tests ${CORE_TESTS} tests/support/core_main.cpp)
 target_include_directories(core_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-target_link_libraries(core_tests PRIVATE norvane_core nlohmann_json::nlohmann_json GTest::gtest)
+target_link_libraries(core_tests PRIVATE norvane_core nlohmann_json::nlohmann_json Eigen3::Eigen Spectra::Spectra GTest::gtest)
 target_compile_options(core_tests PRIVATE ${NORVANE_WARNINGS})
 target_compile_definitions(core_tests PRIVATE ${TEST_DEFINITIONS})
 add_dependencies(core_tests norvane-cli norvane_test_locale)
