@@ -196,7 +196,7 @@ TEST(AiscReport, ShowsEveryStepOfABeamColumn) {
   const std::string html = out.str();
   for (const char* step : {"<h2>Load set 1</h2>", "(E3-4)", "(E3-2)", "(E4-4)", "(E3-1)", "(F2-1)", "(F2-5)", "(F2-6)",
                            "(F3-1)", "(F6-1)", "(F6-2)", "(G2-2)", "(G2-1)", "(G2-3)", "(A-8-5)", "(A-8-3)", "(H1-1a)",
-                           "Critical ratio = ", "φMnx = 0.90·", "</section>"})
+                           "Critical ratio = ", "φMnx = 0.90·", "</div>"})
     EXPECT_NE(html.find(step), std::string::npos) << step;
   EXPECT_EQ(html.find("nan"), std::string::npos);
 }
