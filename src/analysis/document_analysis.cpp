@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "analysis/linear_static.h"
+#include "analysis/modal.h"
 #include "model/response_spectrum_settings.h"
 #include "tools/format.h"
 #include "tools/labels.h"

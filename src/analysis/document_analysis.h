@@ -2,7 +2,6 @@
 #include <string>
 #include <vector>
 
-#include "analysis/modal.h"
 #include "analysis/model.h"
 #include "model/document.h"
 #include "model/response_spectrum.h"
