@@ -134,7 +134,6 @@ TEST_F(CliTest, ParseErrorsShowTheCommandsHelp) {
       {"grid export m nodes o.txt --bogus", "norvane-cli: The following argument was not expected: --bogus\n"},
       {"report m 1 --case", "norvane-cli: --case: 1 required N missing\n"},
       {"kfactor 1 2 3", "norvane-cli: The following argument was not expected: 3\n"},
-      {"report m 1 --case 1 --mode 2", "norvane-cli: give one of --case and --mode\n"},
       {"cylinder --axis Q", "norvane-cli: --axis must be X, Y or Z, not \"Q\"\n"},
   };
   for (const auto& [args, message] : cases) {
@@ -197,8 +196,52 @@ TEST_F(CliTest, ReportPrintsReactionsWithTheirSum) {
 
   // A file is written in the format of its extension.
   ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + dir / "d.txt").status, 0);
-  EXPECT_TRUE(ReadFileText(dir / "d.txt").starts_with(
-      "Node Id\tDx [in]\tDy [in]\tDz [in]\tDox [rad]\tDoy [rad]\tDoz [rad]\r\n1\t0.0000"));
+  const std::string table = ReadFileText(dir / "d.txt");
+  EXPECT_TRUE(table.starts_with("Node Id\tDx [in]\tDy [in]\tDz [in]\tDox [rad]\tDoy [rad]\tDoz [rad]\r\n1\t0.0000"));
+  // Reports gather in one file only when asked, by the grid's rules.
+  const std::string reactions = dir / "reactions.htm";
+  ASSERT_EQ(Cli("report " + kModel + " 1 --case 1 -o " + reactions).status, 0);
+  ASSERT_EQ(Cli("report " + kModel + " 1 --case 2 -o " + reactions + " --append").status, 0);
+  const std::string html = ReadFileText(reactions);
+  EXPECT_LT(html.find("Support Reactions - [Dead]"), html.find("Support Reactions - [Live]")) << html;
+  EXPECT_EQ(html.find("</html>"), html.rfind("</html>")) << "one document";
+  ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + dir / "d.txt" + " --append").status, 0);
+  EXPECT_EQ(ReadFileText(dir / "d.txt"), table + table);
+  EXPECT_EQ(Cli("report " + kModel + " 0 --append").status, 2) << "--append needs -o";
+}
+
+// Each kind reads what it uses: a case, a mode, an object or nothing; the rest is ignored with a note.
+TEST_F(CliTest, ReportKindsReadOnlyTheChoiceTheyUse) {
+  const std::string nodes = R"("nodes": [{"id": 2, "x": 0, "y": 0, "z": 0}, {"id": 1, "x": 9, "y": 0, "z": 0}])";
+  WriteFileText(dir / "spectrum.json", R"({"format": "norvane-model", "schemaVersion": 1, )" + nodes + R"(,
+      "results": {"spectrum": {"displacements": [[2, 0.5, 0, 0, 0, 0, 0]]}}})");
+  WriteFileText(dir / "cases.json", R"({"format": "norvane-model", "schemaVersion": 1, )" + nodes + R"(,
+      "results": {"cases": [{"label": "Dead", "reactions": [[1, 0, 5, 0, 0, 0, 0], [2, 0, 6, 0, 0, 0, 0]]},
+                            {"label": "Live"}], "envelopeCombinations": ["Dead"]}})");
+  const std::string spectrum = "report " + dir / "spectrum.json", cases = "report " + dir / "cases.json";
+  const struct { std::string args; int status; std::string out, err; } runs[] = {
+      // No static case is needed where none is read.
+      {spectrum + " 41", 0, "Nodal Displacements - Response Spectrum Modal Combinations\n", ""},
+      {spectrum + " 41 --case 3", 0, "Nodal Displacements - Response Spectrum Modal Combinations\n",
+       "norvane-cli: note: report kind 41 reads no load case or mode; --case is ignored\n"},
+      {cases + " 1 --mode 2", 0, "Support Reactions - [Dead]\n",
+       "norvane-cli: note: report kind 1 reads a load case, not a mode; --mode is ignored\n"},
+      {cases + " 0 --query 2", 0, "", "norvane-cli: note: only the information sheets (kinds 29 to 32) read "
+                                       "--query; it is ignored\n"},
+      // A case that is listed without any results.
+      {cases + " 1 --case 2", 1, "", "norvane-cli: The results of load case 2 [Live] are not available.\n"},
+      {cases + " 2 --case 2", 1, "", "norvane-cli: The results of load case 2 [Live] are not available.\n"},
+      // The envelope lists the nodes in the model's order, not the results'.
+      {cases + " 56", 0, "Support Reactions - Envelope\n\nNode Id  max/min", ""},
+  };
+  for (const auto& r : runs) {
+    const CliRun run = Cli(r.args);
+    EXPECT_EQ(run.status, r.status) << r.args << "\n" << run.all();
+    EXPECT_TRUE(run.out.starts_with(r.out)) << r.args << "\n" << run.all();
+    EXPECT_EQ(run.err, r.err) << r.args;
+  }
+  const std::string envelope = Cli(cases + " 56").out;
+  EXPECT_LT(envelope.find("\n2  "), envelope.find("\n1  ")) << envelope;
 }
 
 TEST_F(CliTest, GridExportWritesTheTableAsItsDialogFillsIt) {
@@ -280,6 +323,11 @@ TEST_F(CliTest, SectionsAndShapes) {
   EXPECT_EQ(Cli("section wideflange 10 20 0.5 0.3").all(),
             "label WideF10x20x0.5x0.3\nA 15.7\nAy 6\nAz 8.33333\nIz 1122.31\nIy 83.3761\nJ 0.976371\n"
             "b 10\nd 20\ntf 0.5\ntw 0.3\n");
+  // The calculator's names as well as the short ones.
+  const CliRun rectangle = Cli("section rectangle 2 4");
+  EXPECT_EQ(rectangle.status, 0) << rectangle.all();
+  EXPECT_EQ(rectangle.all(), Cli("section rect 2 4").all());
+  EXPECT_EQ(Cli("section Rectangle 2 4").all(), rectangle.all());
   const CliRun show = Cli("shapes show w14x90");
   EXPECT_EQ(show.status, 0);
   for (const char* line : {"AISC_Manual_Label W14X90\n", "\nIx 999\n"})
