@@ -458,3 +458,66 @@ TEST_F(CliTest, AnalyzeWritesResultsTheReportsRead) {
   EXPECT_EQ(bad.status, 2);
   EXPECT_EQ(bad.err, "norvane-cli: --modes must be a whole number from 0 to 1000, not \"x\"\n");
 }
+
+namespace {
+
+// The example with a 20 kip point load at the middle of girder 13 (the chain 13, 14 runs
+// from x = 0 to 40 ft at the first floor) and a line load on girder 14 in the Live case.
+std::string ExampleWithGirderLoads(const TempDir& dir) {
+  model::ModelDocument doc = model::LoadModelDocument(kModel);
+  doc.caseLoads[1].point = {{13, 0.5, 1, false, -20.0}};
+  doc.caseLoads[1].line = {{14, {0, 1}, {-1.5, -1.5}, 1, false}};
+  const std::string path = dir / "girders.json";
+  model::SaveModelDocument(doc, path);
+  return path;
+}
+
+}  // namespace
+
+TEST_F(CliTest, LoadsMovePrintsTheGeneratedCasesAndWritesOnlyWithOut) {
+  const std::string in = ExampleWithGirderLoads(dir);
+  const CliRun run = Cli("loads move " + in + " --case 2 --step 10 --path 13,14");
+  ASSERT_EQ(run.status, 0) << run.err;
+  // From x = 10: 20 (the end of girder 13, where the load stays) and 30 are on the path, 40 is
+  // its end (kept), 50 is off it.
+  EXPECT_NE(run.out.find("8: Moving_Dir1_Live_Step1 (Live-L)\n"), std::string::npos) << run.out;
+  EXPECT_NE(run.out.find("  Point load: member 13  ratio 1 (20 ft)  Y global  -20 kip\n"), std::string::npos) << run.out;
+  EXPECT_NE(run.out.find("  Point load: member 14  ratio 0.5 (10 ft)  Y global  -20 kip\n"), std::string::npos);
+  EXPECT_NE(run.out.find("  Point load: member 14  ratio 1 (20 ft)  Y global  -20 kip\n"), std::string::npos);
+  EXPECT_EQ(run.out.find("Step4"), std::string::npos);
+  EXPECT_NE(run.out.find("3 load cases and "), std::string::npos);
+  EXPECT_NE(run.err.find("model not written"), std::string::npos);
+
+  const std::string out = dir / "moved.json";
+  ASSERT_EQ(Cli("loads move " + in + " --case 2 --step 10 --path 13,14 -o " + out).status, 0);
+  const model::ModelDocument moved = model::LoadModelDocument(out);
+  ASSERT_EQ(moved.loadCases.size(), moved.caseLoads.size());
+  EXPECT_EQ(moved.loadCases.back().name, "Moving_Dir1_Live_Step3");
+  const CliRun again = Cli("loads move " + out + " --case 2 --step 10 --path 13,14");
+  EXPECT_EQ(again.status, 1);
+  EXPECT_EQ(again.err, "Moving load case prefix (Moving_Dir1_Live_) already exists\n");
+}
+
+TEST_F(CliTest, LoadsPatternAndItsRefusals) {
+  const std::string in = ExampleWithGirderLoads(dir);
+  const CliRun run = Cli("loads pattern " + in + " --case 2 --path 13,14 --ratio 0.5");
+  ASSERT_EQ(run.status, 0) << run.err;
+  EXPECT_NE(run.out.find("Pattern_Live_Odd (Live-L)\n  Nodal load"), std::string::npos) << run.out;
+  EXPECT_NE(run.out.find("Pattern_Live_S1"), std::string::npos);
+  EXPECT_NE(run.out.find("  Line load: member 14  ratio 0 to 1 (0 to 20 ft)  Y global  -0.75 to -0.75 kip/ft\n"),
+            std::string::npos)
+      << run.out;
+  const std::pair<std::string, std::string> refusals[] = {
+      {"loads pattern " + in + " --case 2 --path 13,15",
+       "The members you have selected are not connected in sequence, load patterns may not be appropriate.\n"},
+      {"loads pattern " + in + " --case 2 --path 13,99", "Member id 99 not found\n"},
+      {"loads move " + in + " --case 2 --step 0 --path 13,14",
+       "Moving step may be positive or negative, but not zero\n"},
+  };
+  for (const auto& [args, message] : refusals) {
+    const CliRun r = Cli(args);
+    EXPECT_EQ(r.status, 1) << args;
+    EXPECT_EQ(r.err.substr(0, message.size()), message) << args;
+  }
+  EXPECT_EQ(Cli("loads pattern " + in + " --case 2 --path 13,15 --yes").status, 0);
+}
