@@ -48,8 +48,8 @@ void CSectionDlg::Refresh() {
 }
 
 void CSectionDlg::FillOneRow(const fmSect& section, int row) {
-  TSpread::RedrawGuard guard(m_Spread);
-  sectiongrid::FillOneRow(m_Spread.sheet(), section, row);
+  m_Spread.ChangeCells("Fill Row", {1, row, m_Spread.sheet().MaxCols(), row},
+                       [&](grid::Sheet& sheet) { sectiongrid::FillOneRow(sheet, section, row); });
 }
 
 void CSectionDlg::OnAddRegular() {

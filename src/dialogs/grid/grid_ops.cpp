@@ -201,24 +201,4 @@ std::vector<std::vector<std::string>> ParseTabSeparated(const std::string& text)
   return rows;
 }
 
-Block PasteText(Sheet& sheet, int col, int row, const std::string& text) {
-  const auto rows = ParseTabSeparated(text);
-  Block written;
-  for (size_t r = 0; r < rows.size(); ++r) {
-    const int targetRow = row + static_cast<int>(r);
-    if (targetRow > sheet.MaxRows()) break;
-    for (size_t c = 0; c < rows[r].size(); ++c) {
-      const int targetCol = col + static_cast<int>(c);
-      if (targetCol > sheet.MaxCols()) break;
-      if (sheet.IsLocked(targetCol, targetRow)) continue;
-      sheet.SetData(targetCol, targetRow, rows[r][c]);
-      if (written.IsEmpty()) written = {targetCol, targetRow, targetCol, targetRow};
-      written.col2 = std::max(written.col2, targetCol);
-      written.row2 = std::max(written.row2, targetRow);
-      written.col1 = std::min(written.col1, targetCol);
-    }
-  }
-  return written;
-}
-
 }  // namespace grid

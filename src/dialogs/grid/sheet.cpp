@@ -12,6 +12,7 @@ const CellType kEditType;
 
 void Sheet::SetMaxCols(int cols) {
   if (cols < 0) cols = 0;
+  ++layout_;
   const size_t old = columns_.size();
   columns_.resize(static_cast<size_t>(cols) + 1);
   for (size_t c = old; c < columns_.size(); ++c) {
@@ -59,6 +60,12 @@ bool Sheet::IsLocked(int col, int row) const {
   if (col < 0 || col > MaxCols()) return false;
   const Column& c = columns_[col];
   if (c.locked) return true;
+  return row >= 0 && static_cast<size_t>(row) < c.locks.size() && c.locks[row];
+}
+
+bool Sheet::IsCellLocked(int col, int row) const {
+  if (col < 0 || col > MaxCols()) return false;
+  const Column& c = columns_[col];
   return row >= 0 && static_cast<size_t>(row) < c.locks.size() && c.locks[row];
 }
 

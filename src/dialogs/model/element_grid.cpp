@@ -4,6 +4,7 @@
 #include <charconv>
 #include <unordered_map>
 
+#include "dialogs/grid/grid_edit.h"
 #include "dialogs/grid/grid_ops.h"
 #include "model/element_lookup.h"
 #include "tools/fm_exception.h"
@@ -323,7 +324,15 @@ ReadResult<Record> Read(const grid::Sheet& sheet, std::span<const Record> filled
       }
       SetAngle(r, *angle);
     }
-    if (c.nonlinear) SetNonlinear(r, std::max(ItemPosition(kNonlinearItems, sheet.GetData(c.nonlinear, row)), 0));
+    if (c.nonlinear) {
+      // The other drop-downs read a stray text as their plain choice; a nonlinearity has no
+      // plain reading of one, so it is refused.
+      if (auto refusal = grid::ComboRefusal(sheet, c.nonlinear, row, sheet.GetData(c.nonlinear, row))) {
+        refuse(c.nonlinear, *refusal);
+        return result;
+      }
+      SetNonlinear(r, std::max(ItemPosition(kNonlinearItems, sheet.GetData(c.nonlinear, row)), 0));
+    }
     if (ItemPosition(kActivationItems, sheet.GetData(c.activation, row)) == 1) r.flags |= fmElementBase::kInactive;
     if (ItemPosition(kSelfWeightItems, sheet.GetData(c.selfWeight, row)) == 1) r.flags |= fmElementBase::kNoSelfWeight;
     const int status = ItemPosition(kStatusItems, sheet.GetData(c.status, row));
