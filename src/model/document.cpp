@@ -1,6 +1,9 @@
 #include "model/document.h"
 
+#include <cmath>
+
 #include "model/document_sections.h"
+#include "model/json_parse.h"
 #include "tools/atomic_file.h"
 #include "tools/format.h"
 
@@ -21,51 +24,22 @@ std::string LineAndColumn(std::string_view text, size_t offset) {
   return tools::Format("line %zu, column %zu", line, column);
 }
 
-// The parser reports the last character of the token it could not take; a user looks for
-// the token's first character ("schemaVersion" rather than its closing quote).
-size_t TokenStart(std::string_view text, size_t at) {
-  if (at >= text.size()) return at;
-  if (text[at] == '"') {
-    for (size_t i = at; i-- > 0;)
-      if (text[i] == '"' && (i == 0 || text[i - 1] != '\\')) return i;
-    return at;
+// The place of the first number that is not finite, or empty when there is none. JSON has
+// no such numbers: written, they would read back as null and the model would never open.
+std::string FirstNonFiniteNumber(const nlohmann::ordered_json& value, const std::string& place) {
+  if (value.is_number_float()) return std::isfinite(value.get<double>()) ? std::string() : place.empty() ? "/" : place;
+  if (value.is_array()) {
+    for (size_t i = 0; i < value.size(); ++i)
+      if (std::string found = FirstNonFiniteNumber(value[i], place + "/" + std::to_string(i)); !found.empty())
+        return found;
+  } else if (value.is_object()) {
+    for (const auto& [key, member] : value.items())
+      if (std::string found = FirstNonFiniteNumber(member, place + "/" + key); !found.empty()) return found;
   }
-  const auto partOfWord = [](char c) {
-    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '.' || c == '+' ||
-           c == '-';
-  };
-  size_t i = at;
-  while (i > 0 && partOfWord(text[at]) && partOfWord(text[i - 1])) --i;
-  return i;
+  return {};
 }
 
-}  // namespace
-
-DocumentLoadError::DocumentLoadError(const std::string& file, const std::string& place, const std::string& problem)
-    : std::runtime_error("Cannot open model \"" + file + "\"" + (place.empty() ? "" : " at " + place) + ": " +
-                         problem),
-      file_(file),
-      place_(place),
-      problem_(problem) {}
-
-ModelDocument ParseModelDocument(std::string_view text, const std::string& fileName) {
-  nlohmann::json root;
-  try {
-    root = nlohmann::json::parse(text.begin(), text.end());
-  } catch (const nlohmann::json::parse_error& e) {
-    // The library reports the byte just past the fault; point at the fault itself.
-    const size_t at = TokenStart(text, e.byte > 0 ? e.byte - 1 : 0);
-    std::string what = e.what();
-    const auto colon = what.find("syntax error");
-    throw DocumentLoadError(fileName, LineAndColumn(text, at),
-                            colon == std::string::npos ? "not a valid model document (malformed JSON)"
-                                                       : what.substr(colon));
-  } catch (const nlohmann::json::exception& e) {
-    // A number too large for a double ("1e400") is refused while parsing, without a position.
-    std::string what = e.what();
-    const auto bracket = what.find("] ");
-    throw DocumentLoadError(fileName, "", bracket == std::string::npos ? what : what.substr(bracket + 2));
-  }
+ModelDocument ReadDocument(const nlohmann::json& root, const std::string& fileName) {
   ModelDocument doc;
   try {
     const JsonReader r(root, "");
@@ -93,12 +67,42 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
   return doc;
 }
 
+}  // namespace
+
+DocumentLoadError::DocumentLoadError(const std::string& file, const std::string& place, const std::string& problem)
+    : std::runtime_error("Cannot open model \"" + file + "\"" + (place.empty() ? "" : " at " + place) + ": " +
+                         problem),
+      file_(file),
+      place_(place),
+      problem_(problem) {}
+
+DocumentLoadError::DocumentLoadError(const std::string& file)
+    : std::runtime_error("Not enough memory to open model \"" + file + "\""),
+      file_(file),
+      problem_("not enough memory") {}
+
+ModelDocument ParseModelDocument(std::string_view text, const std::string& fileName) {
+  try {
+    nlohmann::json root;
+    // Declared after root, so it runs first: empties the tree without allocating, which
+    // the library's own destructor would do when memory has run out.
+    const DismantleOnExit dismantle(root);
+    if (const std::optional<TextFault> fault = ParseJson(text, root))
+      throw DocumentLoadError(fileName, LineAndColumn(text, fault->offset), fault->problem);
+    return ReadDocument(root, fileName);
+  } catch (const std::bad_alloc&) {
+    throw DocumentLoadError(fileName);
+  }
+}
+
 ModelDocument LoadModelDocument(const std::string& path) {
   std::string text;
   try {
     text = tools::ReadWholeFile(path);
   } catch (const tools::FileError& e) {
     throw DocumentLoadError(path, "", e.reason().empty() ? e.what() : e.reason());
+  } catch (const std::bad_alloc&) {
+    throw DocumentLoadError(path);
   }
   return ParseModelDocument(text, path);
 }
@@ -119,6 +123,9 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   WriteSupports(doc, root);
   WriteSpectrumSettings(doc, root);
   WriteResults(doc, root);
+  if (const std::string place = FirstNonFiniteNumber(root, ""); !place.empty())
+    throw DocumentError(place, "Cannot save the model: the value at " + place +
+                                   " is not a finite number, and the file would not open again.");
   return root.dump(1, '\t') + "\n";
 }
 

@@ -43,6 +43,8 @@ inline constexpr int kDocumentSchemaVersion = 1;
 class DocumentLoadError : public std::runtime_error {
  public:
   DocumentLoadError(const std::string& file, const std::string& place, const std::string& problem);
+  // Memory ran out while reading the file.
+  explicit DocumentLoadError(const std::string& file);
   const std::string& file() const { return file_; }
   const std::string& place() const { return place_; }
   const std::string& problem() const { return problem_; }
@@ -53,8 +55,9 @@ class DocumentLoadError : public std::runtime_error {
 
 ModelDocument ParseModelDocument(std::string_view text, const std::string& fileName);
 ModelDocument LoadModelDocument(const std::string& path);
+// Throws model::DocumentError (json_reader.h), naming the place, for a number that is not finite.
 std::string SerializeModelDocument(const ModelDocument& doc);
-// Replaces the file atomically; throws tools::FileError.
+// Replaces the file atomically; throws tools::FileError, or DocumentError before touching the file.
 void SaveModelDocument(const ModelDocument& doc, const std::string& path);
 
 // Removes the supports whose node is no longer in `nodes` (after nodes were renumbered), so

@@ -195,13 +195,14 @@ inline void Take(fmEnvelopeValue6& e, const fmResult6Val& r, int32_t c) {
   if (_mm_movemask_pd(reaches) == 0) return;
 #else
   bool reaches = false;
-  for (int k = 0; k < 6; ++k) reaches |= (r.v[k] >= e.max[k]) | (r.v[k] <= e.min[k]);
+  for (int k = 0; k < 6; ++k) reaches |= (int(r.v[k] >= e.max[k]) | int(r.v[k] <= e.min[k])) != 0;
   if (!reaches) return;
 #endif
   for (int k = 0; k < 6; ++k) {
     const double v = r.v[k];
-    const bool above = (v > e.max[k]) | ((v == e.max[k]) & (c < e.maxCase[k]));
-    const bool below = (v < e.min[k]) | ((v == e.min[k]) & (c < e.minCase[k]));
+    // Bitwise on purpose: no branches in the loop over every result record.
+    const bool above = (int(v > e.max[k]) | (int(v == e.max[k]) & int(c < e.maxCase[k]))) != 0;
+    const bool below = (int(v < e.min[k]) | (int(v == e.min[k]) & int(c < e.minCase[k]))) != 0;
     e.max[k] = above ? v : e.max[k];
     e.maxCase[k] = above ? c : e.maxCase[k];
     e.min[k] = below ? v : e.min[k];

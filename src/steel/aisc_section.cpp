@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace steel {
 
@@ -17,25 +16,6 @@ const char* FamilyName(ShapeFamily family) {
     case ShapeFamily::RoundHss: return "round HSS";
   }
   return "";
-}
-
-std::string SingleAngleLabel(const std::string& label) {
-  std::string s = label;
-  if (!(s.size() > 2 && (s[0] == '2') && (s[1] == 'L' || s[1] == 'l'))) return {};
-  s.erase(0, 1);
-  for (const char* suffix : {"LLBB", "SLBB"})
-    if (s.size() > 4 && s.compare(s.size() - 4, 4, suffix) == 0) s.erase(s.size() - 4);
-  // Legs and thickness are the first three parts; a fourth is the separation of the pair.
-  std::vector<std::string> parts;
-  size_t from = 0;
-  while (true) {
-    const size_t at = s.find_first_of("Xx", from);
-    parts.push_back(s.substr(from, at == std::string::npos ? std::string::npos : at - from));
-    if (at == std::string::npos) break;
-    from = at + 1;
-  }
-  if (parts.size() < 3) return {};
-  return parts[0] + "X" + parts[1] + "X" + parts[2];
 }
 
 namespace {

@@ -44,11 +44,9 @@ struct AiscSection {
 
 // The section of a shape, or nullopt with the reason when the shape lacks a property its
 // family needs. For a double angle, `single` is its single angle from the same library (for
-// the connector rule and, when the double angle has none, its torsional constant J).
+// the connector rule and, when the double angle has none, twice its torsional constant J, as
+// the section transform takes it).
 std::optional<AiscSection> MakeSection(const tools::fmSect_AISC& shape, const tools::fmSect_AISC* single,
                                        std::string* why = nullptr);
-
-// "L4X3-1/2X3/8" for "2L4X3-1/2X3/8X3/4LLBB": the single angle of a double angle.
-std::string SingleAngleLabel(const std::string& doubleAngleLabel);
 
 }  // namespace steel

@@ -13,7 +13,7 @@ CAiscDesign* CSteelDesignManager::CreateAiscDesign(const tools::AiscLibrary& lib
   const tools::fmSect_AISC& s = library.at(static_cast<size_t>(index));
   const tools::fmSect_AISC* single = nullptr;
   if (s.type == "2L") {
-    const int k = library.Find(steel::SingleAngleLabel(s.label));
+    const int k = library.Find(tools::SingleAngleLabel(s.label));
     if (k >= 0) single = &library.at(static_cast<size_t>(k));
   }
   auto section = steel::MakeSection(s, single);

@@ -39,7 +39,8 @@ std::string FolderOf(const std::string& path) {
   Fail("write", path, err);
 }
 
-void WriteAll(int fd, std::string_view contents, const std::string& path) {
+// Writes everything or throws; closes fd on failure unless told to leave it open.
+void WriteAll(int fd, std::string_view contents, const std::string& path, bool closeOnFailure = true) {
   const char* p = contents.data();
   size_t left = contents.size();
   while (left > 0) {
@@ -47,7 +48,7 @@ void WriteAll(int fd, std::string_view contents, const std::string& path) {
     if (n < 0) {
       if (errno == EINTR) continue;
       const int err = errno;
-      ::close(fd);
+      if (closeOnFailure) ::close(fd);
       Fail("write", path, err);
     }
     p += n;
@@ -55,19 +56,43 @@ void WriteAll(int fd, std::string_view contents, const std::string& path) {
   }
 }
 
-// An empty file beside `path`, with the usual permissions of a new document; its descriptor.
-int CreateBeside(const std::string& path, std::string& temp) {
-  temp = path + ".XXXXXX";
+// The file a path names: symbolic links are followed to the file they point to (which
+// may not exist yet), so that replacing it keeps the link. Loops end with ELOOP.
+std::string FollowLinks(const std::string& path) {
+  std::string target = path;
+  for (int depth = 0; depth < 40; ++depth) {
+    struct stat st {};
+    if (::lstat(target.c_str(), &st) != 0 || !S_ISLNK(st.st_mode)) return target;
+    std::string link(static_cast<size_t>(st.st_size > 0 ? st.st_size : 4096) + 1, '\0');
+    const ssize_t n = ::readlink(target.c_str(), link.data(), link.size());
+    if (n < 0 || static_cast<size_t>(n) >= link.size()) return target;
+    link.resize(static_cast<size_t>(n));
+    target = link.starts_with('/') || target.find('/') == std::string::npos ? link : FolderOf(target) + "/" + link;
+  }
+  Fail("write", path, ELOOP);
+}
+
+// An empty file beside `target`, with the permissions (and, where allowed, the owner) of
+// the file it replaces, or those of a new document; its descriptor.
+int CreateBeside(const std::string& path, const std::string& target, std::string& temp) {
+  temp = target + ".XXXXXX";
   const int fd = ::mkstemp(temp.data());
   if (fd < 0) FailToCreate(path, errno);
-  const mode_t mask = ::umask(0);
-  ::umask(mask);
-  ::fchmod(fd, 0666 & ~mask);
+  struct stat st {};
+  if (::stat(target.c_str(), &st) == 0 && S_ISREG(st.st_mode)) {
+    // Another owner is kept only when we may give the file away (root); the group when we belong to it.
+    if (::fchown(fd, st.st_uid, st.st_gid) != 0) (void)!::fchown(fd, static_cast<uid_t>(-1), st.st_gid);
+    ::fchmod(fd, st.st_mode & 07777);
+  } else {
+    const mode_t mask = ::umask(0);
+    ::umask(mask);
+    ::fchmod(fd, 0666 & ~mask);
+  }
   return fd;
 }
 
-void RenameInto(const std::string& temp, const std::string& path) {
-  if (::rename(temp.c_str(), path.c_str()) != 0) {
+void RenameInto(const std::string& temp, const std::string& target, const std::string& path) {
+  if (::rename(temp.c_str(), target.c_str()) != 0) {
     const int err = errno;
     ::unlink(temp.c_str());
     Fail("replace", path, err);
@@ -83,20 +108,22 @@ std::string SystemErrorText(int err) {
 }
 
 void ReplaceFileWith(const std::string& path, const std::function<void(const std::string& tempPath)>& write) {
+  const std::string target = FollowLinks(path);
   std::string temp;
-  ::close(CreateBeside(path, temp));
+  ::close(CreateBeside(path, target, temp));
   try {
     write(temp);
   } catch (...) {
     ::unlink(temp.c_str());
     throw;
   }
-  RenameInto(temp, path);
+  RenameInto(temp, target, path);
 }
 
 void WriteFileAtomically(const std::string& path, std::string_view contents) {
+  const std::string target = FollowLinks(path);
   std::string temp;
-  const int fd = CreateBeside(path, temp);
+  const int fd = CreateBeside(path, target, temp);
   try {
     WriteAll(fd, contents, path);
   } catch (...) {
@@ -108,7 +135,7 @@ void WriteFileAtomically(const std::string& path, std::string_view contents) {
     ::unlink(temp.c_str());
     Fail("write", path, err);
   }
-  RenameInto(temp, path);
+  RenameInto(temp, target, path);
 }
 
 void AppendToFile(const std::string& path, std::string_view contents) {
@@ -117,7 +144,21 @@ void AppendToFile(const std::string& path, std::string_view contents) {
     if (errno == ENOENT || errno == ENOTDIR) FailToCreate(path, errno);
     Fail("open", path, errno);
   }
-  WriteAll(fd, contents, path);
+  struct stat st {};
+  if (::fstat(fd, &st) != 0) {
+    const int err = errno;
+    ::close(fd);
+    Fail("open", path, err);
+  }
+  try {
+    WriteAll(fd, contents, path, false);
+    if (::fsync(fd) != 0 && errno != EINVAL) Fail("write", path, errno);
+  } catch (...) {
+    // A partial table at the end is worse than none: cut back to what was there.
+    if (S_ISREG(st.st_mode)) (void)!::ftruncate(fd, st.st_size);
+    ::close(fd);
+    throw;
+  }
   if (::close(fd) != 0) Fail("write", path, errno);
 }
 

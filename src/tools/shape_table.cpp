@@ -26,8 +26,6 @@ constexpr uint32_t kVersion = 1;
 constexpr size_t kLabelField = 64, kTypeField = 8, kFlagField = 4;
 constexpr uint32_t kIndexEntrySize = kLabelField * 2 + kTypeField + kFlagField + 4;
 constexpr uint32_t kRecordSize = kAiscValueCount * 8;
-constexpr size_t kIndexHeaderSize = 8 + 4 + 4 + 4 + 8;
-constexpr size_t kTableHeaderSize = 8 + 4 + 4 + 4 + 4;
 
 constexpr std::array<const char*, kAiscColumnCount> kColumns = {"EDI_Std_Nomenclature",
                                                                 "AISC_Manual_Label",

@@ -8,6 +8,17 @@
 #include "support/files.h"
 #include "support/run_program.h"
 
+#if defined(__SANITIZE_ADDRESS__)
+#define NORVANE_SANITIZED 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define NORVANE_SANITIZED 1
+#endif
+#endif
+#ifndef NORVANE_SANITIZED
+#define NORVANE_SANITIZED 0
+#endif
+
 namespace {
 
 const std::string kModel = std::string(NORVANE_EXAMPLES_DIR) + "/building.json";
@@ -20,10 +31,11 @@ struct CliRun {
 
 // Arguments go through the shell, quoted by the caller; shapes come from the source tree and a private folder.
 struct CliTest : ::testing::Test {
-  CliRun Cli(const std::string& args) const {
+  // `limits` runs the program under prlimit ("prlimit --as=N ").
+  CliRun Cli(const std::string& args, const std::string& limits = "") const {
     CliRun run;
-    run.out = CommandOutput("NORVANE_DATA_DIR='" NORVANE_SOURCE_DATA_DIR "' XDG_DATA_HOME='" + home.path() + "' '" +
-                                NORVANE_CLI_PATH + "' " + args + " 2>'" + home / "err" + "'",
+    run.out = CommandOutput("NORVANE_DATA_DIR='" NORVANE_SOURCE_DATA_DIR "' XDG_DATA_HOME='" + home.path() + "' " +
+                                limits + "'" + NORVANE_CLI_PATH + "' " + args + " 2>'" + home / "err" + "'",
                             &run.status);
     run.err = ReadFileText(home / "err");
     return run;
@@ -150,6 +162,34 @@ TEST_F(CliTest, GridExportWritesTheTableAsItsDialogFillsIt) {
   EXPECT_EQ(ReadFileText(txt), text);
   EXPECT_EQ(Cli(export_ + txt + " --append").status, 0);
   EXPECT_EQ(ReadFileText(txt), text + text);
+}
+
+// A document of many nodes, written as text: quicker than building the model.
+std::string ManyNodes(int count) {
+  std::string text = R"({"format": "norvane-model", "schemaVersion": 1, "nodes": [)";
+  for (int i = 1; i <= count; ++i)
+    text += (i > 1 ? ",\n" : "") + std::string(R"({"id": )") + std::to_string(i) + R"(, "x": 1.5, "y": 0.25, "z": -3})";
+  return text + "]}\n";
+}
+
+// Out of memory, or past a file-size limit: reported, nothing half-written, nothing left beside.
+TEST_F(CliTest, ResourceLimitsAreReportedAndLoseNothing) {
+  const std::string model = dir / "big.json", out = dir / "nodes.txt";
+  WriteFileText(model, ManyNodes(300000));
+#if !NORVANE_SANITIZED  // the sanitizers reserve far more address space than the limit
+  const CliRun oom = Cli("grid export '" + model + "' nodes '" + out + "'", "prlimit --as=104857600 ");
+  EXPECT_EQ(oom.status, 1);
+  EXPECT_EQ(oom.err, "norvane-cli: Not enough memory to open model \"" + model + "\"\n");
+#endif
+  const std::string before = "earlier table\r\n";
+  for (const char* append : {"", " --append"}) {
+    WriteFileText(out, before);
+    const CliRun full = Cli("grid export '" + model + "' nodes '" + out + "'" + append, "prlimit --fsize=65536 ");
+    EXPECT_EQ(full.status, 1) << append;
+    EXPECT_EQ(full.err, "norvane-cli: Cannot write \"" + out + "\": File too large\n") << append;
+    EXPECT_EQ(ReadFileText(out), before) << append;
+    EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"big.json", "nodes.txt"})) << append;
+  }
 }
 
 TEST_F(CliTest, CombosGenerateAndRefuseASecondRun) {

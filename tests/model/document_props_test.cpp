@@ -4,6 +4,7 @@
 
 #include "model/convert_units.h"
 #include "model/document_helpers.h"
+#include "tools/fm_exception.h"
 
 using namespace doc_test;
 
@@ -73,4 +74,23 @@ TEST(DocumentUnits, ChangingUnitsConvertsOnlyWhatIsAskedFor) {
   EXPECT_NEAR(doc.materials[0].density, 1.0 / 1728, 1e-15);
   EXPECT_NEAR(doc.materials[0].Tc, 1.8, 1e-12);
   EXPECT_EQ(doc.units.convert[fmUnit::Length], 0) << "the flag asks for one conversion and is not kept";
+}
+
+TEST(DocumentUnits, AValueTooLargeForTheNewUnitsRefusesTheWholeChange) {
+  model::ModelDocument doc;  // English: length ft
+  doc.nodes = {{1, 0, 1.0, 0.0, 0.0}, {46, 0, 1e308, 0.0, 0.0}};
+  doc.sections = {fmSect(1)};
+  doc.sections[0].Iz = 1;
+  fmUnit to = doc.units;
+  to.unit[fmUnit::Length] = 0;  // in
+  to.convert.fill(1);
+  const model::ModelDocument before = doc;
+  try {
+    model::ChangeDocumentUnits(doc, to);
+    FAIL() << "1e308 ft converted to inches";
+  } catch (const fmException& e) {
+    EXPECT_STREQ(e.what(), "The units were not changed: node 46 would become larger than a number can hold in the "
+                           "new units.");
+  }
+  EXPECT_TRUE(doc.nodes == before.nodes && doc.sections == before.sections && doc.units == before.units);
 }

@@ -1,12 +1,16 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <functional>
+#include <limits>
 #include <set>
 #include <string>
 
 #include "model/document_helpers.h"
 #include "model/solved_structure.h"
+#include "model/json_reader.h"
 #include "support/TempDir.h"
+#include "support/files.h"
 
 using namespace doc_test;
 
@@ -39,7 +43,11 @@ TEST(ModelDocument, BadDocumentsNameThePlaceAndTheProblem) {
       {Doc(R"(, "units": {"precision": [2, 2, 2, 2, 2, 2, 2, 3, 8, 1, 1, 2, 2, 2, 2, 2, 2, 12]})"),
        "/units/precision/17: value out of range"},
       {Doc(R"(, "display": {"modelLocked": 1})"), "/display/modelLocked: expected true or false"},
-      {Doc(R"(, "nodes": [{"id": 1, "x": 1e400, "y": 0, "z": 0}])"), ": number overflow"},
+      {Doc(R"(, "nodes": [{"id": 1, "x": 1e400, "y": 0, "z": 0}])"), "line 1, column 74: number overflow parsing '1e400'"},
+      {Doc(R"(, "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0,
+"x": 5}])"), "line 2, column 1: duplicate key \"x\""},
+      {Doc(R"(, "title": "a", "title": "b")"), "line 1, column 63: duplicate key \"title\""},
+      {Doc(", \"nodes\": " + std::string(300, '[') + std::string(300, ']')), "line 1, column 257: nested deeper than 200 levels"},
   };
   for (const auto& [text, refusal] : cases) EXPECT_EQ(RefusalOf(text).substr(0, refusal.size()), refusal) << text;
 }
@@ -67,6 +75,27 @@ TEST(ModelDocument, RoundTripThroughAFileKeepsEveryValue) {
   EXPECT_EQ(back.units, doc.units);
   EXPECT_EQ(back.display, doc.display);
   EXPECT_EQ(back.nodes, doc.nodes);
+}
+
+TEST(ModelDocument, ANumberThatIsNotFiniteIsNotSavedAndTheOldFileStays) {
+  TempDir dir;
+  const std::string path = dir / "model.json";
+  model::ModelDocument doc;
+  doc.nodes = {{1, 0, 0.0, 0.0, 0.0}, {2, 0, 1.0, 2.0, 3.0}};
+  model::SaveModelDocument(doc, path);
+  const std::string saved = ReadFileText(path);
+  for (const double bad : {std::numeric_limits<double>::infinity(), std::nan("")}) {
+    doc.nodes[1].y = bad;
+    try {
+      model::SaveModelDocument(doc, path);
+      ADD_FAILURE() << "saved " << bad;
+    } catch (const model::DocumentError& e) {
+      EXPECT_EQ(e.place(), "/nodes/1/y");
+      EXPECT_STREQ(e.what(), "Cannot save the model: the value at /nodes/1/y is not a finite number, and the file "
+                             "would not open again.");
+    }
+    EXPECT_EQ(ReadFileText(path), saved);
+  }
 }
 
 TEST(ModelDocument, OlderAndRicherDocumentsStillLoad) {

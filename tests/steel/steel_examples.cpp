@@ -1,20 +1,6 @@
 #include "steel/steel_examples.h"
 
-#include <fstream>
-#include <sstream>
-
 namespace steel_test {
-
-const tools::AiscLibrary* Published() {
-  static const std::unique_ptr<tools::AiscLibrary> lib = []() -> std::unique_ptr<tools::AiscLibrary> {
-    std::ifstream in(PublishedCsv(), std::ios::binary);
-    if (!in) return nullptr;
-    std::ostringstream text;
-    text << in.rdbuf();
-    return std::make_unique<tools::AiscLibrary>(tools::ParseAiscCsv(text.str(), PublishedCsv()));
-  }();
-  return lib.get();
-}
 
 std::unique_ptr<CAiscDesign> Check(const tools::AiscLibrary& library, const Member& m, const Loads& l,
                                    std::ostream* report) {

@@ -1,6 +1,4 @@
 #pragma once
-#include <cstdlib>
-#include <filesystem>
 #include <memory>
 #include <string>
 
@@ -8,22 +6,13 @@
 #include "tools/fm_exception.h"
 #include "tools/shape_table.h"
 
-// The shape libraries the member check is tested with: the bundled one, and the published
-// database for the types the bundled one does not hold.
+// The shape library the member check is tested with: the bundled one.
 namespace steel_test {
 
 inline const tools::AiscLibrary& Bundled() {
   static const tools::AiscLibrary lib = tools::AiscLibrary::LoadFrom(NORVANE_SOURCE_DATA_DIR);
   return lib;
 }
-
-inline std::string PublishedCsv() {
-  const char* dir = std::getenv("NORVANE_TEST_DATA_DIR");
-  return std::string(dir && *dir ? dir : NORVANE_TEST_DATA_DIR) + "/aisc-shapes-v15.0-US.csv";
-}
-
-// Null when the published database is absent.
-const tools::AiscLibrary* Published();
 
 // A member of the given shape with the lengths in feet, as the dialog passes them (in inches).
 struct Member {

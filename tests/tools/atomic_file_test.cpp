@@ -4,6 +4,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -30,26 +31,65 @@ TEST_F(AtomicFileTest, ReplacesWithoutLeavingTemporariesAndAppendsWithoutTruncat
   EXPECT_EQ(tools::ReadWholeFile(path), "second\r\nthird\r\n");
 }
 
-TEST_F(AtomicFileTest, FailureInTheMiddleOfWritingKeepsTheOldFile) {
-  const std::string path = Path("model.json");
-  tools::WriteFileAtomically(path, "the old model");
-  // A file-size limit makes the write fail half-way, as a full disk would.
+// A file-size limit makes a write fail half-way, as a full disk would; the message of the failure.
+std::string FailingPastFileSize(const std::function<void()>& write) {
   struct rlimit old {};
   getrlimit(RLIMIT_FSIZE, &old);
   const struct rlimit small {4096, old.rlim_max};
   const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-  std::string message;
+  std::string message = "written";
+  if (setrlimit(RLIMIT_FSIZE, &small) != 0) return "no limit";
   try {
-    tools::WriteFileAtomically(path, std::string(100000, 'n'));
+    write();
   } catch (const tools::FileError& e) {
     message = e.what();
   }
   setrlimit(RLIMIT_FSIZE, &old);
   std::signal(SIGXFSZ, previousHandler);
-  EXPECT_NE(message.find("Cannot write \"" + path + "\""), std::string::npos) << message;
+  return message;
+}
+
+TEST_F(AtomicFileTest, FailureInTheMiddleOfWritingKeepsTheOldFile) {
+  const std::string path = Path("model.json");
+  tools::WriteFileAtomically(path, "the old model");
+  EXPECT_EQ(FailingPastFileSize([&] { tools::WriteFileAtomically(path, std::string(100000, 'n')); }),
+            "Cannot write \"" + path + "\": File too large");
   EXPECT_EQ(ReadFileText(path), "the old model");
   EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"model.json"}) << "no partial file is left behind";
+
+  // An append that fails leaves the file exactly as it was, never with part of a table.
+  tools::AppendToFile(path, "\r\nfirst table\r\n");
+  EXPECT_EQ(FailingPastFileSize([&] { tools::AppendToFile(path, std::string(100000, 'a')); }),
+            "Cannot write \"" + path + "\": File too large");
+  EXPECT_EQ(ReadFileText(path), "the old model\r\nfirst table\r\n");
+}
+
+TEST_F(AtomicFileTest, ReplacingKeepsTheModeAndWritesThroughSymbolicLinks) {
+  namespace fs = std::filesystem;
+  const std::string model = Path("model.json");
+  tools::WriteFileAtomically(model, "old");
+  fs::permissions(model, fs::perms::owner_read | fs::perms::owner_write);
+  tools::WriteFileAtomically(model, "new");
+  EXPECT_EQ(fs::status(model).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+
+  // A link, a link to that link (relative, from another folder) and a link to a file not yet there.
+  fs::create_directory(Path("links"));
+  fs::create_symlink("model.json", Path("latest.json"));
+  fs::create_symlink("../latest.json", Path("links/current.json"));
+  fs::create_symlink("report.txt", Path("report-link.txt"));
+  tools::WriteFileAtomically(Path("links/current.json"), "through two links");
+  tools::ReplaceFileWith(Path("report-link.txt"), [](const std::string& temp) { WriteFileText(temp, "made"); });
+  EXPECT_TRUE(fs::is_symlink(Path("latest.json")) && fs::is_symlink(Path("links/current.json")) &&
+              fs::is_symlink(Path("report-link.txt")));
+  EXPECT_EQ(ReadFileText(model), "through two links");
+  EXPECT_EQ(ReadFileText(Path("report.txt")), "made");
+  EXPECT_EQ(fs::status(model).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+  EXPECT_EQ(FolderEntries(dir.path()),
+            (std::vector<std::string>{"latest.json", "links", "model.json", "report-link.txt", "report.txt"}));
+
+  fs::create_symlink("loop-b", Path("loop-a"));
+  fs::create_symlink("loop-a", Path("loop-b"));
+  EXPECT_THROW(tools::WriteFileAtomically(Path("loop-a"), "x"), tools::FileError);
 }
 
 TEST_F(AtomicFileTest, WritingRefusalsNameTheReasonAndChangeNothing) {

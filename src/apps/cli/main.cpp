@@ -1,4 +1,6 @@
+#include <csignal>
 #include <exception>
+#include <new>
 #include <iostream>
 
 #include "apps/cli/cli.h"
@@ -60,6 +62,9 @@ void PrintUsage(std::ostream& out) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Past a file-size limit a write then fails with EFBIG and is reported, instead of the
+  // signal ending the program with a temporary file left beside the target.
+  std::signal(SIGXFSZ, SIG_IGN);
   std::ios::sync_with_stdio(false);
   if (argc < 2 || std::string(argv[1]) == "help" || std::string(argv[1]) == "--help" ||
       std::string(argv[1]) == "-h") {
@@ -72,6 +77,9 @@ int main(int argc, char** argv) {
     if (name != c.name) continue;
     try {
       return c.run(args, std::cout, std::cerr);
+    } catch (const std::bad_alloc&) {
+      std::cerr << "norvane-cli: Not enough memory to run \"" << name << "\"\n";
+      return cli::kRefused;
     } catch (const std::exception& e) {
       std::cerr << "norvane-cli: " << e.what() << "\n";
       return cli::kRefused;

@@ -2,8 +2,10 @@
 
 #include "apps/host/DialogBindings.h"
 #include "apps/host/HostSettings.h"
+#include "dialogs/frame/Prompter.h"
 #include "dialogs/units/CUnitsDlg.h"
 #include "model/convert_units.h"
+#include "tools/fm_exception.h"
 
 void RegisterUnitsBindings() {
   RegisterDialogBinding({"CUnitsDlg",
@@ -19,7 +21,12 @@ void RegisterUnitsBindings() {
                              StoreDefaultUnits(dlg.m_Units, settings);
                            }
                            const fmUnit before = m.doc.units;
-                           model::ChangeDocumentUnits(m.doc, dlg.m_Units);
+                           try {
+                             model::ChangeDocumentUnits(m.doc, dlg.m_Units);
+                           } catch (const fmException& e) {
+                             GetPrompter().Message(&d, e.what(), MessageIcon::Error);
+                             return false;
+                           }
                            return !(m.doc.units == before);
                          }});
 }

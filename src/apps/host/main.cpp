@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QFileInfo>
+#include <csignal>
 #include <iostream>
 #include <map>
 #include <string>
@@ -94,6 +95,9 @@ std::string ExampleModel() { return std::string(NORVANE_EXAMPLES_DIR) + "/buildi
 }  // namespace
 
 int main(int argc, char** argv) {
+  // Past a file-size limit a write then fails with EFBIG and is reported, instead of the
+  // signal ending the program with a temporary file left beside the target.
+  std::signal(SIGXFSZ, SIG_IGN);
   QApplication app(argc, argv);
   QApplication::setOrganizationName("Norvane");
   QApplication::setApplicationName("norvane-host");

@@ -1,6 +1,7 @@
 #include "dialogs/design/material_grid.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "dialogs/grid/grid_ops.h"
 #include "tools/format.h"
@@ -13,7 +14,7 @@ namespace {
 // A cell still showing a candidate's value keeps that value's full precision.
 std::optional<double> CellValue(const std::string& text, std::initializer_list<const double*> candidates) {
   for (const double* c : candidates)
-    if (c && text == tools::FormatG(*c)) return *c;
+    if (c && std::isfinite(*c) && text == tools::FormatG(*c)) return *c;  // "inf" is no value to keep
   return tools::ParseDouble(text);
 }
 

@@ -124,7 +124,12 @@ CylinderCheck CheckCylindricalFrameLists(std::string_view radialList, std::strin
   for (double y : c.axial)
     if (y < 0) return refuse(CylinderList::Axial, kNegativeAxialDistance);
 
-  const size_t nodes = MakeLayout(c).NodeCount();
+  // Each value is finite, but their running sums may not be.
+  const Layout layout = MakeLayout(c);
+  if (!layout.radii.empty() && !std::isfinite(layout.radii.back())) return refuse(CylinderList::Radial, kRadiusTooLarge);
+  if (!std::isfinite(layout.levels.back())) return refuse(CylinderList::Axial, kLevelTooLarge);
+
+  const size_t nodes = layout.NodeCount();
   if (nodes > kMaxGeneratedNodes)
     return refuse(CylinderList::None,
                   tools::Format("The cylindrical frame would have %zu nodes; at most %zu can be generated at once",
@@ -206,6 +211,13 @@ CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters
     for (size_t r = l.centre ? 1 : 0; r < l.radii.size(); ++r)
       for (size_t a = 0; a < angleCount; ++a) place(l.radii[r] * cosA[a], y, -l.radii[r] * sinA[a]);
   }
+  // Turning and moving finite rings can still leave the range of a double.
+  for (const fmNd& n : f.nodes)
+    if (!std::isfinite(n.x) || !std::isfinite(n.y) || !std::isfinite(n.z)) {
+      result.error = kCoordinatesTooLarge;
+      result.frame = {};
+      return result;
+    }
 
   // Node id of (level, ring, angle); the centre has one node for every angle.
   auto node = [&](size_t level, size_t ring, size_t angle) {

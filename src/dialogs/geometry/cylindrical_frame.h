@@ -31,6 +31,10 @@ inline constexpr const char* kClosedFrameNeedsTwoIncrements =
     "Closed cylindrical frame must have at least two angle increments (excluding 0 start angle)";
 inline constexpr const char* kTotalAngleAbove360 = "Total angle may not be greater than 360 degrees";
 inline constexpr const char* kNegativeAxialDistance = "Y direction distance may not be negative";
+inline constexpr const char* kRadiusTooLarge = "The radial distances add up to more than a number can hold";
+inline constexpr const char* kLevelTooLarge = "The Y direction distances add up to more than a number can hold";
+inline constexpr const char* kCoordinatesTooLarge =
+    "The frame's coordinates would be larger than a number can hold; use smaller distances or insertion point";
 
 // One generation may make at most this many nodes.
 inline constexpr size_t kMaxGeneratedNodes = 1000000;
@@ -49,7 +53,8 @@ struct CylinderCheck {
 // negative; the leading 0 put in front of the angles; fewer than two angle values; a
 // negative or (after the first) zero angle; a closed frame (total 360 within 5e-7) with
 // fewer than two increments; a total above 360. Then the generator's own: a negative
-// distance along the axis, and a frame of more than kMaxGeneratedNodes nodes.
+// distance along the axis, ring radii or levels that are not finite numbers once summed,
+// and a frame of more than kMaxGeneratedNodes nodes.
 CylinderCheck CheckCylindricalFrameLists(std::string_view radialList, std::string_view angleList,
                                          std::string_view axialList);
 

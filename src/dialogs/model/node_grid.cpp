@@ -74,7 +74,7 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmNd> filled) {
       // A cell left as it was filled keeps the node's full precision, not the six digits shown.
       if (row <= filledRows) {
         const double original = axis == 0 ? filled[row - 1].x : axis == 1 ? filled[row - 1].y : filled[row - 1].z;
-        if (text == tools::FormatG(original)) {
+        if (std::isfinite(original) && text == tools::FormatG(original)) {
           *coords[axis] = original;
           continue;
         }

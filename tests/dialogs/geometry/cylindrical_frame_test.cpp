@@ -48,6 +48,8 @@ TEST(CylinderCheck, AcceptsAndRefusesListsInTheDialogsOrder) {
       {"-5, 10", "0, 2@30", "", kNegativeRadialDistance, CylinderList::Radial},
       {"20,10", "0, 2@30", "", "", CylinderList::None},  // an empty axial list: one level
       {"20,10", "0, 2@30", "2@-10", kNegativeAxialDistance, CylinderList::Axial},
+      {"1e308, 1e308", "0, 90", "", kRadiusTooLarge, CylinderList::Radial},  // finite values, infinite sum
+      {"10", "0, 90", "1e308, 1e308", kLevelTooLarge, CylinderList::Axial},
       {"10", "3@", "", "Angle increment list: \"3@\" (item 1) has no value after @", CylinderList::Angle},
       {"100@1", "0, 100@1", "100@1",
        "The cylindrical frame would have 1020100 nodes; at most 1000000 can be generated at once", CylinderList::None},
@@ -145,15 +147,17 @@ TEST(CylindricalFrame, RotatesAboutAGlobalAxisThenMovesToTheInsertionPoint) {
 }
 
 TEST(CylindricalFrame, RefusesWhatItCannotBuild) {
-  CylindricalFrameParameters axis, supports, nan;
+  CylindricalFrameParameters axis, supports, nan, huge = Params("1e308", "0, 90", "");
   axis.rotationAxis = 3;
   supports.supports = -1;
   nan.insertX = std::nan("");
+  huge.insertX = 1e308;  // the ring at x = 1e308 moved by 1e308 more
   const std::pair<CylindricalFrameParameters, std::string> cases[] = {
       {Params("20,10", "0, 200, 200", ""), kTotalAngleAbove360},
       {axis, "Invalid rotation axis 3 (0 global X, 1 global Y, 2 global Z)"},
       {supports, "Invalid support kind -1 (0 none, 1 pinned, 2 fixed)"},
       {nan, "Insertion point and rotation angle must be finite numbers"},
+      {huge, kCoordinatesTooLarge},
   };
   for (const auto& [p, error] : cases) EXPECT_EQ(GenerateCylindricalFrame(p, 1, 1).error, error);
   const auto full = GenerateCylindricalFrame({}, 4294967290u, 1);  // 6 nodes end at 4294967295
