@@ -93,6 +93,58 @@ TEST_F(CliTest, RefusalsSayWhy) {
   EXPECT_EQ(Cli("shapes show W14X90").status, 0) << "a refused import changes nothing";
 }
 
+// Help and version go to stdout with status 0, for the program and for every command.
+TEST_F(CliTest, HelpAndVersion) {
+  const CliRun help = Cli("--help");
+  EXPECT_EQ(help.status, 0);
+  EXPECT_TRUE(help.out.starts_with("Headless engines of Norvane for scripts.\nUsage: norvane-cli [OPTIONS] SUBCOMMAND"))
+      << help.out;
+  for (const char* command : {"units", "combos", "grid", "kfactor", "cylinder", "section", "shapes", "report"})
+    EXPECT_NE(help.out.find(std::string("\n  ") + command + " "), std::string::npos) << command;
+  EXPECT_EQ(Cli("help").out, help.out);
+
+  const std::pair<const char*, const char*> commands[] = {
+      {"units convert --help", "Usage: norvane-cli units convert [OPTIONS] VALUE FROM TO\n"},
+      {"help units convert", "Usage: norvane-cli units convert [OPTIONS] VALUE FROM TO\n"},
+      {"combos generate --help", "  --rows ROWS "},
+      {"SECTION Tee --help", "Usage: norvane-cli section tee [OPTIONS] FLANGE_WIDTH DEPTH FLANGE_THICKNESS"},
+      {"report --help", "  --case N "},
+  };
+  for (const auto& [args, text] : commands) {
+    const CliRun r = Cli(args);
+    EXPECT_EQ(r.status, 0) << args;
+    EXPECT_NE(r.out.find(text), std::string::npos) << args << "\n" << r.out;
+    EXPECT_EQ(r.err, "") << args;
+  }
+  for (const char* args : {"--version", "units --version", "kfactor 1 --version"}) {
+    const CliRun r = Cli(args);
+    EXPECT_EQ(r.status, 0) << args;
+    EXPECT_TRUE(r.out.starts_with("norvane-cli 1.0.0 (build ")) << args << "\n" << r.all();
+  }
+}
+
+// A line that does not parse: status 2, the reason, then the help of the command it named.
+TEST_F(CliTest, ParseErrorsShowTheCommandsHelp) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"units convert 1 ft", "norvane-cli: TO is required\n\n"},
+      {"units", "norvane-cli: A subcommand is required\n"},
+      {"frobnicate", "norvane-cli: unknown command \"frobnicate\"\n"},
+      {"units frobnicate", "norvane-cli: unknown command \"frobnicate\"\n"},
+      {"grid export m nodes o.txt --bogus", "norvane-cli: The following argument was not expected: --bogus\n"},
+      {"report m 1 --case", "norvane-cli: --case: 1 required N missing\n"},
+      {"kfactor 1 2 3", "norvane-cli: The following argument was not expected: 3\n"},
+      {"report m 1 --case 1 --mode 2", "norvane-cli: give one of --case and --mode\n"},
+      {"cylinder --axis Q", "norvane-cli: --axis must be X, Y or Z, not \"Q\"\n"},
+  };
+  for (const auto& [args, message] : cases) {
+    const CliRun r = Cli(args);
+    EXPECT_EQ(r.status, 2) << args;
+    EXPECT_EQ(r.out, "") << args;
+    EXPECT_TRUE(r.err.starts_with(message)) << args << "\n" << r.err;
+    EXPECT_NE(r.err.find("Usage: norvane-cli"), std::string::npos) << args << "\n" << r.err;
+  }
+}
+
 TEST(Cli, GarbageNeverCrashes) {
   const std::string huge(100000, '9');
   const std::vector<std::vector<std::string>> cases = {
