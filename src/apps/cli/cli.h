@@ -56,5 +56,6 @@ void AddCylinderCommand(Program& program);
 void AddSectionCommand(Program& program);
 void AddShapesCommand(Program& program);
 void AddReportCommand(Program& program);
+void AddSpectrumCommand(Program& program);
 
 }  // namespace cli

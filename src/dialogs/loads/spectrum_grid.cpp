@@ -60,6 +60,10 @@ PointsReadResult ReadPoints(const grid::Sheet& sheet, const std::vector<fmSpectr
       r.failure = grid::GridFailure{"Acceleration must be a number.", {kAccelerationCol, row}};
       return r;
     }
+    if (*acceleration < 0) {
+      r.failure = grid::GridFailure{"Acceleration must not be negative.", {kAccelerationCol, row}};
+      return r;
+    }
     r.points.push_back({*period, *acceleration});
   }
   if (r.points.empty()) r.failure = grid::GridFailure{"A response spectrum needs at least one point.", {kPeriodCol, 1}};

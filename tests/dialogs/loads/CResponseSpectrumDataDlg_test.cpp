@@ -56,6 +56,7 @@ TEST_F(SpectrumDataTest, EditsRedrawTheCurveAndBadPointsAreRefusedWhereTheyAre) 
       {kPeriodCol, 2, "half", "Period must be a number."},
       {kPeriodCol, 1, "-0.1", "Period must not be negative."},
       {kAccelerationCol, 3, "", "Acceleration must be a number."},
+      {kAccelerationCol, 2, "-1", "Acceleration must not be negative."},
   };
   for (const auto& c : cases) {
     CResponseSpectrumDataDlg one;

@@ -6,6 +6,7 @@
 #include "dialogs/frame/CDialog.h"
 #include "model/response_spectrum_manager.h"
 #include "support/DialogTest.h"
+#include "support/NestedDialogs.h"
 #include "support/TempDir.h"
 
 // A private spectrum file per test; nested dialogs run the script of their template id.
@@ -15,18 +16,8 @@ class SpectraDialogTest : public DialogTest {
     DialogTest::SetUp();
     manager.SetFilePath(dir / "response-spectra.txt");
     manager.SetSpectra(model::DefaultSpectra());
-    previousHook = CDialog::SetModalLoopHook([this](CDialog& dlg) {
-      const auto it = scripts.find(dlg.TemplateId());
-      if (it == scripts.end()) {
-        ADD_FAILURE() << "dialog " << dlg.TemplateId() << " opened without a script";
-        return IDCANCEL;
-      }
-      it->second(dlg);
-      return dlg.ModalResult() != 0 ? dlg.ModalResult() : IDCANCEL;
-    });
   }
   void TearDown() override {
-    CDialog::SetModalLoopHook(previousHook);
     manager.SetFilePath({});
     manager.SetSpectra(model::DefaultSpectra());
     DialogTest::TearDown();
@@ -40,8 +31,6 @@ class SpectraDialogTest : public DialogTest {
 
   TempDir dir;
   CResponseSpectrumManager& manager = CResponseSpectrumManager::Instance();
-  std::map<int, std::function<void(CDialog&)>> scripts;
-
- private:
-  CDialog::ModalLoopHook previousHook;
+  NestedDialogs nested;
+  std::map<int, std::function<void(CDialog&)>>& scripts = nested.scripts;
 };
