@@ -9,6 +9,8 @@ namespace steel {
 std::string Num(double value) {
   if (std::isinf(value)) return value > 0 ? "∞" : "-∞";
   if (std::isnan(value)) return "n/a";
+  // Large values whole (29000, not 2.9e+04); the rest to four significant digits.
+  if (std::abs(value) >= 1e4 && std::abs(value) < 1e15) return tools::Format("%.0f", value);
   return tools::Format("%.4g", value);
 }
 

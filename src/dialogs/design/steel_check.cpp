@@ -89,6 +89,18 @@ void WriteSteelReportHead(std::ostream& out, const SteelMember& m, int loadSets)
 
 void WriteSteelReportFoot(std::ostream& out) { steel::WriteReportFoot(out); }
 
+void SetUpDesign(CAiscDesign& design, const SteelMember& m, std::ostream* report) {
+  design.SetPrint(report != nullptr);
+  design.SetPrintFile(report);
+  design.SetMaterial(m.fy);
+  design.SetGeneralParameters(m.direct, m.magnify);
+  // The library takes lengths in inches.
+  design.SetColumnSlenderness(m.kx, m.ky, m.lux * 12.0, m.luy * 12.0);
+  design.SetLateralTorsionalProperty(m.cb, m.lb * 12.0);
+  design.SetColumnSlenderness_Torsional(m.kz, m.luz * 12.0);
+  design.SetDoubleAngleConnnectorDistance(m.connector * 12.0);
+}
+
 bool RunSteelCheck(const SteelMember& m, const std::vector<SteelLoadSet>& loads, std::ostream* report,
                    std::vector<SteelResult>& results, std::string* message, const tools::AiscLibrary* library) {
   CSteelDesignManager* manager = CSteelDesignManager::Instance();
@@ -100,15 +112,7 @@ bool RunSteelCheck(const SteelMember& m, const std::vector<SteelLoadSet>& loads,
   }
   const std::unique_ptr<CAiscDesign, void (*)(CAiscDesign*)> design(
       raw, [](CAiscDesign* d) { CSteelDesignManager::Instance()->DeleteAiscDesign(d); });
-  design->SetPrint(report != nullptr);
-  design->SetPrintFile(report);
-  design->SetMaterial(m.fy);
-  design->SetGeneralParameters(m.direct, m.magnify);
-  // The library takes lengths in inches.
-  design->SetColumnSlenderness(m.kx, m.ky, m.lux * 12.0, m.luy * 12.0);
-  design->SetLateralTorsionalProperty(m.cb, m.lb * 12.0);
-  design->SetColumnSlenderness_Torsional(m.kz, m.luz * 12.0);
-  design->SetDoubleAngleConnnectorDistance(m.connector * 12.0);
+  SetUpDesign(*design, m, report);
   results.clear();
   for (size_t i = 0; i < loads.size(); ++i) {
     const SteelLoadSet& l = loads[i];
