@@ -96,9 +96,9 @@ std::string Narrow(const wchar_t* text) {
 ProblemPrintArea::ProblemPrintArea(std::ostream* out, const wchar_t* title) : ProblemPrintArea(out, Narrow(title)) {}
 
 ProblemPrintArea::ProblemPrintArea(std::ostream* out, std::string_view title) : out_(out) {
-  if (out_) *out_ << "<section>\n<h2>" << steel::HtmlEscape(title) << "</h2>\n";
+  if (out_) *out_ << "<div class=\"area\">\n<h2>" << steel::HtmlEscape(title) << "</h2>\n";
 }
 
 ProblemPrintArea::~ProblemPrintArea() {
-  if (out_) *out_ << "</section>\n";
+  if (out_) *out_ << "</div>\n";
 }

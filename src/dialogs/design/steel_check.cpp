@@ -66,7 +66,7 @@ void WriteSteelReportHead(std::ostream& out, const SteelMember& m, int loadSets)
   using steel::HtmlEscape;
   using steel::Num;
   steel::WriteReportHead(out, "Steel Beam-Column Check: ANSI/AISC 360-10 LRFD");
-  out << "<section>\n<h2>Member</h2>\n<table class=\"steps\">\n";
+  out << "<div class=\"area\">\n<h2>Member</h2>\n<table class=\"steps\">\n";
   const auto row = [&](const std::string& name, const std::string& value) {
     out << "<tr><td>" << HtmlEscape(name) << "</td><td>" << HtmlEscape(value) << "</td></tr>\n";
   };
@@ -84,7 +84,7 @@ void WriteSteelReportHead(std::ostream& out, const SteelMember& m, int loadSets)
   out << "</table>\n<p>Forces in kip, moments in kip-ft (kip-in within the equations), lengths in ft (in within "
          "the equations), stresses in ksi. Pu &gt; 0 is compression. With moment magnification, B1 of Appendix 8 "
          "amplifies each moment with K1 = 1.0 and the unbraced length about its axis; the direct design method "
-         "takes EI* = 0.8&tau;bEI there.</p>\n</section>\n";
+         "takes EI* = 0.8&tau;bEI there.</p>\n</div>\n";
 }
 
 void WriteSteelReportFoot(std::ostream& out) { steel::WriteReportFoot(out); }
