@@ -21,6 +21,7 @@ endforeach()
 # (localedef needs no privileges when it writes into the build folder).
 set(NORVANE_TEST_LOCALE_DIR ${CMAKE_BINARY_DIR}/test-locales)
 add_custom_command(OUTPUT ${NORVANE_TEST_LOCALE_DIR}/.compiled
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${NORVANE_TEST_LOCALE_DIR}
   COMMAND sh -c "locale -a 2>/dev/null | grep -qix 'de_DE.utf-\\?8' || localedef -i de_DE -f UTF-8 '${NORVANE_TEST_LOCALE_DIR}/de_DE.UTF-8' >/dev/null 2>&1 || true"
   COMMAND ${CMAKE_COMMAND} -E touch ${NORVANE_TEST_LOCALE_DIR}/.compiled
   VERBATIM)
