@@ -82,7 +82,8 @@ int CylinderCommand(const Args& args, std::ostream& out, std::ostream& err) {
       if (p.supports < 0) return bad("--supports must be none, pinned or fixed, not \"" + v + "\"");
     } else if (a == "--first-node" || a == "--first-member") {
       const auto id = tools::ParseUInt32(v);
-      if (!id || *id == 0) return bad(a + " needs a whole number from 1 to 4294967295, not \"" + v + "\"");
+      if (!id || *id == 0 || *id > kMaxId)
+        return bad(a + " needs a whole number from 1 to 2147483647, not \"" + v + "\"");
       (a == "--first-node" ? firstNode : firstMember) = *id;
     } else if (a == "--output") {
       output = v;

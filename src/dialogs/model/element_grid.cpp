@@ -266,6 +266,12 @@ ReadResult<Record> Read(const grid::Sheet& sheet, std::span<const Record> filled
           tools::Format("Invalid %s id \"%s\" in row %d.", kind.inputWord, idText.c_str(), row), {c.id, row}};
       return result;
     }
+    if (*id > kMaxId) {
+      result.failure = grid::GridFailure{
+          tools::Format("Invalid %s id %u in row %d: the highest id is %u.", kind.inputWord, *id, row, kMaxId),
+          {c.id, row}};
+      return result;
+    }
     r.id = *id;
     const auto refuse = [&](int col, const std::string& why) {
       result.failure =
@@ -277,8 +283,8 @@ ReadResult<Record> Read(const grid::Sheet& sheet, std::span<const Record> filled
     try {
       for (int k = 0; k < Record::kNodeCount; ++k, ++col) {
         const auto nodeId = tools::ParseUInt32(sheet.GetData(col, row));
-        if (!nodeId) {
-          refuse(col, tools::Format("Node-%d must be a node id, a whole number from 0 to 4294967295, not \"%s\".", k + 1,
+        if (!nodeId || *nodeId > kMaxId) {
+          refuse(col, tools::Format("Node-%d must be a node id, a whole number from 0 to %u, not \"%s\".", k + 1, kMaxId,
                                     cellText(col).c_str()));
           return result;
         }

@@ -67,6 +67,11 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmNd> filled) {
           tools::Format("Invalid node id \"%s\" in row %d.", sheet.GetData(kId, row).c_str(), row), {kId, row}};
       return result;
     }
+    if (*id > kMaxId) {
+      result.failure = grid::GridFailure{
+          tools::Format("Invalid node id %u in row %d: the highest id is %u.", *id, row, kMaxId), {kId, row}};
+      return result;
+    }
     nd.id = *id;
     double* coords[] = {&nd.x, &nd.y, &nd.z};
     for (int axis = 0; axis < 3; ++axis) {
