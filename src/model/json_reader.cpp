@@ -4,6 +4,7 @@
 
 #include "model/fm_node.h"
 #include "tools/format.h"
+#include "tools/labels.h"
 
 namespace model {
 
@@ -80,6 +81,13 @@ std::string JsonReader::String(const char* key) const {
 
 std::string JsonReader::String(const char* key, const std::string& fallback) const {
   return Has(key) ? String(key) : fallback;
+}
+
+std::string JsonReader::Label(const char* key, const char* kind) const {
+  std::string label = tools::CutLabel(String(key));
+  if (const std::string rule = tools::IsValidLabel(label); !rule.empty())
+    Member(key).Fail(std::string(kind) + " label can only " + rule);
+  return label;
 }
 
 }  // namespace model

@@ -41,6 +41,9 @@ class JsonReader {
   bool Bool(const char* key, bool fallback) const;
   std::string String(const char* key) const;
   std::string String(const char* key, const std::string& fallback) const;
+  // A label, cut to 127 characters, that keeps the label rule (tools::IsValidLabel); refused
+  // as "<kind> label can only ..." ("Load case", "Section").
+  std::string Label(const char* key, const char* kind) const;
 
   [[noreturn]] void Fail(const std::string& what) const { throw DocumentError(path_, what); }
 
