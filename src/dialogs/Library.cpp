@@ -14,6 +14,7 @@ void RegisterGeometryDialogs();
 void RegisterGridDialogs();
 void RegisterSectionsDialogs();
 void RegisterResultsDialogs();
+void RegisterSpectraDialogs();
 
 namespace {
 int g_users = 0;
@@ -32,6 +33,7 @@ bool NorvaneDlgsStartup() {
   RegisterGridDialogs();
   RegisterSectionsDialogs();
   RegisterResultsDialogs();
+  RegisterSpectraDialogs();
   return true;
 }
 

@@ -1,9 +1,27 @@
+#include <unordered_map>
+
 #include "model/document_sections.h"
+#include "tools/format.h"
+#include "tools/labels.h"
 
 namespace model {
 namespace {
 
 int32_t Flag(const JsonReader& r, const char* key) { return r.Bool(key, false) ? 1 : 0; }
+
+// The editors refuse two case labels (or two combination labels) that differ only in case; a
+// document holding such a pair would make the generator and the combination editor lose one.
+template <class Record>
+void RefuseLabelsEqualButForCase(const JsonReader& list, const std::vector<Record>& records) {
+  std::unordered_map<std::string, size_t> first;
+  for (size_t i = 0; i < records.size(); ++i) {
+    const auto [at, added] = first.emplace(tools::FoldCase(records[i].name), i);
+    if (!added)
+      list.At(i).Member("label").Fail(tools::Format(
+          "\"%s\" is the label \"%s\" of %s (labels are compared without regard to case)", records[i].name.c_str(),
+          records[at->second].name.c_str(), list.At(at->second).path().c_str()));
+  }
+}
 
 }  // namespace
 
@@ -20,6 +38,7 @@ void ReadLoads(const JsonReader& root, ModelDocument& doc) {
       doc.loadCases.emplace_back(static_cast<int32_t>(item.Int("number", INT32_MIN, INT32_MAX, -1)),
                                  item.Label("label", "Load case"), item.String("type", "Other"));
     }
+    RefuseLabelsEqualButForCase(list, doc.loadCases);
   }
   if (root.Has("loadCombinations")) {
     const JsonReader list = root.Member("loadCombinations");
@@ -49,6 +68,7 @@ void ReadLoads(const JsonReader& root, ModelDocument& doc) {
       }
       doc.loadCombs.push_back(std::move(comb));
     }
+    RefuseLabelsEqualButForCase(list, doc.loadCombs);
   }
 }
 

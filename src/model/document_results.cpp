@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <cmath>
 
 #include "model/document_sections.h"
+#include "tools/format.h"
 #include "tools/labels.h"
 #include "tools/units.h"
 
@@ -38,8 +40,27 @@ void ReadNumbers(const JsonReader& list, std::array<double, N>& out) {
   for (size_t i = 0; i < N; ++i) out[i] = Number(list, i);
 }
 
-// Records as rows of numbers: [node, v1 ... v6].
-std::vector<fmResult6Val> ReadRecords(const JsonReader& parent, const char* key) {
+// A result vector holds one record per node or element: a second would be shown and summed twice.
+template <class Record, class IdOf>
+void RefuseDuplicates(const JsonReader& list, const std::vector<Record>& records, const char* word, IdOf idOf) {
+  std::vector<std::pair<int32_t, size_t>> ids(records.size());
+  for (size_t i = 0; i < records.size(); ++i) ids[i] = {idOf(records[i]), i};
+  std::sort(ids.begin(), ids.end());
+  size_t second = records.size(), first = 0;
+  for (size_t i = 1; i < ids.size(); ++i)
+    if (ids[i].first == ids[i - 1].first && ids[i].second < second) {
+      second = ids[i].second;
+      size_t k = i - 1;
+      while (k > 0 && ids[k - 1].first == ids[i].first) --k;
+      first = ids[k].second;
+    }
+  if (second < records.size())
+    list.At(second).Fail(tools::Format("a second record of %s %d (the first is %s)", word, idOf(records[second]),
+                                       list.At(first).path().c_str()));
+}
+
+// Records as rows of numbers: [node, v1 ... v6]; `word` names what the number is.
+std::vector<fmResult6Val> ReadRecords(const JsonReader& parent, const char* key, const char* word = "node") {
   std::vector<fmResult6Val> out;
   if (!parent.Has(key)) return out;
   const JsonReader list = parent.Member(key);
@@ -55,6 +76,7 @@ std::vector<fmResult6Val> ReadRecords(const JsonReader& parent, const char* key)
     for (size_t k = 0; k < 6; ++k) r.v[k] = Number(item, k + 1);
     out.push_back(r);
   }
+  RefuseDuplicates(list, out, word, [](const fmResult6Val& r) { return r.number; });
   return out;
 }
 
@@ -85,26 +107,28 @@ std::vector<fmConstraintForce> ReadConstraintForces(const JsonReader& parent) {
     }
     out.push_back(f);
   }
+  RefuseDuplicates(list, out, "constraint", [](const fmConstraintForce& f) { return f.id; });
   return out;
 }
 
 struct VectorKey {
   const char* key;
   std::vector<fmResult6Val> fmCaseResults::*vector;
+  const char* word;  // what a record's number names
 };
 constexpr VectorKey kVectorKeys[] = {
-    {"displacements", &fmCaseResults::displacements},
-    {"reactions", &fmCaseResults::reactions},
-    {"nodalSpringReactions", &fmCaseResults::nodalSpringReactions},
-    {"coupledSpringReactions", &fmCaseResults::coupledSpringReactions},
-    {"lineSpringReactions", &fmCaseResults::lineSpringReactions},
-    {"surfaceSpringReactions", &fmCaseResults::surfaceSpringReactions},
+    {"displacements", &fmCaseResults::displacements, "node"},
+    {"reactions", &fmCaseResults::reactions, "node"},
+    {"nodalSpringReactions", &fmCaseResults::nodalSpringReactions, "node"},
+    {"coupledSpringReactions", &fmCaseResults::coupledSpringReactions, "node"},
+    {"lineSpringReactions", &fmCaseResults::lineSpringReactions, "member"},
+    {"surfaceSpringReactions", &fmCaseResults::surfaceSpringReactions, "shell"},
 };
 
 fmCaseResults ReadCaseResults(const JsonReader& item) {
   item.RequireObject();
   fmCaseResults r;
-  for (const VectorKey& k : kVectorKeys) r.*k.vector = ReadRecords(item, k.key);
+  for (const VectorKey& k : kVectorKeys) r.*k.vector = ReadRecords(item, k.key, k.word);
   r.constraintForces = ReadConstraintForces(item);
   return r;
 }
@@ -162,6 +186,17 @@ void ReadList(const JsonReader& section, const char* key, std::vector<Record>& o
   for (size_t i = 0; i < n; ++i) out.push_back(readOne(list.At(i)));
 }
 
+// A rigid-body mode may come out a little below zero; anything further below is no mode.
+template <class Mode>
+void RefuseNegativeEigenvalues(const JsonReader& section, const char* key, const std::vector<Mode>& modes) {
+  std::vector<double> omega2;
+  for (const Mode& m : modes) omega2.push_back(m.omega2);
+  for (size_t i = 0; i < modes.size(); ++i)
+    if (omega2[i] < 0 && !IsRigidBodyMode(omega2[i], omega2))
+      section.Member(key).At(i).Member("omega2").Fail(
+          tools::Format("a negative eigenvalue (%g) is no vibration mode; the analysis that wrote it failed", omega2[i]));
+}
+
 }  // namespace
 
 void ReadResults(const JsonReader& root, ModelDocument& doc) {
@@ -200,6 +235,8 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
     }
     return m;
   });
+  RefuseNegativeEigenvalues(section, "eigenModes", s.eigenModes);
+  RefuseNegativeEigenvalues(section, "spectrumModes", s.spectrumModes);
   if (section.Has("spectrum")) s.spectrum = ReadCaseResults(section.Member("spectrum"));
   ReadList(section, "envelopeCombinations", s.envelopeCombinations, [](const JsonReader& item) {
     if (!item.value().is_string()) item.Fail("expected a text");

@@ -21,6 +21,10 @@ struct fmCaseResults {
   bool operator==(const fmCaseResults&) const = default;
 };
 
+// A mode whose eigenvalue is zero, or below zero by no more than round-off (a millionth of the
+// largest eigenvalue of its list), is a rigid-body mode: it has no period.
+bool IsRigidBodyMode(double omega2, const std::vector<double>& omega2OfAllModes);
+
 struct fmEigenMode {
   double omega2 = 0;  // eigenvalue: the square of the circular frequency
   std::vector<fmResult6Val> shape;

@@ -72,6 +72,7 @@ std::vector<fmSpectrumPoint> ParseSpectrumPoints(std::string_view text) {
     if (!acceleration)
       throw fmException(where + "the acceleration \"" + std::string(fields[1]) + "\" is not a number");
     if (*period < 0) throw fmException(where + "the period must not be negative");
+    if (*acceleration < 0) throw fmException(where + "the acceleration must not be negative");
     if (!points.empty() && !(*period > points.back().period))
       throw fmException(where + "the period " + tools::FormatG(*period) + " does not increase (the line before has " +
                         tools::FormatG(points.back().period) + ")");

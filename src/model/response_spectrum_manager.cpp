@@ -103,6 +103,7 @@ std::vector<fmResponseSpectrum> ParseSpectrumFile(std::string_view text) {
     if (!acceleration) Fail(lineNo, "the acceleration is not a number");
     std::vector<fmSpectrumPoint>& points = spectra.back().points;
     if (*period < 0) Fail(lineNo, "the period must not be negative");
+    if (*acceleration < 0) Fail(lineNo, "the acceleration must not be negative");
     if (!points.empty() && !(*period > points.back().period)) Fail(lineNo, "the period does not increase");
     points.push_back({*period, *acceleration});
   }

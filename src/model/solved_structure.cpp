@@ -70,9 +70,14 @@ CfmStruct SolvedStructure(const ModelDocument& doc) {
 }
 
 std::vector<std::string> CheckSolution(const ModelDocument& doc, size_t limit) {
-  std::unordered_set<int64_t> nodes;
-  nodes.reserve(doc.nodes.size() * 2);
-  for (const fmNd& n : doc.nodes) nodes.insert(n.id);
+  const auto idsOf = [](const auto& records) {
+    std::unordered_set<int64_t> ids;
+    ids.reserve(records.size() * 2);
+    for (const auto& r : records) ids.insert(r.id);
+    return ids;
+  };
+  const std::unordered_set<int64_t> nodes = idsOf(doc.nodes), members = idsOf(doc.members),
+                                    shells = idsOf(doc.shells);
 
   std::vector<std::string> lines;
   size_t more = 0;
@@ -82,30 +87,47 @@ std::vector<std::string> CheckSolution(const ModelDocument& doc, size_t limit) {
     else
       ++more;
   };
-  auto checkNodes = [&](const std::string& where, const char* what, const std::vector<fmResult6Val>& records) {
+  auto check = [&](const std::string& where, const char* what, const std::vector<fmResult6Val>& records,
+                   const std::unordered_set<int64_t>& ids, const char* word) {
     for (const fmResult6Val& r : records)
-      if (!nodes.count(r.number)) {
-        add(tools::Format("%s: %s name node %d, which the model does not have", where.c_str(), what, r.number));
+      if (!ids.count(r.number)) {
+        add(tools::Format("%s: %s name %s %d, which the model does not have", where.c_str(), what, word, r.number));
         return;  // one line per vector is enough to find it
       }
+  };
+  auto checkNodes = [&](const std::string& where, const char* what, const std::vector<fmResult6Val>& records) {
+    check(where, what, records, nodes, "node");
+  };
+  auto checkConstraints = [&](const std::string& where, const std::vector<fmConstraintForce>& forces) {
+    for (const fmConstraintForce& f : forces)
+      for (int32_t node : f.node)
+        if (!nodes.count(node)) {
+          add(tools::Format("%s: constraint forces name node %d, which the model does not have", where.c_str(), node));
+          return;
+        }
+  };
+  auto checkCase = [&](const std::string& where, const fmCaseResults& r) {
+    checkNodes(where, "displacements", r.displacements);
+    checkNodes(where, "support reactions", r.reactions);
+    checkNodes(where, "nodal spring reactions", r.nodalSpringReactions);
+    checkNodes(where, "coupled spring reactions", r.coupledSpringReactions);
+    check(where, "line spring reactions", r.lineSpringReactions, members, "member");
+    check(where, "surface spring reactions", r.surfaceSpringReactions, shells, "shell");
+    checkConstraints(where, r.constraintForces);
   };
 
   const fmSolution& s = doc.results;
   for (size_t i = 0; i < s.cases.size() && i < s.results.size(); ++i) {
     const std::string where = "results of \"" + s.cases[i].name + "\"";
     const fmCaseResults& r = s.results[i];
-    checkNodes(where, "displacements", r.displacements);
-    checkNodes(where, "support reactions", r.reactions);
-    checkNodes(where, "nodal spring reactions", r.nodalSpringReactions);
-    checkNodes(where, "coupled spring reactions", r.coupledSpringReactions);
+    checkCase(where, r);
     if (!r.displacements.empty() && r.displacements.size() < doc.nodes.size())
       add(tools::Format("%s: displacements of %zu of the model's %zu nodes", where.c_str(), r.displacements.size(),
                         doc.nodes.size()));
   }
   for (size_t m = 0; m < s.eigenModes.size(); ++m)
     checkNodes(tools::Format("mode %zu", m + 1), "the mode shape's records", s.eigenModes[m].shape);
-  checkNodes("response spectrum combination", "displacements", s.spectrum.displacements);
-  checkNodes("response spectrum combination", "support reactions", s.spectrum.reactions);
+  checkCase("response spectrum combination", s.spectrum);
   for (int32_t id : s.driftNodes)
     if (!nodes.count(id)) add(tools::Format("drift node %d is not a node of the model", id));
   if (more > 0) lines.push_back(tools::Format("... and %zu more", more));

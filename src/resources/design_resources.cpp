@@ -70,7 +70,8 @@ const DialogTemplate kComputeK = {
     },
     900, 520};
 
-// The member's data in three pairs of columns above the grid of load sets.
+// The member's data in three pairs of columns above the grid of load sets; the spare width goes
+// to an empty column at the right.
 const DialogTemplate kSteelBeamColumnCheck = {
     kIddSteelBeamColumnCheck, kStrSteelCheckCaption, "Steel Beam-Column Check",
     {
@@ -103,7 +104,8 @@ const DialogTemplate kSteelBeamColumnCheck = {
         {kCtlSteelConnector, K::Edit, 0, "", 5, 1, 1, 1, 0, kNarrow},
         {kCtlSteelMagnify, K::Check, kStrSteelMagnify, "Consider Moment Magnification", 5, 2, 1, 2},
         {kCtlSteelDirect, K::Check, kStrSteelDirect, "Use Direct Design Method", 5, 4, 1, 2},
-        {kCtlSteelGridPlaceholder, K::Placeholder, 0, "", 6, 0, 1, 6, 0, kStretchRow | kStretchCol},
+        {0, K::Static, 0, "", 0, 6, 1, 1, 0, kStretchCol},
+        {kCtlSteelGridPlaceholder, K::Placeholder, 0, "", 6, 0, 1, 7, 0, kStretchRow},
         {IDOK_, K::Button, kStrSteelCompute, "Compute", kBar, 0, 1, 1, 0, kDefault},
         {kCtlSteelShowProcedure, K::Button, kStrSteelShowProcedure, "Show Procedure", kBar, 1},
         {IDCANCEL_, K::Button, kStrSteelClose, "Close", kBar, 2},

@@ -12,6 +12,7 @@ extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
 extern const ResourceTable kSectionsResources;
 extern const ResourceTable kResultsResources;
+extern const ResourceTable kSpectraResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {
@@ -24,6 +25,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kSectionsResources,
       &kLoadsResources,
       &kResultsResources,
+      &kSpectraResources,
   };
   return tables;
 }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -91,6 +92,58 @@ TEST_F(CliTest, RefusalsSayWhy) {
   EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"bad.csv", "broken.json", "unsolved.json"}))
       << "a refused export writes no file";
   EXPECT_EQ(Cli("shapes show W14X90").status, 0) << "a refused import changes nothing";
+}
+
+// Help and version go to stdout with status 0, for the program and for every command.
+TEST_F(CliTest, HelpAndVersion) {
+  const CliRun help = Cli("--help");
+  EXPECT_EQ(help.status, 0);
+  EXPECT_TRUE(help.out.starts_with("Headless engines of Norvane for scripts.\nUsage: norvane-cli [OPTIONS] SUBCOMMAND"))
+      << help.out;
+  for (const char* command : {"units", "combos", "grid", "kfactor", "cylinder", "section", "shapes", "report"})
+    EXPECT_NE(help.out.find(std::string("\n  ") + command + " "), std::string::npos) << command;
+  EXPECT_EQ(Cli("help").out, help.out);
+
+  const std::pair<const char*, const char*> commands[] = {
+      {"units convert --help", "Usage: norvane-cli units convert [OPTIONS] VALUE FROM TO\n"},
+      {"help units convert", "Usage: norvane-cli units convert [OPTIONS] VALUE FROM TO\n"},
+      {"combos generate --help", "  --rows ROWS "},
+      {"SECTION Tee --help", "Usage: norvane-cli section tee [OPTIONS] FLANGE_WIDTH DEPTH FLANGE_THICKNESS"},
+      {"report --help", "  --case N "},
+  };
+  for (const auto& [args, text] : commands) {
+    const CliRun r = Cli(args);
+    EXPECT_EQ(r.status, 0) << args;
+    EXPECT_NE(r.out.find(text), std::string::npos) << args << "\n" << r.out;
+    EXPECT_EQ(r.err, "") << args;
+  }
+  for (const char* args : {"--version", "units --version", "kfactor 1 --version"}) {
+    const CliRun r = Cli(args);
+    EXPECT_EQ(r.status, 0) << args;
+    EXPECT_TRUE(r.out.starts_with("norvane-cli 1.0.0 (build ")) << args << "\n" << r.all();
+  }
+}
+
+// A line that does not parse: status 2, the reason, then the help of the command it named.
+TEST_F(CliTest, ParseErrorsShowTheCommandsHelp) {
+  const std::pair<std::string, std::string> cases[] = {
+      {"units convert 1 ft", "norvane-cli: TO is required\n\n"},
+      {"units", "norvane-cli: A subcommand is required\n"},
+      {"frobnicate", "norvane-cli: unknown command \"frobnicate\"\n"},
+      {"units frobnicate", "norvane-cli: unknown command \"frobnicate\"\n"},
+      {"grid export m nodes o.txt --bogus", "norvane-cli: The following argument was not expected: --bogus\n"},
+      {"report m 1 --case", "norvane-cli: --case: 1 required N missing\n"},
+      {"kfactor 1 2 3", "norvane-cli: The following argument was not expected: 3\n"},
+      {"report m 1 --case 1 --mode 2", "norvane-cli: give one of --case and --mode\n"},
+      {"cylinder --axis Q", "norvane-cli: --axis must be X, Y or Z, not \"Q\"\n"},
+  };
+  for (const auto& [args, message] : cases) {
+    const CliRun r = Cli(args);
+    EXPECT_EQ(r.status, 2) << args;
+    EXPECT_EQ(r.out, "") << args;
+    EXPECT_TRUE(r.err.starts_with(message)) << args << "\n" << r.err;
+    EXPECT_NE(r.err.find("Usage: norvane-cli"), std::string::npos) << args << "\n" << r.err;
+  }
 }
 
 TEST(Cli, GarbageNeverCrashes) {
@@ -231,4 +284,50 @@ TEST_F(CliTest, SectionsAndShapes) {
   EXPECT_EQ(show.status, 0);
   for (const char* line : {"AISC_Manual_Label W14X90\n", "\nIx 999\n"})
     EXPECT_NE(show.out.find(line), std::string::npos) << line;
+}
+
+// The user's spectrum file is the private home's; generate prints, -o also stores.
+TEST_F(CliTest, SpectrumGenerateListImportExport) {
+  const CliRun asce = Cli("spectrum generate 3 1 0.6 8");
+  EXPECT_EQ(asce.status, 0) << asce.err;
+  EXPECT_EQ(asce.out.substr(0, 46), "ASCE_2010_SDS_1_SD1_0.6_TL_8\n0\t0.4\n0.006\t0.43\n");
+  EXPECT_EQ(std::count(asce.out.begin(), asce.out.end(), '\n'), 87);
+  const CliRun ec8 = Cli("spectrum generate 5 --type 1 --ground c --ag 0.25 --importance 1.0 --damping 5");
+  EXPECT_EQ(ec8.out.substr(0, 35), "EC8_T1_C_AG_0.25_GI_1_XI_5\n0\t0.2875");
+  EXPECT_NE(ec8.out.find("\n4\t0.0539062\n"), std::string::npos);
+
+  const std::string file = home / "norvane/response-spectra.txt";
+  EXPECT_EQ(Cli("spectrum generate 0 0.4 0.56 -o '" + file + "'").status, 0);
+  WriteFileText(dir / "site.csv", "Period,Sa\n0,0.3\n1,0.5\n");
+  EXPECT_EQ(Cli("spectrum import '" + dir / "site.csv" + "'").out, "Added site (2 points) to \"" + file + "\"\n");
+  EXPECT_EQ(Cli("spectrum list").out, "ASCE_2010_SDS_1_SD1_0.6_TL_8\t86\nUBC_97_CA_0.4_CV_0.56\t127\nsite\t2\n");
+  EXPECT_EQ(Cli("spectrum export SITE '" + dir / "back.csv" + "'").status, 0);
+  EXPECT_EQ(ReadFileText(dir / "back.csv"), "0,0.3\n1,0.5\n");
+
+  WriteFileText(dir / "bad.txt", "0 0.3\n0 0.5\n");
+  const struct {
+    std::string args;
+    int status;
+    std::string message;
+  } refused[] = {
+      {"spectrum generate 3 1 0.6 0.5", 1, "norvane-cli: TL value must be greater than SD1 / SDS\n"},
+      {"spectrum generate 0 0 1", 1, "norvane-cli: Ca value must be greater than 0.0\n"},
+      {"spectrum generate 5 --ag 0.3 --damping 0", 1, "norvane-cli: Damping ratio must be greater than 0.0\n"},
+      {"spectrum generate 0 0.4 0.56 -o '" + file + "'", 1,
+       "norvane-cli: a response spectrum named \"UBC_97_CA_0.4_CV_0.56\" already exists in \"" + file + "\"\n"},
+      {"spectrum import '" + dir / "bad.txt" + "' --name Other", 1,
+       "norvane-cli: " + dir / "bad.txt" + ", line 2: the period 0 does not increase (the line before has 0)\n"},
+      {"spectrum export Gone x.csv", 1, "norvane-cli: no response spectrum named \"Gone\" (see: norvane-cli spectrum list)\n"},
+      {"spectrum generate 3 1 0.6", 2, "norvane-cli: the ASCE codes need TL, the long-period transition in seconds\n"},
+      {"spectrum generate 6 1 1", 2, "norvane-cli: CODE must be 0 to 5"},
+      {"spectrum generate 1 1,5 1", 2, "norvane-cli: SDS must be a number, not \"1,5\"\n"},
+      {"spectrum generate 5 --ag 0.3 --ground F", 2, "norvane-cli: --ground must be A, B, C, D or E, not \"F\"\n"},
+  };
+  for (const auto& r : refused) {
+    const CliRun run = Cli(r.args);
+    EXPECT_EQ(run.status, r.status) << r.args;
+    EXPECT_EQ(run.err.substr(0, r.message.size()), r.message) << r.args;
+    EXPECT_EQ(run.out, "") << r.args;
+  }
+  EXPECT_EQ(Cli("spectrum list").out, "ASCE_2010_SDS_1_SD1_0.6_TL_8\t86\nUBC_97_CA_0.4_CV_0.56\t127\nsite\t2\n");
 }

@@ -35,6 +35,18 @@ TEST(DocumentLoads, FaultsNameTheirPlaceAndReason) {
        "/loadCombinations/0/sustainedFactor: must not be less than 0.0"},
       {R"(, "loadCombinations": [{"label": "C", "items": [{"case": "D", "factor": "x"}]}])",
        "/loadCombinations/0/items/0/factor: expected a number"},
+      {R"(, "loadCases": [{"label": "Dead"}, {"label": "Live"}, {"label": "DEAD"}])",
+       "/loadCases/2/label: \"DEAD\" is the label \"Dead\" of /loadCases/0 (labels are compared without regard to "
+       "case)"},
+      {R"(, "loadCombinations": [{"label": "Überlast"}, {"label": "ÜBERLAST"}])",
+       "/loadCombinations/1/label: \"ÜBERLAST\" is the label \"Überlast\" of /loadCombinations/0 (labels are "
+       "compared without regard to case)"},
   };
   for (const auto& [body, refusal] : cases) EXPECT_EQ(Refusal(body), refusal) << body;
+}
+
+TEST(DocumentLoads, ACaseAndACombinationMayShareALabel) {
+  const model::ModelDocument doc =
+      Parse(R"(, "loadCases": [{"label": "Dead"}], "loadCombinations": [{"label": "DEAD"}])");
+  EXPECT_EQ(doc.loadCombs.size(), 1u);
 }

@@ -59,6 +59,20 @@ TEST(DocumentResults, MalformedResultsAreRefusedWithThePlaceAndTheReason) {
       {R"({"nodalLoads": [{"node": 1, "case": "D", "direction": "W", "magnitude": 1}]})",
        "/results/nodalLoads/0/direction: expected one of X, Y, Z, OX, OY, OZ"},
       {R"({"coupledSprings": [{"node": 1, "k": [1, 2, 3]}]})", "/results/coupledSprings/0/k: expected 21 numbers"},
+      {R"({"cases": [{"label": "D", "reactions": [[1, 0, 1, 0, 0, 0, 0], [2, 0, 1, 0, 0, 0, 0], [1, 0, 1, 0, 0, 0, 0]]}]})",
+       "/results/cases/0/reactions/2: a second record of node 1 (the first is /results/cases/0/reactions/0)"},
+      {R"({"cases": [{"label": "D", "lineSpringReactions": [[7, 0, 1, 0, 0, 0, 0], [7, 0, 1, 0, 0, 0, 0]]}]})",
+       "/results/cases/0/lineSpringReactions/1: a second record of member 7 (the first is "
+       "/results/cases/0/lineSpringReactions/0)"},
+      {R"({"spectrum": {"constraintForces": [[5, 1, 0, 1, 2, 0, -1], [5, 1, 1, 1, 2, 1, -1]]}})",
+       "/results/spectrum/constraintForces/1: a second record of constraint 5 (the first is "
+       "/results/spectrum/constraintForces/0)"},
+      {R"({"eigenModes": [{"omega2": 100}, {"omega2": -3}]})",
+       "/results/eigenModes/1/omega2: a negative eigenvalue (-3) is no vibration mode; the analysis that wrote it "
+       "failed"},
+      {R"({"spectrumModes": [{"omega2": -0.5}]})",
+       "/results/spectrumModes/0/omega2: a negative eigenvalue (-0.5) is no vibration mode; the analysis that wrote "
+       "it failed"},
       {R"({"units": {"unit": [1, 0, 16, 40, 24, 56, 72, 15, 101, 103, 71, 86, 5, 71, 39, 108, 72, 88]}})",
        "/results/units/unit/7: unit not of the kind of \"Displacement:\""},
   };
@@ -67,15 +81,20 @@ TEST(DocumentResults, MalformedResultsAreRefusedWithThePlaceAndTheReason) {
 
 TEST(DocumentResults, ResultsThatDoNotFitTheNodesLoadAndAreReported) {
   const model::ModelDocument doc = WithResults(R"({"cases": [{"label": "Dead", "displacements": [[1, 0, 0, 0, 0, 0, 0]],
-                              "reactions": [[9, 0, 1, 0, 0, 0, 0]]}],
+                              "reactions": [[9, 0, 1, 0, 0, 0, 0]], "lineSpringReactions": [[7, 0, 1, 0, 0, 0, 0]],
+                              "surfaceSpringReactions": [[8, 0, 1, 0, 0, 0, 0]],
+                              "constraintForces": [[5, 1, 0, 1, 2, 0, -1], [6, 2, 0, 1, 33, 0, -1]]}],
                    "driftNodes": [2, 44]})");
   const std::vector<std::string> expected = {
       "results of \"Dead\": support reactions name node 9, which the model does not have",
+      "results of \"Dead\": line spring reactions name member 7, which the model does not have",
+      "results of \"Dead\": surface spring reactions name shell 8, which the model does not have",
+      "results of \"Dead\": constraint forces name node 33, which the model does not have",
       "results of \"Dead\": displacements of 1 of the model's 2 nodes",
       "drift node 44 is not a node of the model",
   };
   EXPECT_EQ(model::CheckSolution(doc), expected);
-  EXPECT_EQ(model::CheckSolution(doc, 1), (std::vector<std::string>{expected[0], "... and 2 more"}));
+  EXPECT_EQ(model::CheckSolution(doc, 1), (std::vector<std::string>{expected[0], "... and 5 more"}));
 }
 
 TEST(DocumentResults, TheSolvedStructureCarriesTheModelsTablesAndFlag) {

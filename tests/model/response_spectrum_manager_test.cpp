@@ -137,6 +137,7 @@ TEST(SpectrumPoints, ImportReadsTextAndCsvAndRefusesWithTheLine) {
       {"0,0.4\n1,2,3\n", "line 2: expected two values, period and acceleration, found 3"},
       {"0,0.4\n1,\n", "line 2: the acceleration \"\" is not a number"},
       {"-1,0.4\n", "line 1: the period must not be negative"},
+      {"0,-0.4\n", "line 1: the acceleration must not be negative"},
       {"Period,Sa\n", "the file holds no points"},
       {"0,1e999\n", "line 1: the acceleration \"1e999\" is not a number"},
   };

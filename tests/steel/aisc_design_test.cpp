@@ -66,6 +66,12 @@ TEST(AiscFlexure, HssAndPipeBeamsOfExamplesF6ToF9) {
   ExpectWithin(Check(Bundled(), {.shape = "Pipe8XS", .Fy = 35, .Lx = 16, .Ly = 16, .Lz = 16, .Lb = 16})->m_phiMnx, 81.4);
 }
 
+// F.10: WT5X6, A992, continuously braced, stem in tension: Mp = Fy Zx = 110 kip-in exceeds
+// 1.6 My = 1.6(50)(1.22) = 97.6 kip-in (F9-2), which governs: phi-Mn = 7.32 kip-ft.
+TEST(AiscFlexure, TeeOfExampleF10) {
+  ExpectWithin(Check(Bundled(), {.shape = "WT5X6", .Lx = 6, .Ly = 6, .Lz = 6, .Lb = 0})->m_phiMnx, 7.32);
+}
+
 // G.1 and G.6: shear of W-shapes along y (web) and along x (flanges).
 TEST(AiscShear, WShapesAlongYAndXOfExamplesG1AndG6) {
   // G.1A: W24X62, Aw = d tw = 10.2 in2, phi-v = 1.00, Cv = 1.0: phi-Vn = 306 kips.

@@ -1,32 +1,61 @@
 #pragma once
+#include <functional>
 #include <iosfwd>
 #include <string>
-#include <vector>
 
-// norvane-cli: one command per engine family. A command gets its arguments after its own
-// name and returns the exit status: 0 done, 1 refused by the engine, 2 bad usage.
+#include <CLI/CLI.hpp>
+
+// norvane-cli: one command per engine family, parsed with CLI11. A family adds its command in
+// src/apps/cli/<family>_command.cpp with an Add<Family>Command(Program&) listed in main.cpp.
+// Options bind to a struct the action captures; numbers are taken as text and read with
+// tools::Parse* so that every locale reads them alike and a bad one gets the command's own message.
+// Name an option's value (->type_name("LIST")); a positional's own name says what it is.
 namespace cli {
-
-using Args = std::vector<std::string>;
-
-struct Command {
-  const char* name;
-  const char* usage;  // one or more lines, shown by "norvane-cli help"
-  int (*run)(const Args& args, std::ostream& out, std::ostream& err);
-};
 
 // Exit statuses.
 inline constexpr int kOk = 0;
 inline constexpr int kRefused = 1;
 inline constexpr int kUsage = 2;
 
-int UnitsCommand(const Args& args, std::ostream& out, std::ostream& err);
-int CombosCommand(const Args& args, std::ostream& out, std::ostream& err);
-int GridCommand(const Args& args, std::ostream& out, std::ostream& err);
-int KFactorCommand(const Args& args, std::ostream& out, std::ostream& err);
-int CylinderCommand(const Args& args, std::ostream& out, std::ostream& err);
-int SectionCommand(const Args& args, std::ostream& out, std::ostream& err);
-int ShapesCommand(const Args& args, std::ostream& out, std::ostream& err);
-int ReportCommand(const Args& args, std::ostream& out, std::ostream& err);
+// The streams an action writes to; it returns the exit status.
+struct Io {
+  std::ostream& out;
+  std::ostream& err;
+};
+using Action = std::function<int(Io io)>;
+
+class Program {
+ public:
+  Program();
+  CLI::App& root() { return app_; }
+
+  // A command (or a verb of a command) under `parent`. Once the whole line has parsed, the
+  // chosen command's action runs and its result is the exit status. A parent with verbs but
+  // no action of its own gets none (pass nullptr): its verbs are then required.
+  CLI::App* Add(CLI::App& parent, const std::string& name, const std::string& description, Action action);
+
+  // Parses and runs: 0 and help on stdout for --help and --version; 2 and the message with the
+  // command's help on stderr for a line that does not parse; what the action returns otherwise
+  // (1 with the message when it throws).
+  int Run(int argc, const char* const* argv, std::ostream& out, std::ostream& err);
+
+ private:
+  CLI::App app_;
+  Action chosen_;
+};
+
+// A command's help with its whole name ("Usage: norvane-cli units convert ..."), to follow a
+// message about its arguments.
+std::string Help(const CLI::App& command);
+
+void AddUnitsCommand(Program& program);
+void AddCombosCommand(Program& program);
+void AddGridCommand(Program& program);
+void AddKFactorCommand(Program& program);
+void AddCylinderCommand(Program& program);
+void AddSectionCommand(Program& program);
+void AddShapesCommand(Program& program);
+void AddReportCommand(Program& program);
+void AddSpectrumCommand(Program& program);
 
 }  // namespace cli

@@ -1,4 +1,6 @@
+#include <memory>
 #include <ostream>
+#include <string>
 
 #include "apps/cli/cli.h"
 #include "dialogs/loads/load_combinations.h"
@@ -9,11 +11,6 @@
 
 namespace cli {
 namespace {
-
-constexpr const char* kUsageText =
-    "usage: norvane-cli combos codes\n"
-    "       norvane-cli combos list CODE\n"
-    "       norvane-cli combos generate MODEL CODE [--rows all|1,3,5-8] [--pdelta] [-o OUT]\n";
 
 const loads::StdCombCode* ParseCode(const std::string& text, std::ostream& err) {
   const auto index = tools::ParseInt32(text);
@@ -54,8 +51,8 @@ int Codes(std::ostream& out) {
   return kOk;
 }
 
-int List(const Args& args, std::ostream& out, std::ostream& err) {
-  const loads::StdCombCode* code = ParseCode(args[1], err);
+int List(const std::string& codeText, std::ostream& out, std::ostream& err) {
+  const loads::StdCombCode* code = ParseCode(codeText, err);
   if (!code) return kUsage;
   for (const loads::StdComb& row : code->rows) out << loads::StdCombLine(row) << "\n";
   return kOk;
@@ -72,37 +69,21 @@ std::string Flags(const fmLoadComb& c) {
   return flags.empty() ? "" : "  [" + flags + "]";
 }
 
-int Generate(const Args& args, std::ostream& out, std::ostream& err) {
-  std::string modelPath, codeText, rowsText = "all", outPath;
+struct GenerateArgs {
+  std::string model, code, rows = "all", out;
   bool pdelta = false;
-  std::vector<std::string> positional;
-  for (size_t i = 1; i < args.size(); ++i) {
-    const std::string& a = args[i];
-    if ((a == "--rows" || a == "-o") && i + 1 < args.size()) {
-      (a == "--rows" ? rowsText : outPath) = args[++i];
-    } else if (a == "--pdelta") {
-      pdelta = true;
-    } else if (!a.empty() && a[0] == '-' && !tools::ParseInt32(a)) {
-      err << "norvane-cli: unknown or incomplete option \"" << a << "\"\n" << kUsageText;
-      return kUsage;
-    } else {
-      positional.push_back(a);
-    }
-  }
-  if (positional.size() != 2) {
-    err << kUsageText;
-    return kUsage;
-  }
-  modelPath = positional[0];
-  const loads::StdCombCode* code = ParseCode(positional[1], err);
+};
+
+int Generate(const GenerateArgs& a, std::ostream& out, std::ostream& err) {
+  const loads::StdCombCode* code = ParseCode(a.code, err);
   if (!code) return kUsage;
   std::vector<int32_t> checks;
-  if (!ParseRows(rowsText, code->rows.size(), checks, err)) return kUsage;
+  if (!ParseRows(a.rows, code->rows.size(), checks, err)) return kUsage;
 
-  model::ModelDocument doc = model::LoadModelDocument(modelPath);
+  model::ModelDocument doc = model::LoadModelDocument(a.model);
   const size_t before = doc.loadCombs.size();
   const loads::GenerateResult result =
-      loads::GenerateStandardCombinations(doc.loadCases, doc.loadCombs, *code, checks, pdelta);
+      loads::GenerateStandardCombinations(doc.loadCases, doc.loadCombs, *code, checks, a.pdelta);
   if (result.refused) {
     err << result.message << "\n";
     return kRefused;
@@ -114,23 +95,38 @@ int Generate(const Args& args, std::ostream& out, std::ostream& err) {
   }
   out << tools::Format("%zu load combination%s generated from %s.\n", result.added, result.added == 1 ? "" : "s",
                        code->title);
-  if (outPath.empty()) {
+  if (a.out.empty()) {
     err << "norvane-cli: model not written (give -o OUT to save it)\n";
   } else {
-    model::SaveModelDocument(doc, outPath);
-    out << "Written to " << outPath << "\n";
+    model::SaveModelDocument(doc, a.out);
+    out << "Written to " << a.out << "\n";
   }
   return kOk;
 }
 
 }  // namespace
 
-int CombosCommand(const Args& args, std::ostream& out, std::ostream& err) {
-  if (args.size() == 1 && args[0] == "codes") return Codes(out);
-  if (args.size() == 2 && args[0] == "list") return List(args, out, err);
-  if (!args.empty() && args[0] == "generate") return Generate(args, out, err);
-  err << kUsageText;
-  return kUsage;
+void AddCombosCommand(Program& program) {
+  CLI::App* combos =
+      program.Add(program.root(), "combos", "standard load combinations of the design codes", nullptr);
+  program.Add(*combos, "codes", "the design codes: index, name, number of combinations",
+              [](Io io) { return Codes(io.out); });
+  auto code = std::make_shared<std::string>();
+  program
+      .Add(*combos, "list", "the code's combinations as the check list shows them",
+           [code](Io io) { return List(*code, io.out, io.err); })
+      ->add_option("CODE", *code, "the code's index (see: combos codes)")
+      ->required();
+  auto a = std::make_shared<GenerateArgs>();
+  CLI::App* generate =
+      program.Add(*combos, "generate", "add the code's standard combinations to the model",
+                  [a](Io io) { return Generate(*a, io.out, io.err); });
+  generate->add_option("MODEL", a->model, "the model document")->required();
+  generate->add_option("CODE", a->code, "the code's index (see: combos codes)")->required();
+  generate->add_option("--rows", a->rows, "all, or row numbers from 1 as list prints them: 1,3,5-8")
+      ->type_name("ROWS");
+  generate->add_flag("--pdelta", a->pdelta, "flag the new combinations for P-Delta analysis");
+  generate->add_option("-o", a->out, "write the model with its new combinations to OUT")->type_name("OUT");
 }
 
 }  // namespace cli

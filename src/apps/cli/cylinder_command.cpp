@@ -1,4 +1,7 @@
+#include <memory>
 #include <ostream>
+#include <string>
+#include <tuple>
 #include <sstream>
 
 #include "apps/cli/cli.h"
@@ -10,11 +13,6 @@
 
 namespace cli {
 namespace {
-
-const char* kCylinderUsage =
-    "usage: norvane-cli cylinder [--radial LIST] [--angles LIST] [--axial LIST] [--insert X,Y,Z]\n"
-    "                            [--axis X|Y|Z] [--rotate DEGREES] [--supports none|pinned|fixed]\n"
-    "                            [--no-members] [--first-node ID] [--first-member ID] [--output FILE]\n";
 
 std::string Coordinate(double v) { return tools::Format("%.12g", v); }
 
@@ -33,64 +31,57 @@ std::string Listing(const geometry::CylindricalFrame& f) {
   return s.str();
 }
 
-}  // namespace
-
-int CylinderCommand(const Args& args, std::ostream& out, std::ostream& err) {
+// The texts of the options that need reading, each checked when given.
+struct CylinderArgs {
   geometry::CylindricalFrameParameters p;
+  bool noMembers = false;
+  std::string insert, axis, rotate, supports, firstNode, firstMember, output;
+  const CLI::App* command = nullptr;
+  bool Given(const std::string& option) const { return command->count(option) > 0; }
+};
+
+int Cylinder(CylinderArgs a, std::ostream& out, std::ostream& err) {
+  geometry::CylindricalFrameParameters& p = a.p;
+  p.generateMembers = !a.noMembers;
   uint32_t firstNode = 1, firstMember = 1;
-  std::string output;
-  auto bad = [&err](const std::string& what) {
-    err << "norvane-cli: " << what << "\n" << kCylinderUsage;
+  auto bad = [&err, &a](const std::string& what) {
+    err << "norvane-cli: " << what << "\n" << Help(*a.command);
     return kUsage;
   };
-  for (size_t i = 0; i < args.size(); ++i) {
-    const std::string& a = args[i];
-    if (a == "--help" || a == "-h") {
-      out << kCylinderUsage;
-      return kOk;
-    }
-    if (a == "--no-members") {
-      p.generateMembers = false;
-      continue;
-    }
-    if (i + 1 >= args.size()) return bad(a + " needs a value");
-    const std::string& v = args[++i];
-    if (a == "--radial") {
-      p.radialList = v;
-    } else if (a == "--angles") {
-      p.angleList = v;
-    } else if (a == "--axial") {
-      p.axialList = v;
-    } else if (a == "--insert") {
-      const auto xyz = tools::ParseList(v);
-      if (!xyz.ok() || xyz.values.size() != 3) return bad("--insert needs three numbers X,Y,Z, not \"" + v + "\"");
-      p.insertX = xyz.values[0], p.insertY = xyz.values[1], p.insertZ = xyz.values[2];
-    } else if (a == "--axis") {
-      const std::string axes[] = {"X", "Y", "Z"};
-      p.rotationAxis = -1;
-      for (int k = 0; k < 3; ++k)
-        if (tools::EqualsNoCase(v, axes[k])) p.rotationAxis = k;
-      if (p.rotationAxis < 0) return bad("--axis must be X, Y or Z, not \"" + v + "\"");
-    } else if (a == "--rotate") {
-      const auto angle = tools::ParseDouble(v);
-      if (!angle) return bad("--rotate needs an angle in degrees, not \"" + v + "\"");
-      p.rotationAngle = *angle;
-    } else if (a == "--supports") {
-      p.supports = -1;
-      for (int k = 0; k < 3; ++k)
-        if (tools::EqualsNoCase(v, geometry::SupportKindName(static_cast<geometry::SupportKind>(k)))) p.supports = k;
-      if (p.supports < 0) return bad("--supports must be none, pinned or fixed, not \"" + v + "\"");
-    } else if (a == "--first-node" || a == "--first-member") {
-      const auto id = tools::ParseUInt32(v);
-      if (!id || *id == 0 || *id > kMaxId)
-        return bad(a + " needs a whole number from 1 to 2147483647, not \"" + v + "\"");
-      (a == "--first-node" ? firstNode : firstMember) = *id;
-    } else if (a == "--output") {
-      output = v;
-    } else {
-      return bad("unknown option " + a);
-    }
+  if (a.Given("--insert")) {
+    const auto xyz = tools::ParseList(a.insert);
+    if (!xyz.ok() || xyz.values.size() != 3)
+      return bad("--insert needs three numbers X,Y,Z, not \"" + a.insert + "\"");
+    p.insertX = xyz.values[0], p.insertY = xyz.values[1], p.insertZ = xyz.values[2];
   }
+  if (a.Given("--axis")) {
+    const std::string axes[] = {"X", "Y", "Z"};
+    p.rotationAxis = -1;
+    for (int k = 0; k < 3; ++k)
+      if (tools::EqualsNoCase(a.axis, axes[k])) p.rotationAxis = k;
+    if (p.rotationAxis < 0) return bad("--axis must be X, Y or Z, not \"" + a.axis + "\"");
+  }
+  if (a.Given("--rotate")) {
+    const auto angle = tools::ParseDouble(a.rotate);
+    if (!angle) return bad("--rotate needs an angle in degrees, not \"" + a.rotate + "\"");
+    p.rotationAngle = *angle;
+  }
+  if (a.Given("--supports")) {
+    p.supports = -1;
+    for (int k = 0; k < 3; ++k)
+      if (tools::EqualsNoCase(a.supports, geometry::SupportKindName(static_cast<geometry::SupportKind>(k))))
+        p.supports = k;
+    if (p.supports < 0) return bad("--supports must be none, pinned or fixed, not \"" + a.supports + "\"");
+  }
+  for (const auto& [option, text, id] : {std::tuple{"--first-node", &a.firstNode, &firstNode},
+                                         std::tuple{"--first-member", &a.firstMember, &firstMember}}) {
+    if (!a.Given(option)) continue;
+    const auto value = tools::ParseUInt32(*text);
+    if (!value || *value == 0 || *value > kMaxId)
+      return bad(std::string(option) + " needs a whole number from 1 to 2147483647, not \"" + *text + "\"");
+    *id = *value;
+  }
+  const std::string& output = a.output;
 
   const geometry::CylindricalFrameResult r = geometry::GenerateCylindricalFrame(p, firstNode, firstMember);
   if (!r.ok()) {
@@ -106,6 +97,26 @@ int CylinderCommand(const Args& args, std::ostream& out, std::ostream& err) {
   out << "Wrote " << output << " (" << Count(r.frame.nodes.size(), "node") << ", "
       << Count(r.frame.members.size(), "member") << ", " << Count(r.frame.supports.size(), "support") << ")\n";
   return kOk;
+}
+
+}  // namespace
+
+void AddCylinderCommand(Program& program) {
+  auto a = std::make_shared<CylinderArgs>();
+  CLI::App* c = program.Add(program.root(), "cylinder", "nodes, members and supports of a cylindrical frame",
+                            [a](Io io) { return Cylinder(*a, io.out, io.err); });
+  a->command = c;
+  c->add_option("--radial", a->p.radialList, "radial distances")->type_name("LIST")->capture_default_str();
+  c->add_option("--angles", a->p.angleList, "angle increments in degrees")->type_name("LIST")->capture_default_str();
+  c->add_option("--axial", a->p.axialList, "distances along the axis between levels")->type_name("LIST");
+  c->add_option("--insert", a->insert, "insertion point")->type_name("X,Y,Z");
+  c->add_option("--axis", a->axis, "axis of the cylinder")->type_name("X|Y|Z");
+  c->add_option("--rotate", a->rotate, "rotation about the axis")->type_name("DEGREES");
+  c->add_option("--supports", a->supports, "supports at the base level")->type_name("none|pinned|fixed");
+  c->add_flag("--no-members", a->noMembers, "nodes (and supports) only");
+  c->add_option("--first-node", a->firstNode, "id of the first node (1 by default)")->type_name("ID");
+  c->add_option("--first-member", a->firstMember, "id of the first member (1 by default)")->type_name("ID");
+  c->add_option("--output", a->output, "write the listing to FILE instead of stdout")->type_name("FILE");
 }
 
 }  // namespace cli

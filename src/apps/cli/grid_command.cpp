@@ -1,4 +1,6 @@
+#include <memory>
 #include <ostream>
+#include <string>
 
 #include "apps/cli/cli.h"
 #include "dialogs/grid/export.h"
@@ -41,34 +43,22 @@ const GridTable kTables[] = {
      [](const model::ModelDocument& doc, grid::Sheet& sheet) { FillElements(doc, doc.bricks, sheet); }},
 };
 
-const char* kUsageText = "usage: norvane-cli grid export MODEL TABLE OUT [--append]\n";
-
 std::string TableNames() {
   std::string names;
   for (const auto& t : kTables) names += std::string(names.empty() ? "" : ", ") + t.name;
   return names;
 }
 
-int Export(const Args& args, std::ostream& out, std::ostream& err) {
-  std::vector<std::string> positional;
+struct ExportArgs {
+  std::string model, table, out;
   bool append = false;
-  for (size_t i = 1; i < args.size(); ++i) {
-    if (args[i] == "--append") {
-      append = true;
-    } else if (args[i].starts_with("--")) {
-      err << "norvane-cli: unknown option " << args[i] << "\n" << kUsageText;
-      return kUsage;
-    } else {
-      positional.push_back(args[i]);
-    }
-  }
-  if (positional.size() != 3) {
-    err << kUsageText;
-    return kUsage;
-  }
-  const std::string& modelPath = positional[0];
-  const std::string& tableName = positional[1];
-  const std::string& outPath = positional[2];
+};
+
+int Export(const ExportArgs& a, std::ostream& out, std::ostream& err) {
+  const std::string& modelPath = a.model;
+  const std::string& tableName = a.table;
+  const std::string& outPath = a.out;
+  const bool append = a.append;
 
   const GridTable* table = nullptr;
   for (const auto& t : kTables)
@@ -101,10 +91,15 @@ int Export(const Args& args, std::ostream& out, std::ostream& err) {
 
 }  // namespace
 
-int GridCommand(const Args& args, std::ostream& out, std::ostream& err) {
-  if (!args.empty() && args[0] == "export") return Export(args, out, err);
-  err << kUsageText;
-  return kUsage;
+void AddGridCommand(Program& program) {
+  CLI::App* grid = program.Add(program.root(), "grid", "the model's tables as their dialogs fill them", nullptr);
+  auto a = std::make_shared<ExportArgs>();
+  CLI::App* exportTable = program.Add(*grid, "export", "save a table of the model as .htm, .txt, .xls or .xlsx",
+                                      [a](Io io) { return Export(*a, io.out, io.err); });
+  exportTable->add_option("MODEL", a->model, "the model document")->required();
+  exportTable->add_option("TABLE", a->table, "one of " + TableNames())->required();
+  exportTable->add_option("OUT", a->out, "the file; its extension chooses the format")->required();
+  exportTable->add_flag("--append", a->append, "add to an existing .htm or .txt file");
 }
 
 }  // namespace cli

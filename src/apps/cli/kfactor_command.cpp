@@ -1,4 +1,7 @@
+#include <array>
+#include <memory>
 #include <ostream>
+#include <string>
 
 #include "apps/cli/cli.h"
 #include "dialogs/design/effective_length.h"
@@ -7,11 +10,9 @@
 
 namespace cli {
 
-int KFactorCommand(const Args& args, std::ostream& out, std::ostream& err) {
-  if (args.size() != 2) {
-    err << "usage: norvane-cli kfactor GA GB\n";
-    return kUsage;
-  }
+namespace {
+
+int KFactor(const std::array<std::string, 2>& args, std::ostream& out, std::ostream& err) {
   double g[2] = {0, 0};
   const char* names[2] = {"GA", "GB"};
   for (int i = 0; i < 2; ++i) {
@@ -31,6 +32,17 @@ int KFactorCommand(const Args& args, std::ostream& out, std::ostream& err) {
     failed = failed || !r.k;
   }
   return failed ? kRefused : kOk;
+}
+
+}  // namespace
+
+void AddKFactorCommand(Program& program) {
+  auto g = std::make_shared<std::array<std::string, 2>>();
+  CLI::App* kfactor =
+      program.Add(program.root(), "kfactor", "effective length factor K of a braced and an unbraced column",
+                  [g](Io io) { return KFactor(*g, io.out, io.err); });
+  kfactor->add_option("GA", (*g)[0], "stiffness ratio at one end, 0 to 1000")->required();
+  kfactor->add_option("GB", (*g)[1], "stiffness ratio at the other end, 0 to 1000")->required();
 }
 
 }  // namespace cli

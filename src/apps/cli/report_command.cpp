@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <memory>
 #include <ostream>
+#include <string>
 
 #include "apps/cli/cli.h"
 #include "dialogs/grid/export.h"
@@ -14,9 +16,6 @@
 namespace cli {
 namespace {
 
-const char* kUsageText =
-    "usage: norvane-cli report MODEL KIND [--case N|--mode N] [--query ID] [--selected] [-o OUT]\n";
-
 struct Options {
   std::string model;
   int kind = -1;
@@ -26,56 +25,36 @@ struct Options {
   std::string out;
 };
 
-bool Parse(const Args& args, Options& o, std::ostream& err) {
-  std::vector<std::string> positional;
-  bool numberGiven = false;
-  for (size_t i = 0; i < args.size(); ++i) {
-    const std::string& a = args[i];
-    auto number = [&](int& value) {
-      if (i + 1 >= args.size()) {
-        err << "norvane-cli: " << a << " needs a value\n" << kUsageText;
-        return false;
-      }
-      const auto n = tools::ParseInt32(args[++i]);
-      if (!n) {
-        err << "norvane-cli: " << a << " needs a whole number, not \"" << args[i] << "\"\n";
-        return false;
-      }
-      value = *n;
-      return true;
-    };
-    if (a == "--case" || a == "--mode") {
-      if (numberGiven) {
-        err << "norvane-cli: give one of --case and --mode\n" << kUsageText;
-        return false;
-      }
-      numberGiven = true;
-      if (!number(o.number)) return false;
-    } else if (a == "--query") {
-      if (!number(o.query)) return false;
-    } else if (a == "--selected") {
-      o.selected = true;
-    } else if (a == "-o") {
-      if (i + 1 >= args.size()) {
-        err << "norvane-cli: -o needs a file\n" << kUsageText;
-        return false;
-      }
-      o.out = args[++i];
-    } else if (a.starts_with("-") && a.size() > 1 && !tools::ParseInt32(a)) {
-      err << "norvane-cli: unknown option " << a << "\n" << kUsageText;
-      return false;
-    } else {
-      positional.push_back(a);
-    }
-  }
-  if (positional.size() != 2) {
-    err << kUsageText;
+// The texts as given; Parse reads the numbers.
+struct ReportArgs {
+  std::string model, kind, caseNumber, modeNumber, query, out;
+  bool selected = false;
+  const CLI::App* command = nullptr;
+};
+
+bool Parse(const ReportArgs& a, Options& o, std::ostream& err) {
+  const auto given = [&a](const char* option) { return a.command->count(option) > 0; };
+  if (given("--case") && given("--mode")) {
+    err << "norvane-cli: give one of --case and --mode\n" << Help(*a.command);
     return false;
   }
-  o.model = positional[0];
-  const auto kind = tools::ParseInt32(positional[1]);
+  const std::pair<const char*, std::pair<const std::string*, int*>> numbers[] = {
+      {"--case", {&a.caseNumber, &o.number}}, {"--mode", {&a.modeNumber, &o.number}}, {"--query", {&a.query, &o.query}}};
+  for (const auto& [option, target] : numbers) {
+    if (!given(option)) continue;
+    const auto n = tools::ParseInt32(*target.first);
+    if (!n) {
+      err << "norvane-cli: " << option << " needs a whole number, not \"" << *target.first << "\"\n";
+      return false;
+    }
+    *target.second = *n;
+  }
+  o.model = a.model;
+  o.selected = a.selected;
+  o.out = a.out;
+  const auto kind = tools::ParseInt32(a.kind);
   if (!kind) {
-    err << "norvane-cli: the report kind must be a whole number, not \"" << positional[1] << "\"\n";
+    err << "norvane-cli: the report kind must be a whole number, not \"" << a.kind << "\"\n";
     return false;
   }
   o.kind = *kind;
@@ -103,11 +82,9 @@ void WriteAligned(const grid::Sheet& sheet, std::ostream& out) {
   }
 }
 
-}  // namespace
-
-int ReportCommand(const Args& args, std::ostream& out, std::ostream& err) {
+int Report(const ReportArgs& a, std::ostream& out, std::ostream& err) {
   Options o;
-  if (!Parse(args, o, err)) return kUsage;
+  if (!Parse(a, o, err)) return kUsage;
   if (o.kind < 0 || o.kind > results::kLastReportKind) {
     err << "norvane-cli: there is no report kind " << o.kind << " (kinds are 0 to " << results::kLastReportKind
         << ")\n";
@@ -174,6 +151,28 @@ int ReportCommand(const Args& args, std::ostream& out, std::ostream& err) {
   else
     WriteAligned(sheet, out);
   return kOk;
+}
+
+}  // namespace
+
+void AddReportCommand(Program& program) {
+  auto a = std::make_shared<ReportArgs>();
+  CLI::App* report = program.Add(program.root(), "report", "a results report of the model",
+                                 [a](Io io) { return Report(*a, io.out, io.err); });
+  a->command = report;
+  report->add_option("MODEL", a->model, "the model document with its results")->required();
+  report->add_option("KIND", a->kind,
+                     "the results dialog's report kind, e.g. 0 displacements, 1 support reactions, "
+                     "55 displacement envelope")
+      ->required();
+  report->add_option("--case", a->caseNumber, "the load case or combination as the combo box numbers it (the first "
+                                             "when omitted)")
+      ->type_name("N");
+  report->add_option("--mode", a->modeNumber, "the mode, for the modal kinds")->type_name("N");
+  report->add_option("--query", a->query, "the object of an information sheet (the first node when omitted)")
+      ->type_name("ID");
+  report->add_flag("--selected", a->selected, "only the objects the model has selected");
+  report->add_option("-o", a->out, "write .htm, .txt, .xls or .xlsx instead of aligned text")->type_name("OUT");
 }
 
 }  // namespace cli

@@ -1,5 +1,8 @@
 #include <array>
+#include <memory>
 #include <ostream>
+#include <string>
+#include <vector>
 
 #include "apps/cli/cli.h"
 #include "dialogs/design/regular_section.h"
@@ -9,28 +12,26 @@
 namespace cli {
 namespace {
 
-constexpr const char* kUsageText =
-    "usage: norvane-cli section rect WIDTH DEPTH\n"
-    "       norvane-cli section round DIAMETER\n"
-    "       norvane-cli section wideflange FLANGE_WIDTH DEPTH FLANGE_THICKNESS WEB_THICKNESS\n"
-    "       norvane-cli section tee FLANGE_WIDTH DEPTH FLANGE_THICKNESS WEB_THICKNESS\n";
+struct RegularShape {
+  const char* name;
+  const char* description;
+  std::vector<const char*> dimensions;
+};
 
-}  // namespace
+// In the calculator's order of types.
+const RegularShape kShapes[] = {
+    {"rect", "a solid rectangle", {"WIDTH", "DEPTH"}},
+    {"round", "a round bar", {"DIAMETER"}},
+    {"wideflange", "a wide flange", {"FLANGE_WIDTH", "DEPTH", "FLANGE_THICKNESS", "WEB_THICKNESS"}},
+    {"tee", "a tee", {"FLANGE_WIDTH", "DEPTH", "FLANGE_THICKNESS", "WEB_THICKNESS"}},
+};
 
-int SectionCommand(const Args& args, std::ostream& out, std::ostream& err) {
-  static constexpr const char* kTypes[] = {"rect", "round", "wideflange", "tee"};
-  int type = -1;
-  for (int t = 0; t < design::kRegularSectionTypeCount && !args.empty(); ++t)
-    if (tools::EqualsNoCase(args[0], kTypes[t])) type = t;
-  if (type < 0 || args.size() != 1 + static_cast<size_t>(design::DimensionCount(type))) {
-    err << kUsageText;
-    return kUsage;
-  }
+int Section(int type, const std::vector<std::string>& texts, std::ostream& out, std::ostream& err) {
   // The boxes a shape does not use hold the smallest dimension, as in the dialog.
   std::array<double, 4> dims{design::kMinDimension, design::kMinDimension, design::kMinDimension,
                              design::kMinDimension};
-  for (size_t i = 1; i < args.size(); ++i) {
-    const auto v = tools::ParseDouble(args[i]);
+  for (size_t i = 0; i < texts.size(); ++i) {
+    const auto v = tools::ParseDouble(texts[i]);
     if (!v) {
       err << "Please enter a number.\n";
       return kRefused;
@@ -39,7 +40,7 @@ int SectionCommand(const Args& args, std::ostream& out, std::ostream& err) {
       err << tools::Format("Please enter a number between %g and %g.\n", design::kMinDimension, design::kMaxDimension);
       return kRefused;
     }
-    dims[i - 1] = *v;
+    dims[i] = *v;
   }
   if (const std::string refusal = design::CheckRegularSection(type, dims); !refusal.empty()) {
     err << refusal << "\n";
@@ -51,6 +52,21 @@ int SectionCommand(const Args& args, std::ostream& out, std::ostream& err) {
                                                    {"J", s.J}, {"b", s.b},   {"d", s.d},   {"tf", s.tf}, {"tw", s.tw}};
   for (const auto& [name, value] : fields) out << name << " " << tools::FormatG(value) << "\n";
   return kOk;
+}
+
+}  // namespace
+
+void AddSectionCommand(Program& program) {
+  CLI::App* section = program.Add(program.root(), "section", "properties of a regular section", nullptr);
+  section->ignore_case();
+  for (int type = 0; type < design::kRegularSectionTypeCount; ++type) {
+    const RegularShape& shape = kShapes[type];
+    auto texts = std::make_shared<std::vector<std::string>>(shape.dimensions.size());
+    CLI::App* command = program.Add(*section, shape.name, std::string("properties of ") + shape.description,
+                                    [type, texts](Io io) { return Section(type, *texts, io.out, io.err); });
+    for (size_t i = 0; i < shape.dimensions.size(); ++i)
+      command->add_option(shape.dimensions[i], (*texts)[i])->required();
+  }
 }
 
 }  // namespace cli

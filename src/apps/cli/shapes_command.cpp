@@ -1,4 +1,7 @@
+#include <functional>
+#include <memory>
 #include <ostream>
+#include <string>
 
 #include "apps/cli/cli.h"
 #include "tools/fm_exception.h"
@@ -10,13 +13,6 @@
 namespace cli {
 namespace {
 
-constexpr const char* kUsageText =
-    "usage: norvane-cli shapes list [TYPE]\n"
-    "       norvane-cli shapes show LABEL\n"
-    "       norvane-cli shapes import FILE.csv\n"
-    "       norvane-cli shapes export FILE.csv\n"
-    "       norvane-cli shapes bundle DATA_DIR\n";
-
 const tools::AiscLibrary* Library(std::ostream& err) {
   const tools::AiscLibrary* lib = tools::CurrentAiscLibrary();
   if (!lib)
@@ -25,17 +21,17 @@ const tools::AiscLibrary* Library(std::ostream& err) {
   return lib;
 }
 
-int List(const Args& args, std::ostream& out, std::ostream& err) {
+int List(const std::string& type, std::ostream& out, std::ostream& err) {
   const tools::AiscLibrary* lib = Library(err);
   if (!lib) return kRefused;
   size_t listed = 0;
   for (const auto& s : lib->shapes()) {
-    if (args.size() == 2 && !tools::EqualsNoCase(s.type, args[1])) continue;
+    if (!type.empty() && !tools::EqualsNoCase(s.type, type)) continue;
     out << s.label << "\n";
     ++listed;
   }
   if (listed == 0) {
-    err << "norvane-cli: no shapes of type \"" << args[1] << "\"\n";
+    err << "norvane-cli: no shapes of type \"" << type << "\"\n";
     return kRefused;
   }
   return kOk;
@@ -60,36 +56,57 @@ int Show(const std::string& label, std::ostream& out, std::ostream& err) {
   return kOk;
 }
 
+int Import(const std::string& path, std::ostream& out) {
+  tools::ascii_binary(path);
+  const tools::AiscLibrary* lib = tools::CurrentAiscLibrary();
+  out << "Imported " << (lib ? lib->size() : 0) << " shapes into \"" << tools::ActiveAiscDirectory() << "\"\n";
+  return kOk;
+}
+
+int Export(const std::string& path, std::ostream& out) {
+  tools::binary_ascii(path);
+  out << "Exported " << tools::CurrentAiscLibrary()->size() << " shapes to \"" << path << "\"\n";
+  return kOk;
+}
+
+int Bundle(const std::string& folder, std::ostream& out) {
+  tools::WriteBundledTables(folder);
+  out << "Wrote " << tools::kAiscIndexFile << ", " << tools::kAiscTableFile << " and " << tools::kNdsTableFile
+      << " in \"" << folder << "\"\n";
+  return kOk;
+}
+
+// The library's refusals (a bad csv line, an unreadable table) are the engine's texts.
+Action Refusing(std::function<int(Io)> run) {
+  return [run](Io io) {
+    try {
+      return run(io);
+    } catch (const fmException& e) {
+      io.err << e.what() << "\n";
+      return kRefused;
+    }
+  };
+}
+
 }  // namespace
 
-int ShapesCommand(const Args& args, std::ostream& out, std::ostream& err) {
-  const std::string verb = args.empty() ? "" : args[0];
-  try {
-    if (verb == "list" && args.size() <= 2) return List(args, out, err);
-    if (verb == "show" && args.size() == 2) return Show(args[1], out, err);
-    if (verb == "import" && args.size() == 2) {
-      tools::ascii_binary(args[1]);
-      const tools::AiscLibrary* lib = tools::CurrentAiscLibrary();
-      out << "Imported " << (lib ? lib->size() : 0) << " shapes into \"" << tools::ActiveAiscDirectory() << "\"\n";
-      return kOk;
-    }
-    if (verb == "export" && args.size() == 2) {
-      tools::binary_ascii(args[1]);
-      out << "Exported " << tools::CurrentAiscLibrary()->size() << " shapes to \"" << args[1] << "\"\n";
-      return kOk;
-    }
-    if (verb == "bundle" && args.size() == 2) {
-      tools::WriteBundledTables(args[1]);
-      out << "Wrote " << tools::kAiscIndexFile << ", " << tools::kAiscTableFile << " and " << tools::kNdsTableFile
-          << " in \"" << args[1] << "\"\n";
-      return kOk;
-    }
-  } catch (const fmException& e) {
-    err << e.what() << "\n";
-    return kRefused;
-  }
-  err << kUsageText;
-  return kUsage;
+void AddShapesCommand(Program& program) {
+  CLI::App* shapes = program.Add(program.root(), "shapes", "the steel shape library", nullptr);
+  const auto arg = [&](const char* verb, const char* description, const char* name, const char* help,
+                       bool required, int (*run)(const std::string&, std::ostream&, std::ostream&)) {
+    auto text = std::make_shared<std::string>();
+    CLI::App* command =
+        program.Add(*shapes, verb, description, Refusing([text, run](Io io) { return run(*text, io.out, io.err); }));
+    command->add_option(name, *text, help)->required(required);
+  };
+  arg("list", "labels of the steel shape library", "TYPE", "only shapes of this type, e.g. HSS", false, List);
+  arg("show", "one shape's table properties", "LABEL", "the shape, e.g. W14X90", true, Show);
+  arg("import", "replace the library from a csv file", "FILE", "the csv file", true,
+      [](const std::string& path, std::ostream& out, std::ostream&) { return Import(path, out); });
+  arg("export", "write the library to a csv file", "FILE", "the csv file", true,
+      [](const std::string& path, std::ostream& out, std::ostream&) { return Export(path, out); });
+  arg("bundle", "build the bundled library files from their source", "DATA_DIR", "the data folder", true,
+      [](const std::string& folder, std::ostream& out, std::ostream&) { return Bundle(folder, out); });
 }
 
 }  // namespace cli

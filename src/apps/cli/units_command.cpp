@@ -1,5 +1,7 @@
 #include <cmath>
+#include <memory>
 #include <ostream>
+#include <string>
 
 #include "apps/cli/cli.h"
 #include "tools/format.h"
@@ -17,19 +19,19 @@ int List(std::ostream& out) {
   return kOk;
 }
 
-int Convert(const Args& args, std::ostream& out, std::ostream& err) {
-  if (args.size() != 4) {
-    err << "usage: norvane-cli units convert VALUE FROM TO\n";
-    return kUsage;
-  }
-  const auto value = tools::ParseDouble(args[1]);
+struct ConvertArgs {
+  std::string value, from, to;
+};
+
+int Convert(const ConvertArgs& a, std::ostream& out, std::ostream& err) {
+  const auto value = tools::ParseDouble(a.value);
   if (!value) {
-    err << "norvane-cli: \"" << args[1] << "\" is not a number\n";
+    err << "norvane-cli: \"" << a.value << "\" is not a number\n";
     return kUsage;
   }
-  const int from = tools::FindUnitLabel(args[2]);
-  const int to = tools::FindUnitLabel(args[3]);
-  for (const auto& [index, label] : {std::pair{from, args[2]}, std::pair{to, args[3]}}) {
+  const int from = tools::FindUnitLabel(a.from);
+  const int to = tools::FindUnitLabel(a.to);
+  for (const auto& [index, label] : {std::pair{from, a.from}, std::pair{to, a.to}}) {
     if (index < 0) {
       err << "norvane-cli: unknown unit \"" << label << "\" (see: norvane-cli units list)\n";
       return kUsage;
@@ -40,13 +42,13 @@ int Convert(const Args& args, std::ostream& out, std::ostream& err) {
   // Moments per radian and per degree are one kind, as the rotational spring list offers them.
   const auto kind = [](int g) { return g == tools::kMomentPerDegreeGroup ? int(tools::kMomentPerRadianGroup) : g; };
   if (kind(fromGroup) != kind(toGroup)) {
-    err << "norvane-cli: cannot convert \"" << args[2] << "\" (" << groups[fromGroup].name << ") to \"" << args[3]
+    err << "norvane-cli: cannot convert \"" << a.from << "\" (" << groups[fromGroup].name << ") to \"" << a.to
         << "\" (" << groups[toGroup].name << ")\n";
     return kUsage;
   }
   const double result = tools::ConvertUnits(*value, from, to);
   if (!std::isfinite(result)) {
-    err << "norvane-cli: " << args[1] << " " << args[2] << " is too large to express in " << args[3] << "\n";
+    err << "norvane-cli: " << a.value << " " << a.from << " is too large to express in " << a.to << "\n";
     return kRefused;
   }
   out << tools::Format("%.7g", result) << "\n";
@@ -55,11 +57,15 @@ int Convert(const Args& args, std::ostream& out, std::ostream& err) {
 
 }  // namespace
 
-int UnitsCommand(const Args& args, std::ostream& out, std::ostream& err) {
-  if (!args.empty() && args[0] == "list" && args.size() == 1) return List(out);
-  if (!args.empty() && args[0] == "convert") return Convert(args, out, err);
-  err << "usage: norvane-cli units list\n       norvane-cli units convert VALUE FROM TO\n";
-  return kUsage;
+void AddUnitsCommand(Program& program) {
+  CLI::App* units = program.Add(program.root(), "units", "unit labels and conversions", nullptr);
+  program.Add(*units, "list", "every unit label with its index and factor", [](Io io) { return List(io.out); });
+  auto a = std::make_shared<ConvertArgs>();
+  CLI::App* convert = program.Add(*units, "convert", "convert VALUE between two units of one kind",
+                                  [a](Io io) { return Convert(*a, io.out, io.err); });
+  convert->add_option("VALUE", a->value, "the number to convert")->required();
+  convert->add_option("FROM", a->from, "its unit label, e.g. kip-ft")->required();
+  convert->add_option("TO", a->to, "the unit label to express it in, e.g. kN-m")->required();
 }
 
 }  // namespace cli

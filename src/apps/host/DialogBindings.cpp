@@ -37,4 +37,5 @@ void RegisterAllBindings() {
   RegisterGridBindings();
   RegisterSectionsBindings();
   RegisterResultsBindings();
+  RegisterSpectraBindings();
 }

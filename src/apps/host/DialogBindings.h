@@ -31,4 +31,5 @@ void RegisterGeometryBindings();
 void RegisterGridBindings();
 void RegisterSectionsBindings();
 void RegisterResultsBindings();
+void RegisterSpectraBindings();
 void RegisterAllBindings();

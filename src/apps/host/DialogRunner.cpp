@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QPrinter>
 #include <QPushButton>
+#include <functional>
 #include <iostream>
 
 #include "apps/host/DialogBindings.h"
@@ -14,6 +15,7 @@
 #include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
 #include "dialogs/grid/CDataGridDlg.h"
+#include "dialogs/results/CResultsDlg.h"
 
 std::unique_ptr<CDialog> CreateBoundDialog(const std::string& className, HostModel& model, QWidget* parent) {
   const DialogClassInfo* info = FindDialogClass(className);
@@ -123,17 +125,26 @@ bool PrintDialogGridToPdf(const std::string& className, HostModel& model, const 
     error = "Unknown dialog class \"" + className + "\"";
     return false;
   }
-  auto* gridDlg = dynamic_cast<CDataGridDlg*>(dlg.get());
-  if (!gridDlg) {
+  // The dialogs whose "Print..." prints their table: the data grids and the results reports.
+  TSpread* spread = nullptr;
+  std::function<std::string()> title;
+  if (auto* gridDlg = dynamic_cast<CDataGridDlg*>(dlg.get())) {
+    spread = &gridDlg->Spread();
+    title = [gridDlg] { return gridDlg->PrintTitle(); };
+  } else if (auto* resultsDlg = dynamic_cast<CResultsDlg*>(dlg.get())) {
+    spread = &resultsDlg->Spread();
+    title = [resultsDlg] { return resultsDlg->windowTitle().toStdString(); };
+  }
+  if (!spread) {
     error = className + " has no table to print";
     return false;
   }
-  gridDlg->InitDialogForTest();
+  dlg->InitDialogForTest();
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(QStringLiteral("Norvane"));
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(QString::fromStdString(pdfPath));
-  if (!gridDlg->Spread().PrintBlock(printer, grid::Block{}, gridDlg->PrintTitle(), pages)) {
+  if (!spread->PrintBlock(printer, grid::Block{}, title(), pages)) {
     error = "Cannot write \"" + pdfPath + "\"";
     return false;
   }

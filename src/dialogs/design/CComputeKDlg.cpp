@@ -47,8 +47,8 @@ void CComputeKDlg::ShowResults() {
   auto shown = [](double k, bool failed) {
     return failed ? res::LoadStringOr(kStrNoRoot, "No root") : tools::Format("%.2f", k);
   };
-  SetDlgItemText(kCtlBracedK, shown(m_dBracedK, bracedFailed_));
-  SetDlgItemText(kCtlUnbracedK, shown(m_dUnbracedK, unbracedFailed_));
+  SetDlgItemText(kCtlBracedK, shown(m_dBracedK, m_bBracedKFailed));
+  SetDlgItemText(kCtlUnbracedK, shown(m_dUnbracedK, m_bUnbracedKFailed));
 }
 
 void CComputeKDlg::OnCompute() {
@@ -59,8 +59,8 @@ void CComputeKDlg::OnCompute() {
   // solver would have.
   m_dBracedK = braced.k.value_or(1.0);
   m_dUnbracedK = unbraced.k.value_or(1.0);
-  bracedFailed_ = !braced.k;
-  unbracedFailed_ = !unbraced.k;
+  m_bBracedKFailed = !braced.k;
+  m_bUnbracedKFailed = !unbraced.k;
   computedFor_ = std::pair{m_dGA, m_dGB};
   UpdateData(0);
   if (chart_) chart_->Plot(m_dGA, m_dGB, &braced, &unbraced);
@@ -84,7 +84,7 @@ void CComputeKDlg::OnRatioEdited() {
   if (computedFor_) {
     computedFor_.reset();
     m_dBracedK = m_dUnbracedK = 1.0;
-    bracedFailed_ = unbracedFailed_ = false;
+    m_bBracedKFailed = m_bUnbracedKFailed = 0;
     ShowResults();
   }
   if (chart_ && ga && gb && *ga >= design::kGMin && *ga <= design::kGMax && *gb >= design::kGMin &&

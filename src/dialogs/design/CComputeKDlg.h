@@ -15,10 +15,13 @@ class CComputeKDlg : public CDialog {
   explicit CComputeKDlg(QWidget* pParent = nullptr);
 
   // 1.0 until computed. A computation that finds no root in its bracket leaves its K at 1.0
-  // (shown as "No root"), so OK refuses a failed braced K and a host never takes a failed K
-  // for a result: a valid braced K lies in 0.51 to 0.99, a valid unbraced K in 1.01 to 20.
+  // (shown as "No root") and sets its failed flag: OK refuses a failed braced K, but passes a
+  // failed unbraced K with a good braced one, so a host reads m_bUnbracedKFailed before
+  // m_dUnbracedK. A valid braced K lies in 0.51 to 0.99, a valid unbraced K in 1.01 to 20.
   double m_dBracedK = 1.0;
   double m_dUnbracedK = 1.0;
+  BOOL m_bBracedKFailed = 0;    // the last Compute found no braced root
+  BOOL m_bUnbracedKFailed = 0;  // the last Compute found no unbraced root
   double m_dGA = 0.47;  // top joint, 0 to 1000
   double m_dGB = 0.47;  // bottom joint, 0 to 1000
 
@@ -37,7 +40,6 @@ class CComputeKDlg : public CDialog {
   void OnRatioEdited();
 
   KFactorChart* chart_ = nullptr;
-  bool bracedFailed_ = false, unbracedFailed_ = false;  // the last Compute found no root
   // The ratios the shown results belong to; editing either away from them clears the results.
   std::optional<std::pair<double, double>> computedFor_;
 };

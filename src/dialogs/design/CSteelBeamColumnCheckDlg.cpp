@@ -76,6 +76,12 @@ void CSteelBeamColumnCheckDlg::InitializeGrid() {
   widths[kColumns - 1] = 11;
   m_Spread.InitializeGrid(settings.alternateRowColor, kInitialRows, kColumns, headings, widths, false);
   for (int c = kFirstResultColumn; c <= kColumns; ++c) m_Spread.sheet().SetColumnLock(c, true);
+  if (static_cast<int>(m_LoadSets.size()) > kInitialRows) m_Spread.sheet().SetMaxRows(static_cast<int>(m_LoadSets.size()));
+  for (size_t i = 0; i < m_LoadSets.size(); ++i) {
+    const design::SteelLoadSet& l = m_LoadSets[i];
+    const double cells[] = {l.Pu, l.Mux, l.Muy, l.Vux, l.Vuy, l.Cmx, l.Cmy};
+    for (int c = 0; c < 7; ++c) m_Spread.sheet().SetData(c + 1, static_cast<int>(i + 1), tools::FormatG(cells[c]));
+  }
   m_Spread.Refresh();
   if (QTableView* view = m_Spread.view())
     QObject::connect(view->model(), &QAbstractItemModel::dataChanged, this, [this] { OnGridChange(); });

@@ -24,6 +24,8 @@ class CSteelBeamColumnCheckDlg : public CDialog {
   BOOL m_bConsiderMomentMagnification = 0;
   BOOL m_bUseDirectDesignMethod = 0;
   int32_t m_nCode = 0;  // "ANSI/AISC 360-10 LRFD"
+  // Load sets the grid shows when it opens (a host may pass member forces); none: an empty grid.
+  std::vector<design::SteelLoadSet> m_LoadSets;
   // Where the report is written; empty: the user's data folder (the preferences' data folder,
   // else the per-user data location).
   std::string m_strReportFolder;

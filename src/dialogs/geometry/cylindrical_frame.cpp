@@ -26,10 +26,24 @@ std::vector<double> DistinctRunningSums(double start, bool keepStart, const std:
   return sums;
 }
 
+// The levels: the base (0) and every running sum of the axis-direction list, lowest first,
+// equal ones merged. A list that steps back ("10,-10") returns to a level already made, and
+// two frames at one level would only give coincident nodes and members.
+std::vector<double> DistinctLevels(const std::vector<double>& increments) {
+  std::vector<double> levels = {0.0};
+  double sum = 0.0;
+  for (double d : increments) levels.push_back(sum += d);
+  std::sort(levels.begin(), levels.end());
+  std::vector<double> distinct;
+  for (double y : levels)
+    if (distinct.empty() || !tools::is_equal(y, distinct.back())) distinct.push_back(y);
+  return distinct;
+}
+
 struct Layout {
   std::vector<double> radii;   // distinct ring radii, the centre (0) first when present
   std::vector<double> angles;  // distinct angles in degrees; a full turn's 360 is left out
-  std::vector<double> levels;  // distinct distances along the axis, 0 first
+  std::vector<double> levels;  // distinct distances along the axis, lowest first
   bool centre = false;
   size_t NodesPerLevel() const { return (centre ? 1 : 0) + (radii.size() - (centre ? 1 : 0)) * angles.size(); }
   size_t NodeCount() const { return levels.size() * NodesPerLevel(); }
@@ -45,7 +59,7 @@ Layout MakeLayout(const CylinderCheck& check) {
     l.angles.push_back(sum);
   }
   if (check.closed) l.angles.pop_back();  // 360 is where the ring started
-  l.levels = DistinctRunningSums(0.0, true, check.axial);
+  l.levels = DistinctLevels(check.axial);
   return l;
 }
 
@@ -121,13 +135,11 @@ CylinderCheck CheckCylindricalFrameLists(std::string_view radialList, std::strin
     return refuse(CylinderList::Angle, kTotalAngleAbove360);
   }
 
-  for (double y : c.axial)
-    if (y < 0) return refuse(CylinderList::Axial, kNegativeAxialDistance);
-
   // Each value is finite, but their running sums may not be.
   const Layout layout = MakeLayout(c);
   if (!layout.radii.empty() && !std::isfinite(layout.radii.back())) return refuse(CylinderList::Radial, kRadiusTooLarge);
-  if (!std::isfinite(layout.levels.back())) return refuse(CylinderList::Axial, kLevelTooLarge);
+  if (!std::isfinite(layout.levels.front()) || !std::isfinite(layout.levels.back()))
+    return refuse(CylinderList::Axial, kLevelTooLarge);
 
   const size_t nodes = layout.NodeCount();
   if (nodes > kMaxGeneratedNodes)
@@ -164,13 +176,25 @@ CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters
   const size_t nodeCount = l.NodeCount();
   const size_t ringCount = l.radii.size() - (l.centre ? 1 : 0);
   const size_t angleCount = l.angles.size();
-  // Along each ring (one member only when a closed ring has two nodes), radially at each
-  // angle, and between levels at every node.
-  const size_t alongRing = check.closed && angleCount > 2 ? angleCount : angleCount - 1;
+  // Along each ring from angle to angle (one member only when a closed ring has two nodes).
+  std::vector<std::pair<size_t, size_t>> chords;
+  for (size_t a = 0; a + 1 < angleCount; ++a) chords.emplace_back(a, a + 1);
+  if (check.closed && angleCount > 2) chords.emplace_back(angleCount - 1, 0);
+  // A chord of half a turn runs through the centre: along the radial members and through the
+  // centre node or the nodes of the rings inside it. Only the innermost ring of a frame
+  // without a centre node may have it.
+  const auto halfTurn = [&](const std::pair<size_t, size_t>& c) {
+    double turn = l.angles[c.second] - l.angles[c.first];
+    if (turn < 0) turn += 360.0;
+    return tools::is_equal(turn, 180.0);
+  };
+  const size_t halfTurns = static_cast<size_t>(std::count_if(chords.begin(), chords.end(), halfTurn));
+  const size_t ringsWithNodesInside = l.centre ? ringCount : ringCount - 1;
+  const size_t alongRings = ringCount * chords.size() - ringsWithNodesInside * halfTurns;
+  // Then radially at each angle, and between levels at every node.
   const size_t radialPerLevel = (l.radii.size() - 1) * angleCount;
   const size_t memberCount =
-      p.generateMembers ? l.levels.size() * (ringCount * alongRing + radialPerLevel) + (l.levels.size() - 1) * perLevel
-                        : 0;
+      p.generateMembers ? l.levels.size() * (alongRings + radialPerLevel) + (l.levels.size() - 1) * perLevel : 0;
   if (firstNodeId == 0 || firstMemberId == 0 || firstNodeId - 1 + uint64_t{nodeCount} > kMaxId ||
       firstMemberId - 1 + uint64_t{memberCount} > kMaxId) {
     result.error = kIdsUsedUp;
@@ -233,10 +257,9 @@ CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters
     f.members.reserve(memberCount);
     const size_t firstRing = l.centre ? 1 : 0;
     for (size_t level = 0; level < l.levels.size(); ++level) {
-      for (size_t r = firstRing; r < l.radii.size(); ++r) {
-        for (size_t a = 0; a + 1 < angleCount; ++a) join(node(level, r, a), node(level, r, a + 1));
-        if (check.closed && angleCount > 2) join(node(level, r, angleCount - 1), node(level, r, 0));
-      }
+      for (size_t r = firstRing; r < l.radii.size(); ++r)
+        for (const auto& c : chords)
+          if (r == 0 || !halfTurn(c)) join(node(level, r, c.first), node(level, r, c.second));
       for (size_t a = 0; a < angleCount; ++a)
         for (size_t r = 0; r + 1 < l.radii.size(); ++r) join(node(level, r, a), node(level, r + 1, a));
       if (level == 0) continue;

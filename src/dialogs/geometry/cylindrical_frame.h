@@ -16,7 +16,8 @@ struct ModelDocument;
 //
 // Geometry. The lists are increments: ring radii are the running sums of the radial list
 // (a first 0 is the centre), angles the running sums of the angle list (always starting
-// at 0), levels the running sums of the axis-direction list after a base level at 0.
+// at 0), levels the base level 0 and the running sums of the axis-direction list, which may
+// step below the base or back to a level already made (equal levels are one level).
 // In the cylinder's own axes a node lies at (r cos a, y, -r sin a): angles turn about +Y by
 // the right-hand rule, starting on +X. The frame is then turned about the chosen global
 // axis (right-hand rule, degrees) about its base centre and moved to the insertion point.
@@ -30,7 +31,6 @@ inline constexpr const char* kZeroAngleIncrement = "Angle increment other than t
 inline constexpr const char* kClosedFrameNeedsTwoIncrements =
     "Closed cylindrical frame must have at least two angle increments (excluding 0 start angle)";
 inline constexpr const char* kTotalAngleAbove360 = "Total angle may not be greater than 360 degrees";
-inline constexpr const char* kNegativeAxialDistance = "Y direction distance may not be negative";
 inline constexpr const char* kRadiusTooLarge = "The radial distances add up to more than a number can hold";
 inline constexpr const char* kLevelTooLarge = "The Y direction distances add up to more than a number can hold";
 inline constexpr const char* kCoordinatesTooLarge =
@@ -54,9 +54,9 @@ struct CylinderCheck {
 // The dialog's checks on OK, in its order: parse the three lists; radial list empty or
 // negative; the leading 0 put in front of the angles; fewer than two angle values; a
 // negative or (after the first) zero angle; a closed frame (total 360 within 5e-7) with
-// fewer than two increments; a total above 360. Then the generator's own: a negative
-// distance along the axis, ring radii or levels that are not finite numbers once summed,
-// and a frame of more than kMaxGeneratedNodes nodes.
+// fewer than two increments; a total above 360. The axis-direction list is parsed but not
+// checked further. Then the generator's own: ring radii or levels that are not finite numbers
+// once summed, and a frame of more than kMaxGeneratedNodes nodes.
 CylinderCheck CheckCylindricalFrameLists(std::string_view radialList, std::string_view angleList,
                                          std::string_view axialList);
 
@@ -102,10 +102,12 @@ struct CylindricalFrameResult {
 };
 
 // Nodes are numbered from firstNodeId and members from firstMemberId, level by level from
-// the base; within a level the centre node first, then ring by ring outwards, each ring in
+// the lowest; within a level the centre node first, then ring by ring outwards, each ring in
 // angle order. Members of a level (along each ring, closing it on a full turn, then radially
-// outwards at each angle) come before the members that join it to the level below. With
-// supports, every node of the base level gets one.
+// outwards at each angle) come before the members that join it to the level below. No member
+// coincides with another or passes through a node: a ring member of half a turn would run
+// through the centre, so only the innermost ring of a frame without a centre node has one.
+// With supports, every node of the lowest level gets one.
 CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters& p, uint32_t firstNodeId,
                                                 uint32_t firstMemberId);
 

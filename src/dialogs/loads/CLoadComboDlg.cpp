@@ -109,13 +109,12 @@ void CLoadComboDlg::RunEditor(int index) {
   else
     dlg.m_comb = (*m_pLoadCombs)[static_cast<size_t>(index)];
   if (RunChildDialog(dlg) != IDOK) return;
-  if (index < 0) {
+  if (index < 0)
     m_pLoadCombs->push_back(std::move(dlg.m_comb));
-    index = static_cast<int>(m_pLoadCombs->size()) - 1;
-  } else {
+  else
     (*m_pLoadCombs)[static_cast<size_t>(index)] = std::move(dlg.m_comb);
-  }
-  Refresh(index);
+  // After every change the last row is selected, a modified one included.
+  Refresh(static_cast<int>(m_pLoadCombs->size()) - 1);
   Prompt2EnterSustainedLoadComb();
 }
 

@@ -74,6 +74,13 @@ void SetUpGrid(const ReportContext& ctx, int rows, const std::vector<std::string
 
 bool ShowSelected(const ReportContext& ctx) { return ctx.model.m_nShowSelected != 0; }
 
+// Every nodal report names a record it cannot match to a node of the model, and shows (and
+// sums) none of its values.
+void NodeNotFound(CellWriter& out, int row, int64_t id) {
+  out.Id(1, row, id);
+  out.Text(2, row, tools::Format("error finding node %ld", static_cast<long>(id)));
+}
+
 // Records of a node vector that get a row.
 template <class Shows>
 int CountShown(const std::vector<fmResult6Val>& records, bool selectedOnly, Shows shows) {
@@ -84,7 +91,7 @@ int CountShown(const std::vector<fmResult6Val>& records, bool selectedOnly, Show
 // "Node Id" and six values, the first three of one quantity and the last three of another.
 void SixValueReport(const ReportContext& ctx, const std::vector<fmResult6Val>& records,
                     const std::array<const char*, 6>& names, fmUnit::Quantity first, fmUnit::Quantity second) {
-  if (records.empty()) return;
+  // No records: no rows, but the headings all the same, so screen and exports agree.
   const CfmStruct& m = ctx.model;
   const bool selectedOnly = ShowSelected(ctx);
   auto shows = [&](int64_t node) { return m.IsNodeSelected(node); };
@@ -98,6 +105,10 @@ void SixValueReport(const ReportContext& ctx, const std::vector<fmResult6Val>& r
   for (const fmResult6Val& r : records) {
     if (selectedOnly && !shows(r.number)) continue;
     ++row;
+    if (!m.FindNode(r.number)) {
+      NodeNotFound(out, row, r.number);
+      continue;
+    }
     out.Id(1, row, r.number);
     for (int k = 0; k < 6; ++k) out.Value(2 + k, row, r.v[k], k < 3 ? a : b);
   }
@@ -115,16 +126,17 @@ void Node_Forces(const ReportContext& ctx, int /*mode*/, const std::vector<fmRes
 
 void Support_Reactions(const ReportContext& ctx, int caseIndex) {
   const std::vector<fmResult6Val>& reactions = ctx.model.GetResults(caseIndex).reactions;
-  if (reactions.empty()) return;
   const CfmStruct& m = ctx.model;
   const bool selectedOnly = ShowSelected(ctx);
   auto shows = [&](int64_t node) { return m.IsNodeSelected(node); };
-  const int rows = CountShown(reactions, selectedOnly, shows) + 1;
+  // No reactions: the headings without rows, and no sum of nothing.
+  const int rows = reactions.empty() ? 0 : CountShown(reactions, selectedOnly, shows) + 1;
   std::vector<std::string> headers = {"Node Id"};
   const char* names[] = {"Rx", "Ry", "Rz", "Rox", "Roy", "Roz"};
   for (int k = 0; k < 6; ++k) headers.push_back(m.m_Units.Heading(names[k], k < 3 ? kForce : kMoment));
   SetUpGrid(ctx, rows, headers, 13);
 
+  if (reactions.empty()) return;
   const Shown force = ShownAs(m, kForce), moment = ShownAs(m, kMoment);
   CellWriter out(ctx.sheet);
   std::array<double, 6> sum{};
@@ -132,6 +144,10 @@ void Support_Reactions(const ReportContext& ctx, int caseIndex) {
   for (const fmResult6Val& r : reactions) {
     if (selectedOnly && !shows(r.number)) continue;
     ++row;
+    if (!m.FindNode(r.number)) {
+      NodeNotFound(out, row, r.number);
+      continue;
+    }
     out.Id(1, row, r.number);
     for (int k = 0; k < 6; ++k) {
       const Shown& s = k < 3 ? force : moment;
@@ -177,7 +193,6 @@ void Spring_Reactions(const ReportContext& ctx, int caseIndex) {
       word = "shell4";
       break;
   }
-  if (records->empty()) return;
   auto exists = [&](int64_t id) {
     if (kind == SpringKind::Line) return m.FindMember(id) != nullptr;
     if (kind == SpringKind::Surface) return m.FindShell(id) != nullptr;
@@ -211,7 +226,6 @@ void Spring_Reactions(const ReportContext& ctx, int caseIndex) {
 
 void Multi_DOF_Constraint_Forces(const ReportContext& ctx, int caseIndex) {
   const fmCaseResults* results = &ctx.model.GetResults(caseIndex);
-  if (results->constraintForces.empty()) return;
   const CfmStruct& m = ctx.model;
   const bool selectedOnly = ShowSelected(ctx);
   // A constraint belongs to the selection when either of its nodes is selected.
@@ -229,6 +243,12 @@ void Multi_DOF_Constraint_Forces(const ReportContext& ctx, int caseIndex) {
   for (const fmConstraintForce& f : forces) {
     if (selectedOnly && !shows(f)) continue;
     ++row;
+    if (!m.FindNode(f.node[0]) || !m.FindNode(f.node[1])) {
+      const long missing = m.FindNode(f.node[0]) ? f.node[1] : f.node[0];
+      out.Id(1, row, f.id);
+      out.Text(2, row, tools::Format("error finding node %ld", missing));
+      continue;
+    }
     out.Id(1, row, f.id);
     for (int end = 0; end < 2; ++end) {
       const int col = 2 + 3 * end;
@@ -246,17 +266,19 @@ void Multi_DOF_Constraint_Forces(const ReportContext& ctx, int caseIndex) {
 void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<fmResult6Val>& displacements) {
   const CfmStruct& m = ctx.model;
   const std::vector<int32_t>& driftNodes = m.m_Solution.driftNodes;
-  if (driftNodes.empty() || displacements.empty()) return;
+  const bool nothing = driftNodes.empty() || displacements.empty();
   const bool selectedOnly = ShowSelected(ctx);
-  const int rows = selectedOnly ? static_cast<int>(std::count_if(driftNodes.begin(), driftNodes.end(),
-                                                                 [&](int32_t id) { return m.IsNodeSelected(id); }))
-                                : static_cast<int>(driftNodes.size());
+  const int rows = nothing        ? 0
+                   : selectedOnly ? static_cast<int>(std::count_if(driftNodes.begin(), driftNodes.end(),
+                                                                   [&](int32_t id) { return m.IsNodeSelected(id); }))
+                                  : static_cast<int>(driftNodes.size());
   const std::string length = m.m_Units.Label(fmUnit::Length);
   SetUpGrid(ctx, rows,
             {"Node Id", m.m_Units.Heading("Story Height", fmUnit::Length), m.m_Units.Heading("Dx", kDisplacement),
              m.m_Units.Heading("X Drift", kDisplacement), "X Drift Ratio", m.m_Units.Heading("Dz", kDisplacement),
              m.m_Units.Heading("Z Drift", kDisplacement), "Z Drift Ratio"},
             13);
+  if (nothing) return;
 
   model::IdIndex index;
   index.Build(displacements, [](const fmResult6Val& r) { return static_cast<int64_t>(r.number); });
@@ -278,10 +300,7 @@ void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<
     const fmNd* node = m.FindNode(id);
     const int64_t at = index.Find(id);
     if (!node || at < 0) {
-      if (shown) {
-        out.Id(1, row, id);
-        out.Text(2, row, tools::Format("error finding node %ld", static_cast<long>(id)));
-      }
+      if (shown) NodeNotFound(out, row, id);
       continue;
     }
     const fmResult6Val& r = displacements[static_cast<size_t>(at)];
@@ -310,13 +329,16 @@ namespace {
 
 void EnvelopeReport(const ReportContext& ctx, const std::vector<fmEnvelopeValue6>& envelope,
                     const std::array<const char*, 6>& names, fmUnit::Quantity first, fmUnit::Quantity second) {
-  if (envelope.empty()) return;
   const CfmStruct& m = ctx.model;
   const bool selectedOnly = ShowSelected(ctx);
   std::vector<const fmEnvelopeValue6*> shown;
+  std::vector<char> found;
   shown.reserve(envelope.size());
   for (const fmEnvelopeValue6& e : envelope)
-    if (!selectedOnly || m.IsNodeSelected(e.number)) shown.push_back(&e);
+    if (!selectedOnly || m.IsNodeSelected(e.number)) {
+      shown.push_back(&e);
+      found.push_back(m.FindNode(e.number) != nullptr);
+    }
   std::vector<std::string> headers = {"Node Id", "max/min"};
   for (int k = 0; k < 6; ++k) {
     headers.push_back(m.m_Units.Heading(names[k], k < 3 ? first : second));
@@ -335,7 +357,12 @@ void EnvelopeReport(const ReportContext& ctx, const std::vector<fmEnvelopeValue6
       const int count = static_cast<int>(std::min(kBlock, rangeEnd - begin));
       const fmEnvelopeValue6* const* block = shown.data() + begin;
       const int firstRow = 1 + 2 * static_cast<int>(begin);
+      const char* blockFound = found.data() + begin;
       for (int i = 0; i < count; ++i) {
+        if (!blockFound[i]) {
+          NodeNotFound(out, firstRow + 2 * i, block[i]->number);
+          continue;
+        }
         out.Id(1, firstRow + 2 * i, block[i]->number);
         out.Text(2, firstRow + 2 * i, "max");
         out.Text(2, firstRow + 2 * i + 1, "min");
@@ -343,10 +370,12 @@ void EnvelopeReport(const ReportContext& ctx, const std::vector<fmEnvelopeValue6
       for (int k = 0; k < 6; ++k) {
         const Shown& s = k < 3 ? a : b;
         for (int i = 0; i < count; ++i) {
+          if (!blockFound[i]) continue;
           out.Value(3 + 2 * k, firstRow + 2 * i, block[i]->max[k], s);
           out.Value(3 + 2 * k, firstRow + 2 * i + 1, block[i]->min[k], s);
         }
         for (int i = 0; i < count; ++i) {
+          if (!blockFound[i]) continue;
           out.Id(4 + 2 * k, firstRow + 2 * i, static_cast<int64_t>(block[i]->maxCase[k]) + 1);
           out.Id(4 + 2 * k, firstRow + 2 * i + 1, static_cast<int64_t>(block[i]->minCase[k]) + 1);
         }

@@ -94,21 +94,28 @@ ComboList ComboListOf(int kind) {
   return ComboList::Cases;
 }
 
-std::string ModeEntry(int modeNumber, double omega2) {
-  return tools::Format("Mode-%d: (Period=%.4g sec)", modeNumber, 6.283185308 / std::sqrt(omega2));
+template <class Mode>
+std::vector<std::string> ModeEntries(const std::vector<Mode>& modes) {
+  std::vector<double> omega2;
+  for (const Mode& m : modes) omega2.push_back(m.omega2);
+  std::vector<std::string> entries;
+  for (size_t i = 0; i < modes.size(); ++i) {
+    const int number = static_cast<int>(i + 1);
+    // Documents refuse eigenvalues below zero beyond round-off, so no period is ever "nan".
+    entries.push_back(IsRigidBodyMode(omega2[i], omega2)
+                          ? tools::Format("Mode-%d: (rigid-body mode, no period)", number)
+                          : tools::Format("Mode-%d: (Period=%.4g sec)", number, 6.283185308 / std::sqrt(omega2[i])));
+  }
+  return entries;
 }
 
 std::vector<std::string> ComboEntries(const CfmStruct& model, int kind) {
   std::vector<std::string> entries;
   switch (ComboListOf(kind)) {
     case ComboList::EigenModes:
-      for (size_t i = 0; i < model.m_Solution.eigenModes.size(); ++i)
-        entries.push_back(ModeEntry(static_cast<int>(i + 1), model.m_Solution.eigenModes[i].omega2));
-      break;
+      return ModeEntries(model.m_Solution.eigenModes);
     case ComboList::SpectrumModes:
-      for (size_t i = 0; i < model.m_Solution.spectrumModes.size(); ++i)
-        entries.push_back(ModeEntry(static_cast<int>(i + 1), model.m_Solution.spectrumModes[i].omega2));
-      break;
+      return ModeEntries(model.m_Solution.spectrumModes);
     case ComboList::Cases:
       for (int i = 0; i < model.GetNumLoadCases(); ++i)
         entries.push_back(tools::Format("%d: %s", i + 1, model.GetCaseName(i).c_str()));

@@ -17,10 +17,9 @@ std::string ReportTitle(int kind, const std::string& caseName, int modeNumber);
 enum class ComboList { Cases, EigenModes, SpectrumModes };
 ComboList ComboListOf(int kind);
 // The combo box's entries: "%d: %s" per load case or combination, or one
-// "Mode-%d: (Period=%.4g sec)" per mode.
+// "Mode-%d: (Period=%.4g sec)" per mode, the period 6.283185308 / sqrt(omega2); a rigid-body
+// mode (IsRigidBodyMode) reads "Mode-%d: (rigid-body mode, no period)".
 std::vector<std::string> ComboEntries(const CfmStruct& model, int kind);
-// The period is 6.283185308 / sqrt(omega2).
-std::string ModeEntry(int modeNumber, double omega2);
 // The label and window title the mode kinds set; empty for the others.
 std::string ComboLabelOf(int kind);
 std::string ModeListTitleOf(int kind);

@@ -45,7 +45,7 @@ TEST(CylinderCheck, AcceptsAndRefusesListsInTheDialogsOrder) {
       {"0", "0, 2@30", "", "", CylinderList::None},
       {"-5, 10", "0, 2@30", "", kNegativeRadialDistance, CylinderList::Radial},
       {"20,10", "0, 2@30", "", "", CylinderList::None},  // an empty axial list: one level
-      {"20,10", "0, 2@30", "2@-10", kNegativeAxialDistance, CylinderList::Axial},
+      {"20,10", "0, 2@30", "2@-10", "", CylinderList::None},  // levels below the base are allowed
       {"1e308, 1e308", "0, 90", "", kRadiusTooLarge, CylinderList::Radial},  // finite values, infinite sum
       {"10", "0, 90", "1e308, 1e308", kLevelTooLarge, CylinderList::Axial},
       {"10", "3@", "", "Angle increment list: \"3@\" (item 1) has no value after @", CylinderList::Angle},
@@ -82,6 +82,11 @@ TEST(CylindricalFrame, CountsNodesMembersAndSupports) {
       {"0, 10", "0, 3@120", "5", 2, 8, 2 * (3 + 3) + 4, 4, true},  // a centre node: spokes, one column each
       {"10", "0, 180, 180", "", 0, 2, 1, 0, true},        // a closed ring of two nodes: one member, not two
       {"10, 0", "0, 90", "0, 5, 0", 0, 4, 1 + 1 + 2, 0, false},  // zero increments merge rings and levels
+      {"20,10", "0, 2@30", "10,-10", 1, 12, 2 * 7 + 6, 6, false},  // back to the base: two levels, not three
+      // Half turns: a chord through the centre would lie on the spokes; the radial members join.
+      {"0, 10, 10", "0, 180, 179.9999996", "", 0, 5, 4, 0, true},
+      {"10, 10", "0, 180, 180", "", 0, 4, 1 + 2, 0, true},  // the inner chord crosses no node, the outer would
+      {"10", "0, 180, 90", "", 0, 3, 2, 0, false},          // a half-turn chord of a lone ring crosses nothing
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(std::string(c.radial) + " | " + c.angles + " | " + c.axial);
@@ -103,7 +108,28 @@ TEST(CylindricalFrame, CountsNodesMembersAndSupports) {
         const fmNd &a = f.nodes[i], &b = f.nodes[j];
         EXPECT_GT(std::hypot(a.x - b.x, a.y - b.y, a.z - b.z), 1e-9) << a.id << " and " << b.id << " coincide";
       }
+    // No member passes through a node it does not end at (nor so lies along another member).
+    const auto at = [&](uint32_t id) { return f.nodes[id - f.nodes.front().id]; };
+    for (const GeneratedMember& m : f.members) {
+      const fmNd a = at(m.nodeI), b = at(m.nodeJ);
+      const double ab[] = {b.x - a.x, b.y - a.y, b.z - a.z}, len2 = ab[0] * ab[0] + ab[1] * ab[1] + ab[2] * ab[2];
+      for (const fmNd& n : f.nodes) {
+        if (n.id == m.nodeI || n.id == m.nodeJ) continue;
+        const double t = ((n.x - a.x) * ab[0] + (n.y - a.y) * ab[1] + (n.z - a.z) * ab[2]) / len2;
+        const double off = std::hypot(a.x + t * ab[0] - n.x, a.y + t * ab[1] - n.y, a.z + t * ab[2] - n.z);
+        EXPECT_FALSE(t > 0 && t < 1 && off < 1e-6) << "member " << m.id << " passes through node " << n.id;
+      }
+    }
   }
+}
+
+TEST(CylindricalFrame, LevelsBelowTheBaseStackFromTheLowestWhichTakesTheSupports) {
+  const CylindricalFrame f = Generate(Params("10", "0, 2@90", "-12, 4", 2));
+  ASSERT_EQ(f.nodes.size(), 9u);
+  const double levels[] = {-12, -8, 0};
+  for (size_t i = 0; i < 9; ++i) EXPECT_EQ(f.nodes[i].y, levels[i / 3]) << i;
+  ASSERT_EQ(f.supports.size(), 3u);
+  for (const GeneratedSupport& s : f.supports) EXPECT_EQ(f.nodes[s.node - 1].y, -12) << s.node;
 }
 
 TEST(CylindricalFrame, PlacesAndNumbersTheNodesAndMembers) {

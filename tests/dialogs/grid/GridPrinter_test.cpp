@@ -164,4 +164,12 @@ TEST(HostPrintToPdf, PrintsTheWholeTableOfAGridDialog) {
   EXPECT_EQ(r.status, 0) << r.err;
   EXPECT_EQ(r.out, "Wrote " + pdf + " (1 page)\n");
   EXPECT_NE(PdfPageText(pdf, 1).find("Page 1 of 1"), std::string::npos);
+
+  // A results report prints under its window title, as its "Print..." does.
+  const std::string report = dir / "reactions.pdf";
+  r = testsupport::RunProgram(NORVANE_HOST_PATH, {"--show", "CResultsDlg", "--kind", "1", "--print-to-pdf", report});
+  EXPECT_EQ(r.status, 0) << r.err;
+  const std::string text = PdfPageText(report, 1);
+  EXPECT_NE(text.find("Support Reactions - ["), std::string::npos) << text;
+  EXPECT_NE(text.find("Sum"), std::string::npos) << text;
 }

@@ -105,8 +105,8 @@ TEST_F(ComboDialogTest, AddProposesTheLabelOkAppendsCancelDoesNot) {
   EXPECT_EQ(combs.size(), 3u);
 }
 
-TEST_F(ComboDialogTest, ModifyEditsTheSelectedCombination) {
-  Open({"Default", "Service"});
+TEST_F(ComboDialogTest, ModifyEditsTheSelectedCombinationThenSelectsTheLastRow) {
+  Open({"Default", "Service", "Ultimate"});
   combs[1].items = {{"Dead", 1}, {"Gone", 2}};
   Select({1});
   dlg.child = Editor("Service SLS", {"1", "1"});
@@ -114,6 +114,7 @@ TEST_F(ComboDialogTest, ModifyEditsTheSelectedCombination) {
   EXPECT_EQ(seenLabel, "Service");
   EXPECT_EQ(combs[1].name, "Service SLS");
   EXPECT_EQ(combs[1].items, (std::vector<fmLoadCombItem>{{"Dead", 1}, {"Live", 1}}));  // "Gone" dropped
+  EXPECT_EQ(SelectedRow(), 2) << "after every change the last row is selected";
 }
 
 TEST_F(ComboDialogTest, CopyAndDeleteShowTheirRefusals) {

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "dialogs/grid/grid_ops.h"
 #include "dialogs/results/nodal_reports.h"
 #include "dialogs/results/sample_struct.h"
@@ -59,6 +61,56 @@ TEST_F(NodalReports, SupportReactionsEndWithARedSumOfTheRowsShown) {
   // The next report does not keep the red.
   Node_Displacements(Context(0), s.m_Solution.results[0].displacements);
   EXPECT_EQ(sheet.GetForeColor(1, 2), grid::kNoColor);
+}
+
+TEST_F(NodalReports, RowsOfNodesTheModelDoesNotHaveAreNamedAndNeverSummed) {
+  s.m_Solution.results[0].reactions.push_back({77, {0, 5, 0, 0, 0, 1}});
+  Support_Reactions(Context(1), 0);
+  ASSERT_EQ(sheet.MaxRows(), 4);
+  EXPECT_EQ(Row(3), (Cells{"77", "error finding node 77", "", "", "", "", ""}));
+  EXPECT_EQ(Row(4), (Cells{"Sum", "0.000", "30.000", "0.000", "0.000", "0.000", "0.000"}));
+
+  s.m_Solution.results[0].displacements.push_back({77, {1, 1, 1, 1, 1, 1}});
+  Node_Displacements(Context(0), s.m_Solution.results[0].displacements);
+  EXPECT_EQ(Row(5), (Cells{"77", "error finding node 77", "", "", "", "", ""}));
+
+  s.m_Solution.results[0].constraintForces = {{5, {3, 78}, {0, 5}, {1.25, -2.5}}};
+  Multi_DOF_Constraint_Forces(Context(51), 0);
+  EXPECT_EQ(Row(1), (Cells{"5", "error finding node 78", "", "", "", "", ""}));
+
+  s.m_Solution.envelopeCombinations = {"Dead"};
+  Support_Reactions_Envelope(Context(56));
+  ASSERT_EQ(sheet.MaxRows(), 6);
+  EXPECT_EQ(Row(5)[0] + "|" + Row(5)[1] + "|" + Row(5)[2], "77|error finding node 77|");
+  EXPECT_EQ(Row(6)[1] + Row(6)[2], "");
+}
+
+TEST_F(NodalReports, AReportWithNoRecordsKeepsItsHeadingsAndHasNoRows) {
+  s.m_Solution = fmSolution();
+  s.m_Solution.cases = {fmLoadCase(1, "Dead", "Dead-D")};
+  s.m_Solution.results.resize(1);
+  s.m_Solution.driftNodes = {3};
+  const std::pair<std::function<void()>, const char*> reports[] = {
+      {[&] { Node_Displacements(Context(0), {}); }, "Node Id|Dx [in]|Dy [in]|Dz [in]|Dox [rad]|Doy [rad]|Doz [rad]"},
+      {[&] { Node_Forces(Context(38), 0, {}); }, "Node Id|Fx [kip]|Fy [kip]|Fz [kip]|Mx [kip-ft]|My [kip-ft]|Mz [kip-ft]"},
+      {[&] { Support_Reactions(Context(1), 0); }, "Node Id|Rx [kip]|Ry [kip]|Rz [kip]|Rox [kip-ft]|Roy [kip-ft]|Roz [kip-ft]"},
+      {[&] { Spring_Reactions(Context(4), 0); }, "Member Id|SRx [kip]|SRy [kip]|SRz [kip]|SRox [kip-ft]|SRoy [kip-ft]|SRoz [kip-ft]"},
+      {[&] { Multi_DOF_Constraint_Forces(Context(51), 0); },
+       "Constraint Id|Node-1|DOF-1|Value-1 [kip or kip-ft]|Node-2|DOF-2|Value-2 [kip or kip-ft]"},
+      {[&] { Story_Drift(Context(33), 0, {}); },
+       "Node Id|Story Height [ft]|Dx [in]|X Drift [in]|X Drift Ratio|Dz [in]|Z Drift [in]|Z Drift Ratio"},
+      {[&] { Node_Displacements_Envelope(Context(55)); },
+       "Node Id|max/min|Dx [in]|Comb#|Dy [in]|Comb#|Dz [in]|Comb#|Dox [rad]|Comb#|Doy [rad]|Comb#|Doz [rad]|Comb#"},
+      {[&] { Support_Reactions_Envelope(Context(56)); },
+       "Node Id|max/min|Rx [kip]|Comb#|Ry [kip]|Comb#|Rz [kip]|Comb#|Rox [kip-ft]|Comb#|Roy [kip-ft]|Comb#|Roz [kip-ft]|Comb#"},
+  };
+  for (const auto& [report, headings] : reports) {
+    report();
+    std::string joined;
+    for (const std::string& h : Row(0)) joined += (joined.empty() ? "" : "|") + h;
+    EXPECT_EQ(joined, headings);
+    EXPECT_EQ(sheet.MaxRows(), 0) << headings;
+  }
 }
 
 TEST_F(NodalReports, SpringKindsListTheirOwnSpringsAndNameMissingElements) {

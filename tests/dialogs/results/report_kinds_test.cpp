@@ -41,6 +41,12 @@ TEST(ReportKinds, ComboEntriesForCasesAndModes) {
   EXPECT_EQ(ComboEntries(s, 21), (std::vector<std::string>{"Mode-1: (Period=1 sec)", "Mode-2: (Period=0.5 sec)",
                                                            "Mode-3: (Period=3.142 sec)"}));
   EXPECT_EQ(ComboEntries(s, 37), (std::vector<std::string>{"Mode-1: (Period=1 sec)"}));  // the spectrum's modes
+
+  // A zero eigenvalue, or one below zero by round-off of the largest, is a rigid-body mode.
+  s.m_Solution.eigenModes = {{0.0, {}}, {-2e-7, {}}, {0.4, {}}};
+  EXPECT_EQ(ComboEntries(s, 21), (std::vector<std::string>{"Mode-1: (rigid-body mode, no period)",
+                                                           "Mode-2: (rigid-body mode, no period)",
+                                                           "Mode-3: (Period=9.935 sec)"}));
 }
 
 TEST(BuildReport, DispatchesEachKindToItsBuilderWithTheComboChoice) {

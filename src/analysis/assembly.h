@@ -1,0 +1,61 @@
+#pragma once
+#include <Eigen/Sparse>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "analysis/frame_member.h"
+#include "analysis/model.h"
+
+// The global stiffness of a model over all six degrees of freedom of every node (upper
+// triangle), the numbering of the free equations, and the load vectors of the load cases.
+namespace analysis {
+
+using SparseMatrix = Eigen::SparseMatrix<double, Eigen::ColMajor, int>;
+using Progress = std::function<void(const std::string& stage, double fraction)>;
+
+// Global degree of freedom 6 * node + dof.
+inline size_t GlobalDof(size_t node, int dof) { return 6 * node + static_cast<size_t>(dof); }
+
+struct DofNumbering {
+  std::vector<int> equation;  // per global degree of freedom: free equation number, or -1
+  std::vector<size_t> freeDofs;  // per equation: its global degree of freedom
+  std::vector<size_t> autoHeld;  // global degrees of freedom no element stiffens
+};
+
+// Which members take part (tension-only and compression-only members drop out while slack).
+using MemberActivity = std::vector<char>;
+
+struct GlobalStiffness {
+  SparseMatrix full;  // upper triangle, 6 × nodes square
+  DofNumbering numbering;
+  SparseMatrix free;  // upper triangle of the free equations
+};
+
+// Assembles every element, spring, constraint and diaphragm; supports are held and the
+// degrees of freedom that nothing stiffens are held automatically (listed in autoHeld).
+GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& active);
+
+// The applied load vector of a load case over all degrees of freedom: nodal loads and the
+// equivalent nodal loads of element loads and self weight.
+Eigen::VectorXd CaseLoadVector(const Model& model, size_t caseIndex);
+
+// A member's loads of one case in its local axes (self weight included).
+LocalMemberLoads MemberLoadsOfCase(const Model& model, size_t member, size_t caseIndex);
+// A combination's loads on one member: the factored loads of its cases.
+LocalMemberLoads MemberLoadsOfTerms(const Model& model, size_t member,
+                                    const std::vector<std::pair<size_t, double>>& terms);
+
+// What a rigid link stands on: a million times the stiffest member's rigidities.
+Rigidities RigidLinkRigidities(const Model& model);
+// The member's matrices in local axes; a rigid link takes `rigidLink`.
+LocalMember MemberMatrices(const Model& model, size_t member, const LocalMemberLoads& loads,
+                           const Rigidities& rigidLink);
+
+// Masses lumped at the nodes: self weight over g and the additional masses (per global DOF).
+Eigen::VectorXd LumpedMasses(const Model& model);
+
+// "Node 12, Rz" for messages.
+std::string DofLabel(const Model& model, size_t globalDof);
+
+}  // namespace analysis

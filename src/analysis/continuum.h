@@ -1,0 +1,29 @@
+#pragma once
+#include <Eigen/Dense>
+#include <array>
+
+#include "analysis/model.h"
+
+// Four-node shells and eight-node bricks: stiffness in global axes and equivalent nodal loads.
+namespace analysis {
+
+using Matrix24 = Eigen::Matrix<double, 24, 24>;
+using Vector24 = Eigen::Matrix<double, 24, 1>;
+
+// Rows are the shell's local x, y, z (its normal) in global coordinates.
+Eigen::Matrix3d ShellAxes(const Model& model, const Shell& shell);
+// Over the shell's 4 nodes × 6 degrees of freedom.
+Matrix24 ShellStiffness(const Model& model, const Shell& shell);
+// The area each node carries (∫ N_a dA).
+std::array<double, 4> ShellNodalAreas(const Model& model, const Shell& shell);
+// A uniform pressure given as a global vector (force per area).
+Vector24 ShellPressureLoads(const Model& model, const Shell& shell, const Eigen::Vector3d& pressure);
+// A free in-plane strain held by the nodes.
+Vector24 ShellThermalLoads(const Model& model, const Shell& shell, double strain);
+
+// Over the brick's 8 nodes × 3 translations.
+Matrix24 BrickStiffness(const Model& model, const Brick& brick);
+std::array<double, 8> BrickNodalVolumes(const Model& model, const Brick& brick);
+Vector24 BrickThermalLoads(const Model& model, const Brick& brick, double strain);
+
+}  // namespace analysis
