@@ -26,6 +26,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kLoadsResources,
       &kResultsResources,
       &kSpectraResources,
+      &GeneratedResources(),
   };
   return tables;
 }

@@ -44,21 +44,11 @@ inline constexpr int kCtlStdSelectAll = 24144;
 inline constexpr int kCtlStdClearAll = 24145;
 inline constexpr int kCtlStdPDelta = 24146;
 
-// CCopyCaseLoadDlg.
-inline constexpr int kCtlCopyFromText = 24150;
-inline constexpr int kCtlCopyFrom = 24151;
-inline constexpr int kCtlCopyToText = 24152;
-inline constexpr int kCtlCopyTo = 24153;
-inline constexpr int kCtlCopyFactorText = 24154;
-inline constexpr int kCtlCopyFactor = 24155;
-inline constexpr int kCtlCopyDeleteExisting = 24156;
-
 // Strings.
 inline constexpr int kStrLoadCasesCaption = 24000;
 inline constexpr int kStrLoadCombosCaption = 24001;
 inline constexpr int kStrLoadComboCaption = 24002;
 inline constexpr int kStrStdCombosCaption = 24003;
-inline constexpr int kStrCopyLoadsCaption = 24004;
 inline constexpr int kStrCaseNote = 24010;
 inline constexpr int kStrCaseDeleteRows = 24011;
 inline constexpr int kStrComboListHeadings = 24020;
@@ -81,10 +71,5 @@ inline constexpr int kStrStdList = 24041;
 inline constexpr int kStrStdSelectAll = 24042;
 inline constexpr int kStrStdClearAll = 24043;
 inline constexpr int kStrStdPDelta = 24044;
-inline constexpr int kStrCopyFrom = 24050;
-inline constexpr int kStrCopyTo = 24051;
-inline constexpr int kStrCopyFactor = 24052;
-inline constexpr int kStrCopyDeleteExisting = 24053;
-inline constexpr int kStrClose = 24060;
 
 }  // namespace res

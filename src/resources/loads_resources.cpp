@@ -16,7 +16,6 @@ const StringEntry kStrings[] = {
     {kStrLoadCombosCaption, "Load Combinations"},
     {kStrLoadComboCaption, "Load Combination"},
     {kStrStdCombosCaption, "Standard Load Combinations"},
-    {kStrCopyLoadsCaption, "Copy Loads"},
     {kStrCaseNote, "The optional load types are used in forming standard load combinations"},
     {kStrCaseDeleteRows, "Delete Rows"},
     {kStrComboListHeadings, "Combinations\tP-Delta\tSteel Design\tConcrete Design\tTotal Load Defl.\tLive Load Defl."},
@@ -39,11 +38,6 @@ const StringEntry kStrings[] = {
     {kStrStdSelectAll, "Select All"},
     {kStrStdClearAll, "Clear All"},
     {kStrStdPDelta, "Perform P-Delta Analyses on the load combinations"},
-    {kStrCopyFrom, "From:"},
-    {kStrCopyTo, "To:"},
-    {kStrCopyFactor, "Multiplied by:"},
-    {kStrCopyDeleteExisting, "Delete existing loads in the target load case"},
-    {kStrClose, "Close"},
 };
 
 // The load case table: the grid with the data-grid buttons on the right and the note on
@@ -117,23 +111,7 @@ const DialogTemplate kStdLoadCombination = {
     },
     560, 480};
 
-const DialogTemplate kCopyCaseLoad = {
-    kTplCopyCaseLoad, kStrCopyLoadsCaption, "Copy Loads",
-    {
-        {kCtlCopyFromText, K::Static, kStrCopyFrom, "From:", 0, 0},
-        {kCtlCopyFrom, K::DropList, 0, "", 0, 1, 1, 1, 0, kStretchCol},
-        {kCtlCopyToText, K::Static, kStrCopyTo, "To:", 1, 0},
-        {kCtlCopyTo, K::DropList, 0, "", 1, 1},
-        {kCtlCopyFactorText, K::Static, kStrCopyFactor, "Multiplied by:", 2, 0},
-        {kCtlCopyFactor, K::Edit, 0, "1", 2, 1},
-        {kCtlCopyDeleteExisting, K::Check, kStrCopyDeleteExisting, "Delete existing loads", 3, 0, 1, 2},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
-    },
-    380, 0};
-
-const DialogTemplate* const kTemplates[] = {&kLoadCase, &kLoadCombo, &kLoadComboItem, &kStdLoadCombination,
-                                            &kCopyCaseLoad};
+const DialogTemplate* const kTemplates[] = {&kLoadCase, &kLoadCombo, &kLoadComboItem, &kStdLoadCombination};
 
 }  // namespace
 

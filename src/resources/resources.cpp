@@ -1,7 +1,8 @@
 #include "resources/resources.h"
 
 #include <algorithm>
-#include <mutex>
+#include <deque>
+#include <map>
 
 namespace res {
 namespace {
@@ -16,7 +17,57 @@ Chain& GetChain() {
   return chain;
 }
 
+struct Generated {
+  ResourceTable table{"generated", {}, {}};
+  std::vector<std::unique_ptr<const DialogTemplate>> owned;
+  std::vector<const DialogTemplate*> templates;
+  std::deque<std::string> texts;  // stable addresses for the entries
+  std::vector<StringEntry> strings;
+  std::map<int, size_t> stringIndex;
+  std::vector<std::string> conflicts;
+
+  void Refresh() {
+    table.strings = strings;
+    table.templates = templates;
+  }
+};
+
+Generated& GetGenerated() {
+  static Generated generated;
+  return generated;
+}
+
 }  // namespace
+
+const ResourceTable& GeneratedResources() { return GetGenerated().table; }
+
+void AddGeneratedTemplate(std::unique_ptr<const DialogTemplate> tmpl) {
+  Generated& g = GetGenerated();
+  const auto same = std::find_if(g.templates.begin(), g.templates.end(),
+                                 [&](const DialogTemplate* t) { return t->id == tmpl->id; });
+  if (same != g.templates.end())
+    *same = tmpl.get();
+  else
+    g.templates.push_back(tmpl.get());
+  g.owned.push_back(std::move(tmpl));
+  g.Refresh();
+}
+
+void AddGeneratedString(int id, std::string text) {
+  Generated& g = GetGenerated();
+  if (const auto it = g.stringIndex.find(id); it != g.stringIndex.end()) {
+    if (g.strings[it->second].text != text)
+      g.conflicts.push_back("string " + std::to_string(id) + ": \"" + g.strings[it->second].text + "\" and \"" +
+                            text + "\"");
+    return;
+  }
+  g.texts.push_back(std::move(text));
+  g.stringIndex[id] = g.strings.size();
+  g.strings.push_back({id, g.texts.back().c_str()});
+  g.Refresh();
+}
+
+std::span<const std::string> GeneratedStringConflicts() { return GetGenerated().conflicts; }
 
 const Control* DialogTemplate::FindControl(int controlId) const {
   for (const Control& c : controls)

@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -86,7 +87,16 @@ std::optional<std::string> LoadString(int stringId);
 std::string LoadStringOr(int stringId, std::string_view fallback);
 const DialogTemplate* FindTemplate(int templateId);
 
-// The library's own tables, one per dialog family.
+// The library's own tables, one per dialog family, and last the generated one.
 std::span<const ResourceTable* const> LibraryResourceTables();
+
+// The table of templates and strings made from the dialogs' form descriptions when they are
+// first used (at the latest when the library registers its classes). A template replaces
+// one of its id; a string already there with the same text is kept once, and one with
+// another text is recorded as a conflict (a fault the resource tests look for).
+const ResourceTable& GeneratedResources();
+void AddGeneratedTemplate(std::unique_ptr<const DialogTemplate> tmpl);
+void AddGeneratedString(int id, std::string text);
+std::span<const std::string> GeneratedStringConflicts();
 
 }  // namespace res

@@ -2,6 +2,8 @@
 // Control and string ids of the units dialogs.
 namespace res {
 
+inline constexpr int kIddUnits = 3135;
+
 // CUnitsDlg: one row per quantity q (0 to 17) of label, unit list, precision list, check.
 inline constexpr int kCtlUnitsLabel = 21100;
 inline constexpr int kCtlUnitsUnit = 21120;
@@ -33,21 +35,11 @@ inline constexpr int kStrUnitsHeadPrecision = 21029;
 inline constexpr int kStrUnitsHeadConvert = 21030;
 
 // CUnitConversionDlg
+inline constexpr int kIddUnitConversion = 8097;
 inline constexpr int kCtlConvType = 3410;
 inline constexpr int kCtlConvFrom = 3409;
 inline constexpr int kCtlConvTo = 3214;
 inline constexpr int kCtlConvValue = 3210;
 inline constexpr int kCtlConvResult = 3211;
-inline constexpr int kCtlConvTypeLabel = 21200;
-inline constexpr int kCtlConvFromLabel = 21201;
-inline constexpr int kCtlConvToLabel = 21202;
-inline constexpr int kCtlConvValueLabel = 21203;
-inline constexpr int kCtlConvResultLabel = 21204;
-inline constexpr int kStrConvTypeLabel = 21050;
-inline constexpr int kStrConvFromLabel = 21051;
-inline constexpr int kStrConvToLabel = 21052;
-inline constexpr int kStrConvValueLabel = 21053;
-inline constexpr int kStrConvResultLabel = 21054;
-inline constexpr int kStrClose = 21055;
 
 }  // namespace res

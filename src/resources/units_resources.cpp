@@ -12,7 +12,6 @@ constexpr int kSide = -2;
 
 const StringEntry kStrings[] = {
     {1486, "Units and Precisions"},
-    {1518, "Unit Conversion"},
     {kStrUnitsQuantity + 0, "Length:"},
     {kStrUnitsQuantity + 1, "Dimension:"},
     {kStrUnitsQuantity + 2, "Force:"},
@@ -42,12 +41,6 @@ const StringEntry kStrings[] = {
     {kStrUnitsHeadUnit, "Unit"},
     {kStrUnitsHeadPrecision, "Precision"},
     {kStrUnitsHeadConvert, "Convert"},
-    {kStrConvTypeLabel, "Unit type:"},
-    {kStrConvFromLabel, "From:"},
-    {kStrConvToLabel, "To:"},
-    {kStrConvValueLabel, "Value:"},
-    {kStrConvResultLabel, "Result:"},
-    {kStrClose, "Close"},
 };
 
 std::vector<Control> UnitsControls() {
@@ -78,26 +71,9 @@ std::vector<Control> UnitsControls() {
   return c;
 }
 
-const DialogTemplate kUnits = {3135, 1486, "Units and Precisions", UnitsControls()};
+const DialogTemplate kUnits = {kIddUnits, 1486, "Units and Precisions", UnitsControls()};
 
-const DialogTemplate kUnitConversion = {
-    8097, 1518, "Unit Conversion",
-    {
-        {kCtlConvTypeLabel, K::Static, kStrConvTypeLabel, "Unit type:", 0, 0},
-        {kCtlConvType, K::DropList, 0, "", 0, 1, 1, 1, 0, kStretchCol},
-        {kCtlConvValueLabel, K::Static, kStrConvValueLabel, "Value:", 1, 0},
-        {kCtlConvValue, K::Edit, 0, "", 1, 1},
-        {kCtlConvFromLabel, K::Static, kStrConvFromLabel, "From:", 2, 0},
-        {kCtlConvFrom, K::DropList, 0, "", 2, 1},
-        {kCtlConvToLabel, K::Static, kStrConvToLabel, "To:", 3, 0},
-        {kCtlConvTo, K::DropList, 0, "", 3, 1},
-        {kCtlConvResultLabel, K::Static, kStrConvResultLabel, "Result:", 4, 0},
-        {kCtlConvResult, K::Edit, 0, "", 4, 1, 1, 1, 0, kReadOnly},
-        {IDCANCEL_, K::Button, kStrClose, "Close", kBar, 0},
-    },
-    340, 0};
-
-const DialogTemplate* const kTemplates[] = {&kUnits, &kUnitConversion};
+const DialogTemplate* const kTemplates[] = {&kUnits};
 
 }  // namespace
 

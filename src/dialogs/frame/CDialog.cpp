@@ -8,9 +8,11 @@
 #include <QListWidget>
 #include <QTreeWidget>
 
+#include "dialogs/frame/ControlText.h"
 #include "dialogs/frame/DataExchange.h"
 #include "dialogs/frame/DebugOutput.h"
 #include "dialogs/frame/FolderBrowseEdit.h"
+#include "dialogs/frame/Form.h"
 #include "dialogs/frame/TemplateBuilder.h"
 #include "tools/format.h"
 
@@ -22,6 +24,11 @@ CDialog::ModalLoopHook& ModalHook() {
 }  // namespace
 
 CDialog::CDialog(int templateId, QWidget* pParent) : QDialog(pParent), templateId_(templateId) {}
+
+CDialog::CDialog(const frame::FormBase& form, QWidget* pParent)
+    : QDialog(pParent), templateId_(form.TemplateId()), form_(&form) {
+  form.Publish();
+}
 
 CDialog::ModalLoopHook CDialog::SetModalLoopHook(ModalLoopHook hook) {
   ModalLoopHook previous = std::move(ModalHook());
@@ -120,14 +127,21 @@ BOOL CDialog::OnInitDialog() {
     if (template_->captionStringId != 0) LoadDialogCaption(template_->captionStringId);
     LoadTemplateCaptions();
   }
+  if (form_) form_->Prepare(*this);
   UpdateData(0);
   return 1;
 }
 
-void CDialog::DoDataExchange(CDataExchange*) {}
+void CDialog::DoDataExchange(CDataExchange* pDX) {
+  if (form_) form_->Exchange(*this, pDX);
+}
 
 void CDialog::OnOK() {
-  if (!UpdateData(1)) return;
+  const std::function<void()> restore = form_ ? form_->Keep(*this) : [] {};
+  if (!UpdateData(1) || !ValidateOnOK()) {
+    restore();
+    return;
+  }
   EndDialog(IDOK);
 }
 
@@ -139,59 +153,26 @@ QWidget* CDialog::GetDlgItem(int controlId) const {
 }
 
 bool CDialog::UpdateData(BOOL bSaveAndValidate) {
+  // A refused value leaves none of the form's members half-written.
+  const std::function<void()> restore = bSaveAndValidate && form_ ? form_->Keep(*this) : [] {};
   CDataExchange dx(this, bSaveAndValidate);
   try {
     DoDataExchange(&dx);
   } catch (const DataExchangeFailure&) {
+    restore();
     return false;
   }
   return true;
 }
 
-namespace {
-
-void SetWidgetText(QWidget* w, const QString& text) {
-  if (auto* label = qobject_cast<QLabel*>(w))
-    label->setText(text);
-  else if (auto* button = qobject_cast<QAbstractButton*>(w))
-    button->setText(text);
-  else if (auto* group = qobject_cast<QGroupBox*>(w))
-    group->setTitle(text);
-  else if (auto* edit = qobject_cast<QLineEdit*>(w))
-    edit->setText(text);
-  else if (auto* folder = dynamic_cast<FolderBrowseEdit*>(w))
-    folder->setText(text);
-  else if (auto* tree = qobject_cast<QTreeWidget*>(w))
-    tree->setHeaderLabels(text.split('\t'));
-  else
-    w->setWindowTitle(text);
-}
-
-QString WidgetText(const QWidget* w) {
-  if (auto* label = qobject_cast<const QLabel*>(w)) return label->text();
-  if (auto* button = qobject_cast<const QAbstractButton*>(w)) return button->text();
-  if (auto* group = qobject_cast<const QGroupBox*>(w)) return group->title();
-  if (auto* edit = qobject_cast<const QLineEdit*>(w)) return edit->text();
-  if (auto* folder = dynamic_cast<const FolderBrowseEdit*>(w)) return folder->text();
-  if (auto* combo = qobject_cast<const QComboBox*>(w)) return combo->currentText();
-  if (auto* tree = qobject_cast<const QTreeWidget*>(w)) {
-    // A report list's text is its column headings, as SetWidgetText takes them.
-    QStringList headings;
-    for (int col = 0; col < tree->columnCount(); ++col) headings << tree->headerItem()->text(col);
-    return headings.join('\t');
-  }
-  return w->windowTitle();
-}
-
-}  // namespace
 
 void CDialog::SetDlgItemText(int controlId, const std::string& text) {
-  if (QWidget* w = GetDlgItem(controlId)) SetWidgetText(w, QString::fromStdString(text));
+  if (QWidget* w = GetDlgItem(controlId)) frame::SetControlText(w, QString::fromStdString(text));
 }
 
 std::string CDialog::GetDlgItemText(int controlId) const {
   const QWidget* w = GetDlgItem(controlId);
-  return w ? WidgetText(w).toStdString() : std::string();
+  return w ? frame::ControlText(w).toStdString() : std::string();
 }
 
 void CDialog::EnableDlgItem(int controlId, bool enable) {
@@ -200,6 +181,31 @@ void CDialog::EnableDlgItem(int controlId, bool enable) {
 
 void CDialog::ShowDlgItem(int controlId, bool show) {
   if (QWidget* w = GetDlgItem(controlId)) w->setVisible(show);
+}
+
+void CDialog::SetComboItems(int controlId, const std::vector<std::string>& items) {
+  QWidget* w = GetDlgItem(controlId);
+  if (auto* combo = qobject_cast<QComboBox*>(w)) {
+    combo->clear();
+    for (const std::string& item : items) combo->addItem(QString::fromStdString(item));
+    combo->setCurrentIndex(items.empty() ? -1 : 0);
+  } else if (auto* list = qobject_cast<QListWidget*>(w)) {
+    list->clear();
+    for (const std::string& item : items) list->addItem(QString::fromStdString(item));
+    list->setCurrentRow(items.empty() ? -1 : 0);
+  }
+}
+
+void CDialog::FailOn(int controlId, const std::string& text) {
+  MessageBox(text);
+  QWidget* w = GetDlgItem(controlId);
+  if (!w) return;
+  w->setFocus();
+  if (auto* folder = dynamic_cast<FolderBrowseEdit*>(w)) w = folder->lineEdit();
+  if (auto* edit = qobject_cast<QLineEdit*>(w)) {
+    edit->setFocus();
+    edit->selectAll();
+  }
 }
 
 bool CDialog::PressButton(int controlId) {
@@ -256,7 +262,7 @@ bool CDialog::LoadControlCaption(int controlId, int stringId) {
                               controlId, stringId));
     return false;
   }
-  SetWidgetText(w, QString::fromStdString(*text));
+  frame::SetControlText(w, QString::fromStdString(*text));
   return true;
 }
 

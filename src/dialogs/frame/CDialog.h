@@ -13,6 +13,11 @@ inline constexpr int IDOK = 1;
 inline constexpr int IDCANCEL = 2;
 
 class CDataExchange;
+namespace frame {
+class FormBase;
+template <class Dlg>
+class Form;
+}  // namespace frame
 class CWnd;  // the host's window is a plain QWidget here
 using CWndPtr = QWidget*;
 
@@ -21,6 +26,8 @@ using CWndPtr = QWidget*;
 class CDialog : public QDialog {
  public:
   explicit CDialog(int templateId, QWidget* pParent = nullptr);
+  // A dialog described as a form: its template, strings and data exchange come from it.
+  explicit CDialog(const frame::FormBase& form, QWidget* pParent = nullptr);
   ~CDialog() override;
 
   // Builds the window, runs OnInitDialog and then the modal loop; IDOK or IDCANCEL.
@@ -37,6 +44,10 @@ class CDialog : public QDialog {
   std::string GetDlgItemText(int controlId) const;
   void EnableDlgItem(int controlId, bool enable);
   void ShowDlgItem(int controlId, bool show);
+  // Replaces a drop-down's or list's entries; the choice falls back to the first entry.
+  void SetComboItems(int controlId, const std::vector<std::string>& items);
+  // Refuses a value: shows the text, focuses the control and selects what it holds.
+  void FailOn(int controlId, const std::string& text);
   int TemplateId() const { return templateId_; }
   const res::DialogTemplate* Template() const { return template_; }
 
@@ -58,8 +69,13 @@ class CDialog : public QDialog {
  protected:
   virtual BOOL OnInitDialog();
   virtual void DoDataExchange(CDataExchange* pDX);
+  // The standard OK: exchange and validate, the dialog's own checks, IDOK. When either
+  // refuses, the members bound by the form keep the values they had before.
   virtual void OnOK();
   virtual void OnCancel();
+  // The dialog's own checks after a successful exchange; refuse with FailOn or MessageBox
+  // and return false to stay open.
+  virtual bool ValidateOnOK() { return true; }
 
   bool LoadDialogCaption(int stringId);
   bool LoadControlCaption(int controlId, int stringId);
@@ -87,6 +103,7 @@ class CDialog : public QDialog {
   void ConnectControls();
 
   int templateId_;
+  const frame::FormBase* form_ = nullptr;
   const res::DialogTemplate* template_ = nullptr;
   bool created_ = false;
   int modalResult_ = 0;

@@ -8,6 +8,7 @@
 class CPreferencesDlg : public CDialog {
  public:
   explicit CPreferencesDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CPreferencesDlg>& Description();
 
   uint32_t m_nBackupPeriod = 0;  // minutes, 0 to 200
   BOOL m_bLockAfterAnalysis = 0;
@@ -28,9 +29,4 @@ class CPreferencesDlg : public CDialog {
   BOOL m_bSaveDrawingGrid = 0;
   BOOL m_bFillDiagrams = 0;
   double m_dFillTransparency = 0.5;  // 0 to 1
-
- protected:
-  BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
-  void OnOK() override;
 };

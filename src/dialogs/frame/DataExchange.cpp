@@ -2,15 +2,11 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
-#include <QCheckBox>
 #include <QComboBox>
-#include <QFontComboBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
 
+#include "dialogs/frame/ControlText.h"
 #include "dialogs/frame/DebugOutput.h"
-#include "dialogs/frame/FolderBrowseEdit.h"
 #include "tools/format.h"
 #include "tools/parse.h"
 
@@ -22,38 +18,14 @@ QWidget* CDataExchange::PrepareCtrl(int controlId) {
 }
 
 void CDataExchange::Fail(const std::string& message) {
-  GetPrompter().Message(m_pDlgWnd, message, MessageIcon::Warning);
-  if (QWidget* w = m_pDlgWnd->GetDlgItem(m_idLastControl)) {
-    w->setFocus();
-    if (auto* edit = qobject_cast<QLineEdit*>(w)) edit->selectAll();
-  }
+  m_pDlgWnd->FailOn(m_idLastControl, message);
   throw DataExchangeFailure{};
 }
 
 namespace {
 
-std::string ReadText(QWidget* w) {
-  if (auto* edit = qobject_cast<QLineEdit*>(w)) return edit->text().toStdString();
-  if (auto* folder = dynamic_cast<FolderBrowseEdit*>(w)) return folder->text().toStdString();
-  if (auto* font = qobject_cast<QFontComboBox*>(w)) return font->currentFont().family().toStdString();
-  if (auto* combo = qobject_cast<QComboBox*>(w)) return combo->currentText().toStdString();
-  if (auto* label = qobject_cast<QLabel*>(w)) return label->text().toStdString();
-  return {};
-}
-
-void WriteText(QWidget* w, const std::string& text) {
-  const QString q = QString::fromStdString(text);
-  if (auto* edit = qobject_cast<QLineEdit*>(w))
-    edit->setText(q);
-  else if (auto* folder = dynamic_cast<FolderBrowseEdit*>(w))
-    folder->setText(q);
-  else if (auto* font = qobject_cast<QFontComboBox*>(w))
-    font->setCurrentFont(QFont(q));
-  else if (auto* combo = qobject_cast<QComboBox*>(w))
-    combo->setCurrentText(q);
-  else if (auto* label = qobject_cast<QLabel*>(w))
-    label->setText(q);
-}
+std::string ReadText(const QWidget* w) { return frame::ControlText(w).toStdString(); }
+void WriteText(QWidget* w, const std::string& text) { frame::SetControlText(w, QString::fromStdString(text)); }
 
 }  // namespace
 
@@ -118,6 +90,14 @@ void DDX_CBIndex(CDataExchange* pDX, int controlId, int32_t& index) {
     index = combo->currentIndex();
   else
     combo->setCurrentIndex(index);
+}
+
+void DDX_CBIndexOrFirst(CDataExchange* pDX, int controlId, int32_t& index) {
+  if (!pDX->m_bSaveAndValidate)
+    if (auto* combo = qobject_cast<QComboBox*>(pDX->m_pDlgWnd->GetDlgItem(controlId));
+        combo && combo->count() > 0 && (index < 0 || index >= combo->count()))
+      index = 0;
+  DDX_CBIndex(pDX, controlId, index);
 }
 
 void DDX_CBString(CDataExchange* pDX, int controlId, std::string& value) {

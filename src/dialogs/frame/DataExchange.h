@@ -28,6 +28,9 @@ void DDX_Text(CDataExchange* pDX, int controlId, double& value);
 void DDX_Text(CDataExchange* pDX, int controlId, std::string& value);
 void DDX_Check(CDataExchange* pDX, int controlId, BOOL& value);
 void DDX_CBIndex(CDataExchange* pDX, int controlId, int32_t& index);
+// As DDX_CBIndex, but an index outside a list that has entries shows the first entry and
+// takes its index, so that a host's stale index never leaves the list without a choice.
+void DDX_CBIndexOrFirst(CDataExchange* pDX, int controlId, int32_t& index);
 void DDX_CBString(CDataExchange* pDX, int controlId, std::string& value);
 // The first radio of a group; value is the index of the checked one, -1 for none.
 void DDX_Radio(CDataExchange* pDX, int controlId, int32_t& value);

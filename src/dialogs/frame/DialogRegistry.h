@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "dialogs/frame/Form.h"
+
 class CDialog;
 class QWidget;
 
@@ -20,7 +22,9 @@ void ClearDialogClasses();
 const std::vector<DialogClassInfo>& RegisteredDialogClasses();
 const DialogClassInfo* FindDialogClass(std::string_view className);
 
+// A dialog described as a form also puts its template and strings into the resource chain.
 template <class Dlg>
 void RegisterDialog(const char* className, const char* family) {
+  if constexpr (requires { Dlg::Description(); }) Dlg::Description().Publish();
   RegisterDialogClass({className, family, [](QWidget* parent) { return std::unique_ptr<CDialog>(new Dlg(parent)); }});
 }

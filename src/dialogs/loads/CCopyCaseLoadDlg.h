@@ -11,6 +11,7 @@
 class CCopyCaseLoadDlg : public CDialog {
  public:
   explicit CCopyCaseLoadDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CCopyCaseLoadDlg>& Description();
 
   std::vector<fmLoadCase>* m_pLoadCases = nullptr;
   std::string m_strCaption;  // the host names what is copied ("Copy Nodal Loads" ...); empty keeps "Copy Loads"
@@ -21,6 +22,5 @@ class CCopyCaseLoadDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
-  void OnOK() override;
+  bool ValidateOnOK() override;
 };

@@ -3,6 +3,7 @@
 #include "dialogs/loads/load_grids.h"
 #include "dialogs/loads/load_messages.h"
 #include "resources/grid_ids.h"
+#include "resources/ids.h"
 #include "resources/loads_ids.h"
 #include "resources/resources.h"
 

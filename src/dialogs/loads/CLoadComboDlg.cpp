@@ -97,8 +97,6 @@ int CLoadComboDlg::CurrentRow() const {
   return list->indexOfTopLevelItem(list->currentItem());
 }
 
-int CLoadComboDlg::RunChildDialog(CDialog& dlg) { return dlg.DoModal(); }
-
 void CLoadComboDlg::RunEditor(int index) {
   CLoadComboItemDlg dlg(this);
   dlg.m_nIndex = index;
@@ -108,7 +106,7 @@ void CLoadComboDlg::RunEditor(int index) {
     dlg.m_comb.SetName(loads::ProposeCombinationLabel(*m_pLoadCombs));
   else
     dlg.m_comb = (*m_pLoadCombs)[static_cast<size_t>(index)];
-  if (RunChildDialog(dlg) != IDOK) return;
+  if (dlg.DoModal() != IDOK) return;
   if (index < 0)
     m_pLoadCombs->push_back(std::move(dlg.m_comb));
   else
@@ -152,7 +150,7 @@ void CLoadComboDlg::OnUnitCases() {
 
 void CLoadComboDlg::OnGenerateStandard() {
   CStdLoadCombinationDlg dlg(this);
-  if (RunChildDialog(dlg) != IDOK) return;
+  if (dlg.DoModal() != IDOK) return;
   if (const loads::StdCombCode* code = loads::FindStandardCombinationCode(dlg.m_nCode))
     GenerateStandardCombinations(*code, dlg.m_checks, dlg.m_bPDelta);
   Refresh(static_cast<int>(m_pLoadCombs->size()) - 1);

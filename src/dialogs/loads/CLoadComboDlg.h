@@ -34,9 +34,6 @@ class CLoadComboDlg : public CDialog {
                                     BOOL bPDelta);
   void Prompt2EnterSustainedLoadComb();
 
-  // Runs the editor and the code dialog; a test drives them instead of a modal loop.
-  virtual int RunChildDialog(CDialog& dlg);
-
  private:
   std::vector<size_t> SelectedRows() const;
   int CurrentRow() const;

@@ -98,10 +98,4 @@ std::string FormatDisplay(double value, int index) {
   return std::string(buffer, FormatDisplayTo(buffer, value, index));
 }
 
-std::string FormatId(int64_t value) {
-  char buffer[24];
-  const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, value);
-  return std::string(buffer, ec == std::errc() ? end : buffer);
-}
-
 }  // namespace results

@@ -27,7 +27,5 @@ std::string FormatDisplay(double value, int index);
 // The same into a buffer of at least kDisplayBufferSize characters; returns the length.
 inline constexpr size_t kDisplayBufferSize = 400;
 size_t FormatDisplayTo(char* buffer, double value, int index);
-// "%d" of a number.
-std::string FormatId(int64_t value);
 
 }  // namespace results

@@ -2,8 +2,9 @@
 
 #include <QComboBox>
 #include <QLineEdit>
+#include <algorithm>
 
-#include "dialogs/frame/DataExchange.h"
+#include "dialogs/frame/Form.h"
 #include "resources/units_ids.h"
 #include "tools/format.h"
 #include "tools/parse.h"
@@ -30,7 +31,26 @@ bool IsNumberBeingTyped(std::string_view text) {
 
 }  // namespace
 
-CUnitConversionDlg::CUnitConversionDlg(QWidget* pParent) : CDialog(8097, pParent) {
+const frame::Form<CUnitConversionDlg>& CUnitConversionDlg::Description() {
+  using F = frame::Field<CUnitConversionDlg>;
+  using D = CUnitConversionDlg;
+  const auto typeNames = [](const D&) {
+    std::vector<std::string> names;
+    for (const auto& type : tools::ConversionTypes()) names.emplace_back(type.name);
+    return names;
+  };
+  static const frame::Form<D> form({kIddUnitConversion, "Unit Conversion", 1518, 340, 0, 0, frame::FormFrame::Buttons::Close},
+                                   {
+                                       F::DropIndex("Unit type:", &D::m_nUnitType).Id(kCtlConvType).Items(typeNames),
+                                       F::Real("Value:", &D::m_dFromValue).Id(kCtlConvValue),
+                                       F::DropIndex("From:", &D::m_nFromUnit).Id(kCtlConvFrom),
+                                       F::DropIndex("To:", &D::m_nToUnit).Id(kCtlConvTo),
+                                       F::Result("Result:").Id(kCtlConvResult),
+                                   });
+  return form;
+}
+
+CUnitConversionDlg::CUnitConversionDlg(QWidget* pParent) : CDialog(Description(), pParent) {
   OnSelChange(kCtlConvType, [this] { OnCbnSelchangeComboUnitType(); });
   OnSelChange(kCtlConvFrom, [this] { Convert(); });
   OnSelChange(kCtlConvTo, [this] { Convert(); });
@@ -39,39 +59,19 @@ CUnitConversionDlg::CUnitConversionDlg(QWidget* pParent) : CDialog(8097, pParent
 
 BOOL CUnitConversionDlg::OnInitDialog() {
   CDialog::OnInitDialog();
-  if (auto* types = Item<QComboBox>(kCtlConvType)) {
-    types->clear();
-    for (const auto& type : tools::ConversionTypes()) types->addItem(type.name);
-    types->setCurrentIndex(0);
-  }
   UpdateFromAndToUnits();
   return 1;
 }
 
-void CUnitConversionDlg::DoDataExchange(CDataExchange* pDX) {
-  CDialog::DoDataExchange(pDX);
-  DDX_CBIndex(pDX, kCtlConvType, m_nUnitType);
-  DDX_CBIndex(pDX, kCtlConvFrom, m_nFromUnit);
-  DDX_CBIndex(pDX, kCtlConvTo, m_nToUnit);
-  DDX_Text(pDX, kCtlConvValue, m_dFromValue);
-}
-
 void CUnitConversionDlg::UpdateFromAndToUnits() {
   auto* types = Item<QComboBox>(kCtlConvType);
-  auto* from = Item<QComboBox>(kCtlConvFrom);
-  auto* to = Item<QComboBox>(kCtlConvTo);
-  if (!types || !from || !to) return;
+  if (!types) return;
   m_nUnitType = std::max(0, types->currentIndex());
   const auto& type = tools::ConversionTypes()[m_nUnitType];
   const auto& labels = tools::UnitLabels();
-  from->clear();
-  to->clear();
-  for (int i = 0; i < type.count; ++i) {
-    from->addItem(QString::fromStdString(labels[type.first + i]));
-    to->addItem(QString::fromStdString(labels[type.first + i]));
-  }
-  from->setCurrentIndex(0);
-  to->setCurrentIndex(0);
+  const std::vector<std::string> units(labels.begin() + type.first, labels.begin() + type.first + type.count);
+  SetComboItems(kCtlConvFrom, units);
+  SetComboItems(kCtlConvTo, units);
   Convert();
 }
 

@@ -5,6 +5,7 @@
 class CUnitConversionDlg : public CDialog {
  public:
   explicit CUnitConversionDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CUnitConversionDlg>& Description();
 
   int32_t m_nUnitType = 0;  // list positions of the three drop-down lists
   int32_t m_nFromUnit = 0;
@@ -13,7 +14,6 @@ class CUnitConversionDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
 
   void UpdateFromAndToUnits();
   void Convert();

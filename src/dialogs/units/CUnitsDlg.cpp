@@ -9,7 +9,7 @@
 
 using namespace res;
 
-CUnitsDlg::CUnitsDlg(QWidget* pParent) : CDialog(3135, pParent) {
+CUnitsDlg::CUnitsDlg(QWidget* pParent) : CDialog(kIddUnits, pParent) {
   OnCommand(kCtlUnitsCheckAll, [this] { OnCheckAll(); });
   OnCommand(kCtlUnitsClearAll, [this] { OnClearAll(); });
   OnCommand(kCtlUnitsDefaultEnglish, [this] { OnDefaultEnglish(); });

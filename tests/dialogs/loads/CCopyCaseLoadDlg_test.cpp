@@ -3,11 +3,9 @@
 #include <QLineEdit>
 #include <tuple>
 
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/CCopyCaseLoadDlg.h"
-#include "resources/loads_ids.h"
 #include "support/DialogTest.h"
-
-using namespace res;
 
 namespace {
 
@@ -19,9 +17,9 @@ class CopyLoadsTest : public DialogTest {
     dlg.InitDialogForTest();
   }
   void Choose(int from, int to, const char* factor) {
-    dlg.ChooseItem(kCtlCopyFrom, from);
-    dlg.ChooseItem(kCtlCopyTo, to);
-    dlg.Item<QLineEdit>(kCtlCopyFactor)->setText(factor);
+    dlg.ChooseItem(frame::IdOf(&CCopyCaseLoadDlg::m_nFrom), from);
+    dlg.ChooseItem(frame::IdOf(&CCopyCaseLoadDlg::m_nTo), to);
+    dlg.Item<QLineEdit>(frame::IdOf(&CCopyCaseLoadDlg::m_dFactor))->setText(factor);
   }
   std::vector<fmLoadCase> cases = {fmLoadCase(1, "Dead", "D"), fmLoadCase(2, "Live", "L"), fmLoadCase(3, "Wind X", "W")};
   CCopyCaseLoadDlg dlg;
@@ -31,7 +29,7 @@ class CopyLoadsTest : public DialogTest {
 
 TEST_F(CopyLoadsTest, RefusalLeavesTheMembersThenOkReadsTheChoiceBack) {
   EXPECT_EQ(dlg.windowTitle().toStdString(), "Copy Nodal Loads");
-  EXPECT_EQ(dlg.Item<QComboBox>(kCtlCopyTo)->currentText().toStdString(), "3: Wind X");
+  EXPECT_EQ(dlg.Item<QComboBox>(frame::IdOf(&CCopyCaseLoadDlg::m_nTo))->currentText().toStdString(), "3: Wind X");
   Choose(1, 1, "0");
   dlg.PressButton(IDOK);
   EXPECT_EQ(dlg.ModalResult(), 0);
@@ -40,7 +38,7 @@ TEST_F(CopyLoadsTest, RefusalLeavesTheMembersThenOkReadsTheChoiceBack) {
 
   prompter.Clear();
   Choose(2, 0, "-0.5");
-  dlg.Item<QCheckBox>(kCtlCopyDeleteExisting)->setChecked(true);
+  dlg.Item<QCheckBox>(frame::IdOf(&CCopyCaseLoadDlg::m_bDeleteExisting))->setChecked(true);
   dlg.PressButton(IDOK);
   EXPECT_EQ(dlg.ModalResult(), IDOK);
   EXPECT_EQ(std::tuple(dlg.m_nFrom, dlg.m_nTo, dlg.m_dFactor, dlg.m_bDeleteExisting), std::tuple(2, 0, -0.5, 1));

@@ -17,10 +17,12 @@ namespace {
 // The editor and code dialog are driven by the test instead of a modal loop.
 class ScriptedComboDlg : public CLoadComboDlg {
  public:
+  ScriptedComboDlg() : previous(SetModalLoopHook([this](CDialog& d) { return child ? child(d) : IDCANCEL; })) {}
+  ~ScriptedComboDlg() override { SetModalLoopHook(previous); }
   std::function<int(CDialog&)> child;
 
- protected:
-  int RunChildDialog(CDialog& dlg) override { return child ? child(dlg) : IDCANCEL; }
+ private:
+  ModalLoopHook previous;
 };
 
 using Texts = std::vector<std::string>;
@@ -53,7 +55,6 @@ class ComboDialogTest : public DialogTest {
   std::function<int(CDialog&)> Editor(std::string label, Texts factors, bool concrete = false) {
     return [=, this](CDialog& d) {
       auto& item = static_cast<CLoadComboItemDlg&>(d);
-      item.InitDialogForTest();
       seenLabel = item.GetDlgItemText(kCtlItemLabel);
       if (!label.empty()) item.Item<QLineEdit>(kCtlItemLabel)->setText(QString::fromStdString(label));
       item.Item<QCheckBox>(kCtlItemConcreteDesign)->setChecked(concrete);
@@ -65,7 +66,6 @@ class ComboDialogTest : public DialogTest {
   std::function<int(CDialog&)> Codes(int code, std::vector<int> rows, bool pdelta = false) {
     return [=](CDialog& d) {
       auto& codes = static_cast<CStdLoadCombinationDlg&>(d);
-      codes.InitDialogForTest();
       codes.ChooseItem(kCtlStdCode, code);
       for (int r : rows) codes.Item<QListWidget>(kCtlStdList)->item(r)->setCheckState(Qt::Checked);
       codes.Item<QCheckBox>(kCtlStdPDelta)->setChecked(pdelta);

@@ -18,7 +18,7 @@ TEST(DisplayFormat, FixedForZeroToFiveAndExponentialForSixToEleven) {
   };
   for (const auto& [index, printed] : cases) EXPECT_EQ(FormatDisplay(1.5, index), printed) << index;
   EXPECT_EQ(results::LineFormatPiece(7), "%.2e");
-  EXPECT_EQ(results::FormatId(-2147483648LL), "-2147483648");
+  EXPECT_EQ(tools::FormatInt(-2147483648LL), "-2147483648");
 }
 
 TEST(DisplayFormat, AgreesWithPrintfOnManyValuesTiesAndExtremesIncluded) {

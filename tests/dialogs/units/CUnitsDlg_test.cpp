@@ -3,8 +3,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 
+#include "dialogs/frame/Form.h"
 #include "dialogs/units/CUnitConversionDlg.h"
 #include "resources/resources.h"
+#include "resources/ids.h"
 #include "resources/units_ids.h"
 #include "support/DialogTest.h"
 #include "tools/units.h"
@@ -40,7 +42,7 @@ class UnitsDlgTest : public DialogTest {
 TEST_F(DialogTest, UnitDialogsTakeTheirCaptionsFromTheStringTable) {
   static const StringEntry strings[] = {{1486, "Einheiten"},           {kStrUnitsCheckAll, "Alle"},
                                         {kStrUnitsQuantity, "Länge:"}, {1518, "Umrechnung"},
-                                        {kStrConvTypeLabel, "Art:"},   {kStrClose, "Schließen"}};
+                                        {frame::FieldOf(&CUnitConversionDlg::m_nUnitType).labelStringId, "Art:"},   {kStrClose, "Schließen"}};
   static const ResourceTable host = {"host", strings, {}};
   LinkResourceTable(host, true);
   CUnitsDlg units;
@@ -53,7 +55,7 @@ TEST_F(DialogTest, UnitDialogsTakeTheirCaptionsFromTheStringTable) {
   EXPECT_EQ(units.GetDlgItemText(kCtlUnitsLabel), "Länge:");
   EXPECT_EQ(units.GetDlgItemText(kCtlUnitsLabel + 1), "Dimension:");
   EXPECT_EQ(conversion.windowTitle().toStdString(), "Umrechnung");
-  EXPECT_EQ(conversion.GetDlgItemText(kCtlConvTypeLabel), "Art:");
+  EXPECT_EQ(conversion.GetDlgItemText(frame::FieldOf(&CUnitConversionDlg::m_nUnitType).labelId), "Art:");
   EXPECT_EQ(conversion.GetDlgItemText(IDCANCEL), "Schließen");
   EXPECT_TRUE(debugLines.empty()) << debugLines.front();
 }
