@@ -66,7 +66,7 @@ void SetNonlinear(fmBrick&, int) {}
 void SetUInt(grid::Sheet& sheet, int col, int row, uint32_t value) {
   char text[16];
   const auto end = std::to_chars(text, text + sizeof text, value).ptr;
-  sheet.SetData(col, row, std::string_view(text, static_cast<size_t>(end - text)));
+  sheet.SetNumber(col, row, std::string_view(text, static_cast<size_t>(end - text)));
 }
 
 std::string_view ItemOf(const std::vector<std::string>& items, int position) {
@@ -220,7 +220,7 @@ int Fill(grid::Sheet& sheet, std::span<const Record> rows, const ElementLists& l
     for (int k = 0; k < Record::kNodeCount; ++k) SetUInt(sheet, c.firstNode + k, row, r.nodes[static_cast<size_t>(k)]);
     sheet.SetData(c.material, row, ItemOf(materials, r.mat - 1));
     if (c.property) sheet.SetData(c.property, row, ItemOf(properties, PropertyOf(r) - 1));
-    if (c.angle) sheet.SetData(c.angle, row, tools::FormatG(AngleOf(r)));
+    if (c.angle) sheet.SetNumber(c.angle, row, tools::FormatG(AngleOf(r)));
     if (c.nonlinear) sheet.SetData(c.nonlinear, row, ItemOf(kNonlinearItems, NonlinearOf(r)));
     sheet.SetData(c.activation, row, kActivationItems[r.IsInactive() ? 1 : 0]);
     sheet.SetData(c.selfWeight, row, kSelfWeightItems[r.IsExcludedFromSelfWeight() ? 1 : 0]);
