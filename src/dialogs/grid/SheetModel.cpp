@@ -45,7 +45,7 @@ bool SheetModel::setData(const QModelIndex& index, const QVariant& value, int ro
   const std::string text = value.toString().toStdString();
   if (text == sheet_.GetData(col, row)) return true;
   if (onEdit) return onEdit(col, row, text);
-  sheet_.SetData(col, row, text);
+  sheet_.SetTypedData(col, row, text);
   emit dataChanged(index, index, {Qt::DisplayRole, Qt::EditRole});
   return true;
 }

@@ -108,7 +108,7 @@ int ApplyWrites(Sheet& sheet, const CellWrites& writes) {
   for (int row = b.row1; row <= b.row2; ++row)
     for (int col = b.col1; col <= b.col2; ++col, ++i) {
       if (sheet.IsLocked(col, row)) continue;
-      sheet.SetData(col, row, writes.texts[i]);
+      sheet.SetTypedData(col, row, writes.texts[i]);
       ++written;
     }
   return written;

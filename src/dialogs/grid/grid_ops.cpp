@@ -35,7 +35,7 @@ int AddRows(Sheet& sheet, int count, bool numberIds) {
   sheet.SetMaxRows(oldRows + count);
   if (numberIds) {
     for (int r = 1; r <= count; ++r) {
-      sheet.SetData(1, oldRows + r, tools::FormatInt(nextId + r - 1));
+      sheet.SetNumber(1, oldRows + r, tools::FormatInt(nextId + r - 1));
       sheet.SetLock(1, oldRows + r, true);
     }
   }
@@ -125,10 +125,11 @@ int FillSelection(Sheet& sheet, int col, int row, FillMode mode) {
   for (int r = firstRow; r <= lastRow; ++r) {
     if (r == row || sheet.IsLocked(col, r)) continue;
     if (mode == FillMode::Copy) {
-      sheet.SetData(col, r, value);
+      if (sheet.IsNumber(col, row)) sheet.SetNumber(col, r, value);
+      else sheet.SetData(col, r, value);
     } else {
       const double v = *start + (r - row) * *step;
-      sheet.SetData(col, r, tools::Format("%g", std::abs(v) < 1e-12 * std::max(1.0, std::abs(*step)) ? 0.0 : v));
+      sheet.SetNumber(col, r, tools::Format("%g", std::abs(v) < 1e-12 * std::max(1.0, std::abs(*step)) ? 0.0 : v));
     }
     ++written;
   }

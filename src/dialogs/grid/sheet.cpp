@@ -33,6 +33,7 @@ void Sheet::SetMaxRows(int rows) {
       Column& c = columns_[i];
       c.cells.resize(static_cast<size_t>(rows) + 1);
       if (!c.locks.empty()) c.locks.resize(static_cast<size_t>(rows) + 1, 0);
+      if (!c.numbers.empty()) c.numbers.resize(static_cast<size_t>(rows) + 1, 0);
     }
   });
 }
@@ -47,10 +48,33 @@ void Sheet::SetData(int col, int row, std::string_view text) {
   const CellType& type = GetCellType(col, row);
   const bool mayBeTooLong = row > 0 && type.kind == CellType::Edit && type.maxLength > 0 &&
                             text.size() > static_cast<size_t>(type.maxLength);
+  Column& c = columns_[col];
   if (mayBeTooLong)
-    columns_[col].cells[row] = tools::CutLabel(text, static_cast<size_t>(type.maxLength));
+    c.cells[row] = tools::CutLabel(text, static_cast<size_t>(type.maxLength));
   else
-    columns_[col].cells[row].assign(text);
+    c.cells[row].assign(text);
+  if (!c.numbers.empty()) c.numbers[row] = 0;
+}
+
+void Sheet::SetNumber(int col, int row, std::string_view text) {
+  if (!InGrid(col, row)) return;
+  SetData(col, row, text);
+  Column& c = columns_[col];
+  if (c.numbers.empty()) c.numbers.assign(c.cells.size(), 0);
+  c.numbers[row] = 1;
+}
+
+bool Sheet::IsNumber(int col, int row) const {
+  if (!InGrid(col, row)) return false;
+  const Column& c = columns_[col];
+  return static_cast<size_t>(row) < c.numbers.size() && c.numbers[row];
+}
+
+void Sheet::SetTypedData(int col, int row, std::string_view text) {
+  if (IsNumber(col, row) && tools::ParseDouble(text))
+    SetNumber(col, row, text);
+  else
+    SetData(col, row, text);
 }
 
 std::optional<int64_t> Sheet::GetInt(int col, int row) const { return tools::ParseInt(GetData(col, row)); }

@@ -69,6 +69,13 @@ class Sheet {
   // maximum length, cut between characters.
   void SetData(int col, int row, std::string_view text);
   void ClearData(int col, int row) { SetData(col, row, {}); }
+  // A cell filled from a number: exported to a workbook as a number. Every other cell is
+  // text there, however much it looks like a number ("0012", "1E3", a label).
+  void SetNumber(int col, int row, std::string_view text);
+  bool IsNumber(int col, int row) const;
+  // What the user typed or pasted: a number cell stays one when the new text reads as a
+  // number; any other cell stays text.
+  void SetTypedData(int col, int row, std::string_view text);
   // Integer value of a cell's text, if it reads as one.
   std::optional<int64_t> GetInt(int col, int row) const;
 
@@ -120,6 +127,7 @@ class Sheet {
   struct Column {
     std::vector<std::string, tools::LargeBlockAllocator<std::string>> cells;  // index = row, 0 = heading
     std::vector<uint8_t> locks;      // per row; empty until a cell lock is set
+    std::vector<uint8_t> numbers;    // per row; empty until a number is set
     bool locked = false;
     CellType type;
     double width = 10;

@@ -59,6 +59,7 @@ TEST_F(NodeDialogTest, RefusalsAndCancelLeaveTheNodesUnchanged) {
   struct Case { std::vector<std::pair<int, int>> cells; const char* text; std::string message; grid::CellRef active; };
   const Case cases[] = {
       {{{2, 1}}, "abc", "Invalid input for node 1.\nX must be a number, not \"abc\".", {2, 1}},
+      {{{1, 1}}, "2147483648", "Invalid node id 2147483648 in row 1: the highest id is 2147483647.", {1, 1}},
       {{{2, 4}, {3, 4}, {4, 4}}, "",
        "Invalid input for existing nodes (7 - 7).\nIf you intend to delete these nodes, cancel this dialog box.\n"
        "Then select these nodes and go to menu Edit | Delete...", {1, 4}},
