@@ -64,8 +64,8 @@ std::vector<Control> UnitsControls() {
       {kCtlUnitsConsistentEnglish, K::Button, kStrUnitsConsistentEnglish, "Consistent English", kSide, 4},
       {kCtlUnitsConsistentMetric, K::Button, kStrUnitsConsistentMetric, "Consistent Metric", kSide, 5},
       {kCtlUnitsSaveDefaults, K::Check, kStrUnitsSaveDefaults, "Save as defaults for future use", 20, 0, 1, 4},
-      {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-      {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+      {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+      {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
   };
   c.insert(c.end(), std::begin(tail), std::end(tail));
   return c;

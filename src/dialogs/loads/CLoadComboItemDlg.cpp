@@ -10,7 +10,7 @@
 
 using namespace res;
 
-CLoadComboItemDlg::CLoadComboItemDlg(QWidget* pParent) : CDialog(kTplLoadComboItem, pParent) {}
+CLoadComboItemDlg::CLoadComboItemDlg(QWidget* pParent) : CDialog(kIddLoadComboItem, pParent) {}
 
 std::string CLoadComboItemDlg::PrintTitle() const {
   const auto* edit = Item<QLineEdit>(kCtlItemLabel);
