@@ -61,12 +61,7 @@ void CLoadComboItemDlg::OnOK() {
   fmLoadComb saved;
   const loads::EditCheck check = loads::SaveCombinationEdit(edit, *m_pLoadCombs, m_nIndex, saved);
   if (!check.ok()) {
-    MessageBox(check.message);
-    const int focus = check.field == loads::EditCheck::Field::SustainedFactor ? kCtlItemSustained : kCtlItemLabel;
-    if (auto* field = Item<QLineEdit>(focus)) {
-      field->setFocus();
-      field->selectAll();
-    }
+    FailOn(check.field == loads::EditCheck::Field::SustainedFactor ? kCtlItemSustained : kCtlItemLabel, check.message);
     return;
   }
   m_comb = std::move(saved);
