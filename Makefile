@@ -4,15 +4,17 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 EXAMPLE ?= examples/building.json
 SCREENSHOT ?= $(BUILD_DIR)/norvane-host.png
 
-.PHONY: all setup configure build run test bench clean
+.PHONY: all setup configure build run test bench package clean
 
 all: build
 
 setup:
 	@scripts/bootstrap
 
+# Installs under /usr, as the Debian packages do (`cmake --install build --prefix DIR` for elsewhere).
+# `make test` also turns warnings into errors; a plain build leaves them warnings.
 configure: setup
-	@cmake -S . -B $(BUILD_DIR) -DCMAKE_BUILD_TYPE=Release > /dev/null
+	@cmake -S . -B $(BUILD_DIR) -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr $(CMAKE_OPTIONS) > /dev/null
 
 build: configure
 	@cmake --build $(BUILD_DIR) -j $(JOBS)
@@ -27,8 +29,13 @@ run: build
 	  QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/norvane-host $(EXAMPLE) --screenshot $(SCREENSHOT); \
 	fi
 
+test: CMAKE_OPTIONS += -DNORVANE_WERROR=ON
 test: build
-	@cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure
+	@cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j $(JOBS)
+
+# The Debian packages norvane and norvane-dev, in the build folder.
+package: build
+	@cd $(BUILD_DIR) && cpack -G DEB
 
 bench: build
 	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/norvane_bench

@@ -269,7 +269,9 @@ double CAiscDesign::Compression() const {
       // The axis of symmetry of a channel is x.
       const double Fft = SinglySymmetric(Fex, Fez, s_.H);
       rep_.Step("E4", "E4-5", "Fe = (Fex + Fez)/(2H)·[1 − √(1 − 4·Fex·Fez·H/(Fex + Fez)²)]",
-                Format("(%s + %s)/(2·%s)·[...]", Num(Fex).c_str(), Num(Fez).c_str(), Num(s_.H).c_str()),
+                Format("(%s + %s)/(2·%s)·[1 − √(1 − 4·%s·%s·%s/(%s + %s)²)]", Num(Fex).c_str(), Num(Fez).c_str(),
+                       Num(s_.H).c_str(), Num(Fex).c_str(), Num(Fez).c_str(), Num(s_.H).c_str(), Num(Fex).c_str(),
+                       Num(Fez).c_str()),
                 Num(Fft) + " ksi");
       Fe = std::min(Fey, Fft);
       if (Fft < Fey) clause = "E4";
@@ -344,13 +346,15 @@ double CAiscDesign::Compression() const {
       Fez = torsional(true);
       const double Fft = SinglySymmetric(Fey, Fez, s_.H);
       rep_.Step("E4", "E4-5", "Fe = (Fey + Fez)/(2H)·[1 − √(1 − 4·Fey·Fez·H/(Fey + Fez)²)]",
-                Format("(%s + %s)/(2·%s)·[...]", Num(Fey).c_str(), Num(Fez).c_str(), Num(s_.H).c_str()),
+                Format("(%s + %s)/(2·%s)·[1 − √(1 − 4·%s·%s·%s/(%s + %s)²)]", Num(Fey).c_str(), Num(Fez).c_str(),
+                       Num(s_.H).c_str(), Num(Fey).c_str(), Num(Fez).c_str(), Num(s_.H).c_str(), Num(Fey).c_str(),
+                       Num(Fez).c_str()),
                 Num(Fft) + " ksi");
       Fe = std::min(Fex, Fft);
       Fcr = CriticalStress(Fe, Q, "E7");
     }
   } else {
-    rep_.Step(clause, "", "Fe = least elastic buckling stress", "", Num(Fe) + " ksi");
+    rep_.Step(clause, "", "Fe = least of the elastic buckling stresses above", "", Num(Fe) + " ksi");
     const bool anySlender = [&] {
       switch (s_.family) {
         case ShapeFamily::IShape:

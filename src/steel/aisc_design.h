@@ -85,12 +85,15 @@ class CAiscDesign {
   double IShapeMajor() const;
   double ChannelOrIMinor(double Z, double S, double lambda, const char* clause) const;
   double TeeMajor() const;
+  // F9.1 and F9.2, shared by tees and double angles; depth is d of F9-5.
+  double TeeYieldingAndLtb(double depth, bool stemInTension) const;
   double DoubleAngleMajor() const;
   double AngleGeometric(double S, double leg, double legOther, const char* axis) const;
   double HssRect(double Z, double S, double I, double flangeRatio, double webRatio, double depth,
                  const char* axis) const;
   double HssRound(double Z, double S) const;
   double LegLocalBuckling(double Sc, double ratio, const char* what) const;
+  double AngleLegShear(double leg, const char* which) const;
   double WebShear(double Aw, double ratio, double kv, bool rolledIWeb, const char* clause, double* phi) const;
 
   double Root(double x) const;  // sqrt(E / Fy) * x

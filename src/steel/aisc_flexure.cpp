@@ -120,7 +120,8 @@ double CAiscDesign::IShapeMajor() const {
     const double j = s_.J / (s_.Sx * s_.ho);
     const double Lr = 1.95 * rt * E / FL * std::sqrt(j + std::sqrt(j * j + 6.76 * std::pow(FL / E, 2)));
     rep_.Step("F4.2", "F4-8", "Lr = 1.95·rt·E/FL·√(J/(Sxc·ho) + √((J/(Sxc·ho))² + 6.76(FL/E)²))",
-              Format("1.95·%s·%s/%s·√(%s + ...)", Num(rt).c_str(), Num(E).c_str(), Num(FL).c_str(), Num(j).c_str()),
+              Format("1.95·%s·%s/%s·√(%s + √(%s² + 6.76(%s/%s)²))", Num(rt).c_str(), Num(E).c_str(), Num(FL).c_str(),
+                     Num(j).c_str(), Num(j).c_str(), Num(FL).c_str(), Num(E).c_str()),
               Num(Lr) + " in");
     if (Lb > Lp && Lb <= Lr) {
       const double M = std::min(RM, Cb * (RM - (RM - FL * s_.Sx) * (Lb - Lp) / (Lr - Lp)));
@@ -175,10 +176,15 @@ double CAiscDesign::IShapeMajor() const {
     double Fcr;
     if (Lb <= Lr) {
       Fcr = std::min(Fy, Cb * (Fy - 0.3 * Fy * (Lb - Lp) / (Lr - Lp)));
-      rep_.Step("F5.2", "F5-3", "Fcr = Cb·[Fy − 0.3Fy·(Lb − Lp)/(Lr − Lp)] ≤ Fy", "", Num(Fcr) + " ksi");
+      rep_.Step("F5.2", "F5-3", "Fcr = Cb·[Fy − 0.3Fy·(Lb − Lp)/(Lr − Lp)] ≤ Fy",
+                Format("%s·[%s − 0.3·%s·(%s − %s)/(%s − %s)]", Num(Cb).c_str(), Num(Fy).c_str(), Num(Fy).c_str(),
+                       Num(Lb).c_str(), Num(Lp).c_str(), Num(Lr).c_str(), Num(Lp).c_str()),
+                Num(Fcr) + " ksi");
     } else {
       Fcr = std::min(Fy, Cb * kPi * kPi * E / std::pow(Lb / rt, 2));
-      rep_.Step("F5.2", "F5-4", "Fcr = Cb·π²E/(Lb/rt)² ≤ Fy", "", Num(Fcr) + " ksi");
+      rep_.Step("F5.2", "F5-4", "Fcr = Cb·π²E/(Lb/rt)² ≤ Fy",
+                Format("%s·π²·%s/(%s/%s)²", Num(Cb).c_str(), Num(E).c_str(), Num(Lb).c_str(), Num(rt).c_str()),
+                Num(Fcr) + " ksi");
     }
     const double M = Rpg * Fcr * s_.Sx;
     rep_.Step("F5.2", "F5-2", "Mn = Rpg·Fcr·Sxc", Format("%s·%s·%s", Num(Rpg).c_str(), Num(Fcr).c_str(), Num(s_.Sx).c_str()),
@@ -189,9 +195,14 @@ double CAiscDesign::IShapeMajor() const {
     const double Fcr = lf <= lrf ? Fy - 0.3 * Fy * (lf - lpf) / (lrf - lpf)
                                  : 0.9 * E * std::clamp(4 / std::sqrt(lw), 0.35, 0.76) / (lf * lf);
     rep_.Step("F5.3", lf <= lrf ? "F5-8" : "F5-9", lf <= lrf ? "Fcr = Fy − 0.3Fy·(λ − λpf)/(λrf − λpf)" : "Fcr = 0.9E·kc/λ²",
-              "", Num(Fcr) + " ksi");
+              lf <= lrf ? Format("%s − 0.3·%s·(%s − %s)/(%s − %s)", Num(Fy).c_str(), Num(Fy).c_str(), Num(lf).c_str(),
+                                 Num(lpf).c_str(), Num(lrf).c_str(), Num(lpf).c_str())
+                        : Format("0.9·%s·%s/%s²", Num(E).c_str(), Num(std::clamp(4 / std::sqrt(lw), 0.35, 0.76)).c_str(),
+                                 Num(lf).c_str()),
+              Num(Fcr) + " ksi");
     const double M = Rpg * Fcr * s_.Sx;
-    rep_.Step("F5.3", "F5-7", "Mn = Rpg·Fcr·Sxc", "", Num(M) + " kip-in");
+    rep_.Step("F5.3", "F5-7", "Mn = Rpg·Fcr·Sxc", Format("%s·%s·%s", Num(Rpg).c_str(), Num(Fcr).c_str(), Num(s_.Sx).c_str()),
+              Num(M) + " kip-in");
     Mn = std::min(Mn, M);
   }
   return Mn;
@@ -222,31 +233,34 @@ double CAiscDesign::ChannelOrIMinor(double Z, double S, double lambda, const cha
   return Mn;
 }
 
-double CAiscDesign::TeeMajor() const {
+double CAiscDesign::TeeYieldingAndLtb(double depth, bool stemInTension) const {
   const double E = kE, Fy = m_Fy;
-  const bool stemInTension = m_Mux >= 0;
-  rep_.Text(stemInTension ? "Mux ≥ 0: the flange is in compression, the tip of the stem in tension."
-                          : "Mux < 0: the tip of the stem is in compression.");
   const double My = Fy * s_.Sx;
   const double Mp = std::min(Fy * s_.Zx, (stemInTension ? 1.6 : 1.0) * My);
   rep_.Step("F9.1", stemInTension ? "F9-2" : "F9-3", stemInTension ? "Mn = Mp = Fy·Zx ≤ 1.6My" : "Mn = Mp ≤ My",
             Format("min(%s·%s, %s·%s·%s)", Num(Fy).c_str(), Num(s_.Zx).c_str(), stemInTension ? "1.6" : "1.0",
                    Num(Fy).c_str(), Num(s_.Sx).c_str()),
             Num(Mp) + " kip-in");
-  double Mn = Mp;
-  if (m_Lb > 0) {
-    const double B = (stemInTension ? 2.3 : -2.3) * (s_.d / m_Lb) * std::sqrt(s_.Iy / s_.J);
-    rep_.Step("F9.2", "F9-5", "B = ±2.3·(d/Lb)·√(Iy/J)",
-              Format("%s2.3·(%s/%s)·√(%s/%s)", stemInTension ? "" : "−", Num(s_.d).c_str(), Num(m_Lb).c_str(),
-                     Num(s_.Iy).c_str(), Num(s_.J).c_str()),
-              Num(B));
-    const double Mcr = kPi * std::sqrt(E * s_.Iy * kG * s_.J) / m_Lb * (B + std::sqrt(1 + B * B));
-    rep_.Step("F9.2", "F9-4", "Mn = Mcr = π√(E·Iy·G·J)/Lb·[B + √(1 + B²)]",
-              Format("π√(%s·%s·%s·%s)/%s·[%s + √(1 + %s²)]", Num(E).c_str(), Num(s_.Iy).c_str(), Num(kG).c_str(),
-                     Num(s_.J).c_str(), Num(m_Lb).c_str(), Num(B).c_str(), Num(B).c_str()),
-              Num(Mcr) + " kip-in");
-    Mn = std::min(Mn, Mcr);
-  }
+  if (!(m_Lb > 0) || !(s_.J > 0)) return Mp;
+  const double B = (stemInTension ? 2.3 : -2.3) * (depth / m_Lb) * std::sqrt(s_.Iy / s_.J);
+  rep_.Step("F9.2", "F9-5", "B = ±2.3·(d/Lb)·√(Iy/J)",
+            Format("%s2.3·(%s/%s)·√(%s/%s)", stemInTension ? "" : "−", Num(depth).c_str(), Num(m_Lb).c_str(),
+                   Num(s_.Iy).c_str(), Num(s_.J).c_str()),
+            Num(B));
+  const double Mcr = kPi * std::sqrt(E * s_.Iy * kG * s_.J) / m_Lb * (B + std::sqrt(1 + B * B));
+  rep_.Step("F9.2", "F9-4", "Mn = Mcr = π√(E·Iy·G·J)/Lb·[B + √(1 + B²)]",
+            Format("π√(%s·%s·%s·%s)/%s·[%s + √(1 + %s²)]", Num(E).c_str(), Num(s_.Iy).c_str(), Num(kG).c_str(),
+                   Num(s_.J).c_str(), Num(m_Lb).c_str(), Num(B).c_str(), Num(B).c_str()),
+            Num(Mcr) + " kip-in");
+  return std::min(Mp, Mcr);
+}
+
+double CAiscDesign::TeeMajor() const {
+  const double E = kE, Fy = m_Fy;
+  const bool stemInTension = m_Mux >= 0;
+  rep_.Text(stemInTension ? "Mux ≥ 0: the flange is in compression, the tip of the stem in tension."
+                          : "Mux < 0: the tip of the stem is in compression.");
+  double Mn = TeeYieldingAndLtb(s_.d, stemInTension);
   if (stemInTension) {
     const double l = s_.flangeRatio, lp = Root(0.38), lr = Root(1.0);
     rep_.Step("B4.1b", "case 10", Format("flange bf/2tf = %.4g", l), Num(lp) + ", " + Num(lr), Kind(l, lp, lr));
@@ -254,7 +268,10 @@ double CAiscDesign::TeeMajor() const {
       const double Sxc = s_.Ix / s_.y;
       const double Fcr = l <= lr ? Fy * (1.19 - 0.50 * l * std::sqrt(Fy / E)) : 0.69 * E / (l * l);
       rep_.Step("F9.3", l <= lr ? "F9-7" : "F9-8", l <= lr ? "Fcr = Fy·(1.19 − 0.50·(bf/2tf)·√(Fy/E))" : "Fcr = 0.69E/(bf/2tf)²",
-                "", Num(Fcr) + " ksi");
+                l <= lr ? Format("%s·(1.19 − 0.50·%s·√(%s/%s))", Num(Fy).c_str(), Num(l).c_str(), Num(Fy).c_str(),
+                                 Num(E).c_str())
+                        : Format("0.69·%s/%s²", Num(E).c_str(), Num(l).c_str()),
+                Num(Fcr) + " ksi");
       const double M = Fcr * Sxc;
       rep_.Step("F9.3", "F9-6", "Mn = Fcr·Sxc, Sxc = Ix/y", Format("%s·%s/%s", Num(Fcr).c_str(), Num(s_.Ix).c_str(), Num(s_.y).c_str()),
                 Num(M) + " kip-in");
@@ -274,7 +291,12 @@ double CAiscDesign::TeeMajor() const {
       Fcr = 0.69 * E / (l * l);
       eq = "F9-12";
     }
-    rep_.Step("F9.4", eq, Format("stem d/tw = %.4g: Fcr", l), "", Num(Fcr) + " ksi");
+    const std::string numbers =
+        l <= Root(0.84) ? Format("d/tw ≤ 0.84√(E/Fy) = %s: Fcr = Fy", Num(Root(0.84)).c_str())
+        : l <= Root(1.03)
+            ? Format("(2.55 − 1.84·%s·√(%s/%s))·%s", Num(l).c_str(), Num(Fy).c_str(), Num(E).c_str(), Num(Fy).c_str())
+            : Format("0.69·%s/%s²", Num(E).c_str(), Num(l).c_str());
+    rep_.Step("F9.4", eq, Format("stem d/tw = %.4g: Fcr", l), numbers, Num(Fcr) + " ksi");
     const double M = Fcr * s_.Sx;
     rep_.Step("F9.4", "F9-9", "Mn = Fcr·Sx", Num(Fcr) + "·" + Num(s_.Sx), Num(M) + " kip-in");
     Mn = std::min(Mn, M);
@@ -306,28 +328,11 @@ double CAiscDesign::LegLocalBuckling(double Sc, double ratio, const char* what) 
 }
 
 double CAiscDesign::DoubleAngleMajor() const {
-  const double E = kE, Fy = m_Fy;
   const bool tipsInTension = m_Mux >= 0;
   rep_.Text(tipsInTension ? "Mux ≥ 0: the outstanding legs are in compression, the tips of the vertical legs in tension."
                           : "Mux < 0: the tips of the vertical legs are in compression.");
-  const double My = Fy * s_.Sx;
-  const double Mp = std::min(Fy * s_.Zx, (tipsInTension ? 1.6 : 1.0) * My);
-  rep_.Step("F9.1", tipsInTension ? "F9-2" : "F9-3", tipsInTension ? "Mn = Mp = Fy·Zx ≤ 1.6My" : "Mn = Mp ≤ My",
-            Format("min(%s·%s, %s·%s·%s)", Num(Fy).c_str(), Num(s_.Zx).c_str(), tipsInTension ? "1.6" : "1.0",
-                   Num(Fy).c_str(), Num(s_.Sx).c_str()),
-            Num(Mp) + " kip-in");
-  double Mn = Mp;
   if (s_.jDerived) rep_.Text("J of the double angle is twice the J of its single angle.");
-  if (m_Lb > 0 && s_.J > 0) {
-    const double B = (tipsInTension ? 2.3 : -2.3) * (s_.legVertical / m_Lb) * std::sqrt(s_.Iy / s_.J);
-    rep_.Step("F9.2", "F9-5", "B = ±2.3·(d/Lb)·√(Iy/J)", "", Num(B));
-    const double Mcr = kPi * std::sqrt(E * s_.Iy * kG * s_.J) / m_Lb * (B + std::sqrt(1 + B * B));
-    rep_.Step("F9.2", "F9-4", "Mn = Mcr = π√(E·Iy·G·J)/Lb·[B + √(1 + B²)]",
-              Format("π√(%s·%s·%s·%s)/%s·[%s + √(1 + %s²)]", Num(E).c_str(), Num(s_.Iy).c_str(), Num(kG).c_str(),
-                     Num(s_.J).c_str(), Num(m_Lb).c_str(), Num(B).c_str(), Num(B).c_str()),
-              Num(Mcr) + " kip-in");
-    Mn = std::min(Mn, Mcr);
-  }
+  double Mn = TeeYieldingAndLtb(s_.legVertical, tipsInTension);
   rep_.Text("Local buckling of the legs in compression is taken by F10.3 (Section F9 has no rule for the legs of double angles).");
   if (tipsInTension)
     Mn = std::min(Mn, LegLocalBuckling(s_.Ix / s_.y, s_.legHorizontal / s_.t, "outstanding leg"));
@@ -351,18 +356,20 @@ double CAiscDesign::AngleGeometric(double S, double leg, double legOther, const 
     const double b = leg, t = s_.t, Lb = m_Lb, Cb = m_Cb;
     const double Me = 0.66 * E * std::pow(b, 4) * t * Cb / (Lb * Lb) * (std::sqrt(1 + 0.78 * std::pow(Lb * t / (b * b), 2)) - 1);
     rep_.Step("F10.2", "F10-4a", "Me = 0.66E·b⁴·t·Cb/Lb²·[√(1 + 0.78(Lb·t/b²)²) − 1]",
-              Format("0.66·%s·%s⁴·%s·%s/%s²·[...]", Num(E).c_str(), Num(b).c_str(), Num(t).c_str(), Num(Cb).c_str(),
-                     Num(Lb).c_str()),
+              Format("0.66·%s·%s⁴·%s·%s/%s²·[√(1 + 0.78(%s·%s/%s²)²) − 1]", Num(E).c_str(), Num(b).c_str(),
+                     Num(t).c_str(), Num(Cb).c_str(), Num(Lb).c_str(), Num(Lb).c_str(), Num(t).c_str(), Num(b).c_str()),
               Num(Me) + " kip-in");
     const double My8 = 0.8 * My;
     rep_.Step("F10.2", "", "My = 0.80·Fy·S", Format("0.80·%s·%s", Num(Fy).c_str(), Num(S).c_str()), Num(My8) + " kip-in");
     double M;
     if (Me <= My8) {
       M = (0.92 - 0.17 * Me / My8) * Me;
-      rep_.Step("F10.2", "F10-2", "Mn = (0.92 − 0.17·Me/My)·Me", "", Num(M) + " kip-in");
+      rep_.Step("F10.2", "F10-2", "Mn = (0.92 − 0.17·Me/My)·Me",
+                Format("(0.92 − 0.17·%s/%s)·%s", Num(Me).c_str(), Num(My8).c_str(), Num(Me).c_str()), Num(M) + " kip-in");
     } else {
       M = std::min(1.5 * My8, (1.92 - 1.17 * std::sqrt(My8 / Me)) * My8);
-      rep_.Step("F10.2", "F10-3", "Mn = (1.92 − 1.17√(My/Me))·My ≤ 1.5My", "", Num(M) + " kip-in");
+      rep_.Step("F10.2", "F10-3", "Mn = (1.92 − 1.17√(My/Me))·My ≤ 1.5My",
+                Format("(1.92 − 1.17√(%s/%s))·%s", Num(My8).c_str(), Num(Me).c_str(), Num(My8).c_str()), Num(M) + " kip-in");
     }
     Mn = std::min(Mn, M);
   }

@@ -37,6 +37,15 @@ double CAiscDesign::WebShear(double Aw, double ratio, double kv, bool rolledIWeb
   return phiVn;
 }
 
+double CAiscDesign::AngleLegShear(double leg, const char* which) const {
+  const double n = s_.family == ShapeFamily::DoubleAngle ? 2 : 1;
+  const double Aw = n * leg * s_.t;
+  rep_.Step("G4", "", Format("Aw = b·t of the %s leg(s), h/tw = b/t, kv = 1.2", which),
+            Format("%g·%s·%s", n, Num(leg).c_str(), Num(s_.t).c_str()), Num(Aw) + " in²");
+  double phi = 0.9;
+  return WebShear(Aw, leg / s_.t, 1.2, false, "G4", &phi);
+}
+
 namespace {
 double RoundShear(const steel::Report& rep, const steel::AiscSection& s, double Fy, double Lv) {
   const double E = CAiscDesign::kE, D = s.OD, Dt = s.DOverT;
@@ -70,13 +79,7 @@ double CAiscDesign::ShearY() const {
                 Num(s_.d * s_.tw) + " in²");
       return WebShear(s_.d * s_.tw, s_.webRatio, 1.2, false, "G2.1(b)", &phi);
     case ShapeFamily::Angle:
-    case ShapeFamily::DoubleAngle: {
-      const double n = s_.family == ShapeFamily::DoubleAngle ? 2 : 1;
-      const double Aw = n * s_.legVertical * s_.t;
-      rep_.Step("G4", "", "Aw = b·t of the vertical leg(s), h/tw = b/t, kv = 1.2",
-                Format("%g·%s·%s", n, Num(s_.legVertical).c_str(), Num(s_.t).c_str()), Num(Aw) + " in²");
-      return WebShear(Aw, s_.legVertical / s_.t, 1.2, false, "G4", &phi);
-    }
+    case ShapeFamily::DoubleAngle: return AngleLegShear(s_.legVertical, "vertical");
     case ShapeFamily::RectHss: {
       const double h = s_.hOverT * s_.tdes, Aw = 2 * h * s_.tdes;
       rep_.Step("G5", "", "Aw = 2·h·t, kv = 5", Format("2·%s·%s", Num(h).c_str(), Num(s_.tdes).c_str()), Num(Aw) + " in²");
@@ -106,13 +109,7 @@ double CAiscDesign::ShearX() const {
       return WebShear(Aw, s_.flangeRatio, 1.2, false, "G7", &phi);
     }
     case ShapeFamily::Angle:
-    case ShapeFamily::DoubleAngle: {
-      const double n = s_.family == ShapeFamily::DoubleAngle ? 2 : 1;
-      const double Aw = n * s_.legHorizontal * s_.t;
-      rep_.Step("G4", "", "Aw = b·t of the horizontal leg(s), h/tw = b/t, kv = 1.2",
-                Format("%g·%s·%s", n, Num(s_.legHorizontal).c_str(), Num(s_.t).c_str()), Num(Aw) + " in²");
-      return WebShear(Aw, s_.legHorizontal / s_.t, 1.2, false, "G4", &phi);
-    }
+    case ShapeFamily::DoubleAngle: return AngleLegShear(s_.legHorizontal, "horizontal");
     case ShapeFamily::RectHss: {
       const double b = s_.bOverT * s_.tdes, Aw = 2 * b * s_.tdes;
       rep_.Step("G5", "", "Aw = 2·b·t, kv = 5", Format("2·%s·%s", Num(b).c_str(), Num(s_.tdes).c_str()), Num(Aw) + " in²");

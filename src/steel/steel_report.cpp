@@ -9,6 +9,8 @@ namespace steel {
 std::string Num(double value) {
   if (std::isinf(value)) return value > 0 ? "∞" : "-∞";
   if (std::isnan(value)) return "n/a";
+  // Large values whole (29000, not 2.9e+04); the rest to four significant digits.
+  if (std::abs(value) >= 1e4 && std::abs(value) < 1e15) return tools::Format("%.0f", value);
   return tools::Format("%.4g", value);
 }
 
@@ -94,9 +96,9 @@ std::string Narrow(const wchar_t* text) {
 ProblemPrintArea::ProblemPrintArea(std::ostream* out, const wchar_t* title) : ProblemPrintArea(out, Narrow(title)) {}
 
 ProblemPrintArea::ProblemPrintArea(std::ostream* out, std::string_view title) : out_(out) {
-  if (out_) *out_ << "<section>\n<h2>" << steel::HtmlEscape(title) << "</h2>\n";
+  if (out_) *out_ << "<div class=\"area\">\n<h2>" << steel::HtmlEscape(title) << "</h2>\n";
 }
 
 ProblemPrintArea::~ProblemPrintArea() {
-  if (out_) *out_ << "</section>\n";
+  if (out_) *out_ << "</div>\n";
 }

@@ -7,7 +7,8 @@
 // design object writes each limit state with its clause, equation and numbers.
 namespace steel {
 
-// Numbers in the report: four significant digits, "C" conventions; infinity as "∞".
+// Numbers in the report: four significant digits (whole numbers from 10,000), "C" conventions;
+// infinity as "∞".
 std::string Num(double value);
 std::string HtmlEscape(std::string_view text);
 

@@ -8,6 +8,7 @@
 #include <mutex>
 
 #include "tools/atomic_file.h"
+#include "tools/data_location.h"
 #include "tools/fm_exception.h"
 #include "tools/parse.h"
 #include "tools/shape_table.h"
@@ -66,10 +67,8 @@ ShapeLibraryLocations DefaultShapeLibraryLocations() {
     l.user = std::string(home) + "/.local/share/norvane";
   if (const char* dir = std::getenv("NORVANE_DATA_DIR"); dir && *dir)
     l.installed = dir;
-  else if (HasAiscLibrary(NORVANE_INSTALLED_DATA_DIR))
-    l.installed = NORVANE_INSTALLED_DATA_DIR;
   else
-    l.installed = NORVANE_SOURCE_DATA_DIR;  // running from the build tree
+    l.installed = InstalledDataDirectory();
   return l;
 }
 

@@ -120,8 +120,8 @@ struct ShapeLibraryLocations {
   std::string installed;
   std::string user;
 };
-// XDG_DATA_HOME/norvane (or ~/.local/share/norvane); NORVANE_DATA_DIR, the installed data
-// folder or the source tree's data folder, whichever holds the steel library.
+// XDG_DATA_HOME/norvane (or ~/.local/share/norvane); NORVANE_DATA_DIR when set, else the
+// installed data folder (InstalledDataDirectory).
 ShapeLibraryLocations DefaultShapeLibraryLocations();
 ShapeLibraryLocations CurrentShapeLibraryLocations();
 // Tests point the library elsewhere; an empty argument restores the defaults.

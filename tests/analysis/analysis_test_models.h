@@ -1,5 +1,6 @@
 #pragma once
 #include <array>
+#include <Eigen/Dense>
 #include <cmath>
 
 #include "analysis/model.h"

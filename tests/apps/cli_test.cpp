@@ -8,6 +8,8 @@
 #include "support/TempDir.h"
 #include "support/files.h"
 #include "support/run_program.h"
+#include "tools/format.h"
+#include "tools/parse.h"
 
 #if defined(__SANITIZE_ADDRESS__)
 #define NORVANE_SANITIZED 1
@@ -134,7 +136,6 @@ TEST_F(CliTest, ParseErrorsShowTheCommandsHelp) {
       {"grid export m nodes o.txt --bogus", "norvane-cli: The following argument was not expected: --bogus\n"},
       {"report m 1 --case", "norvane-cli: --case: 1 required N missing\n"},
       {"kfactor 1 2 3", "norvane-cli: The following argument was not expected: 3\n"},
-      {"report m 1 --case 1 --mode 2", "norvane-cli: give one of --case and --mode\n"},
       {"cylinder --axis Q", "norvane-cli: --axis must be X, Y or Z, not \"Q\"\n"},
   };
   for (const auto& [args, message] : cases) {
@@ -197,8 +198,52 @@ TEST_F(CliTest, ReportPrintsReactionsWithTheirSum) {
 
   // A file is written in the format of its extension.
   ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + dir / "d.txt").status, 0);
-  EXPECT_TRUE(ReadFileText(dir / "d.txt").starts_with(
-      "Node Id\tDx [in]\tDy [in]\tDz [in]\tDox [rad]\tDoy [rad]\tDoz [rad]\r\n1\t0.0000"));
+  const std::string table = ReadFileText(dir / "d.txt");
+  EXPECT_TRUE(table.starts_with("Node Id\tDx [in]\tDy [in]\tDz [in]\tDox [rad]\tDoy [rad]\tDoz [rad]\r\n1\t0.0000"));
+  // Reports gather in one file only when asked, by the grid's rules.
+  const std::string reactions = dir / "reactions.htm";
+  ASSERT_EQ(Cli("report " + kModel + " 1 --case 1 -o " + reactions).status, 0);
+  ASSERT_EQ(Cli("report " + kModel + " 1 --case 2 -o " + reactions + " --append").status, 0);
+  const std::string html = ReadFileText(reactions);
+  EXPECT_LT(html.find("Support Reactions - [Dead]"), html.find("Support Reactions - [Live]")) << html;
+  EXPECT_EQ(html.find("</html>"), html.rfind("</html>")) << "one document";
+  ASSERT_EQ(Cli("report " + kModel + " 0 --case 5 -o " + dir / "d.txt" + " --append").status, 0);
+  EXPECT_EQ(ReadFileText(dir / "d.txt"), table + table);
+  EXPECT_EQ(Cli("report " + kModel + " 0 --append").status, 2) << "--append needs -o";
+}
+
+// Each kind reads what it uses: a case, a mode, an object or nothing; the rest is ignored with a note.
+TEST_F(CliTest, ReportKindsReadOnlyTheChoiceTheyUse) {
+  const std::string nodes = R"("nodes": [{"id": 2, "x": 0, "y": 0, "z": 0}, {"id": 1, "x": 9, "y": 0, "z": 0}])";
+  WriteFileText(dir / "spectrum.json", R"({"format": "norvane-model", "schemaVersion": 1, )" + nodes + R"(,
+      "results": {"spectrum": {"displacements": [[2, 0.5, 0, 0, 0, 0, 0]]}}})");
+  WriteFileText(dir / "cases.json", R"({"format": "norvane-model", "schemaVersion": 1, )" + nodes + R"(,
+      "results": {"cases": [{"label": "Dead", "reactions": [[1, 0, 5, 0, 0, 0, 0], [2, 0, 6, 0, 0, 0, 0]]},
+                            {"label": "Live"}], "envelopeCombinations": ["Dead"]}})");
+  const std::string spectrum = "report " + dir / "spectrum.json", cases = "report " + dir / "cases.json";
+  const struct { std::string args; int status; std::string out, err; } runs[] = {
+      // No static case is needed where none is read.
+      {spectrum + " 41", 0, "Nodal Displacements - Response Spectrum Modal Combinations\n", ""},
+      {spectrum + " 41 --case 3", 0, "Nodal Displacements - Response Spectrum Modal Combinations\n",
+       "norvane-cli: note: report kind 41 reads no load case or mode; --case is ignored\n"},
+      {cases + " 1 --mode 2", 0, "Support Reactions - [Dead]\n",
+       "norvane-cli: note: report kind 1 reads a load case, not a mode; --mode is ignored\n"},
+      {cases + " 0 --query 2", 0, "", "norvane-cli: note: only the information sheets (kinds 29 to 32) read "
+                                       "--query; it is ignored\n"},
+      // A case that is listed without any results.
+      {cases + " 1 --case 2", 1, "", "norvane-cli: The results of load case 2 [Live] are not available.\n"},
+      {cases + " 2 --case 2", 1, "", "norvane-cli: The results of load case 2 [Live] are not available.\n"},
+      // The envelope lists the nodes in the model's order, not the results'.
+      {cases + " 56", 0, "Support Reactions - Envelope\n\nNode Id  max/min", ""},
+  };
+  for (const auto& r : runs) {
+    const CliRun run = Cli(r.args);
+    EXPECT_EQ(run.status, r.status) << r.args << "\n" << run.all();
+    EXPECT_TRUE(run.out.starts_with(r.out)) << r.args << "\n" << run.all();
+    EXPECT_EQ(run.err, r.err) << r.args;
+  }
+  const std::string envelope = Cli(cases + " 56").out;
+  EXPECT_LT(envelope.find("\n2  "), envelope.find("\n1  ")) << envelope;
 }
 
 TEST_F(CliTest, GridExportWritesTheTableAsItsDialogFillsIt) {
@@ -280,10 +325,72 @@ TEST_F(CliTest, SectionsAndShapes) {
   EXPECT_EQ(Cli("section wideflange 10 20 0.5 0.3").all(),
             "label WideF10x20x0.5x0.3\nA 15.7\nAy 6\nAz 8.33333\nIz 1122.31\nIy 83.3761\nJ 0.976371\n"
             "b 10\nd 20\ntf 0.5\ntw 0.3\n");
+  // The calculator's names as well as the short ones.
+  const CliRun rectangle = Cli("section rectangle 2 4");
+  EXPECT_EQ(rectangle.status, 0) << rectangle.all();
+  EXPECT_EQ(rectangle.all(), Cli("section rect 2 4").all());
+  EXPECT_EQ(Cli("section Rectangle 2 4").all(), rectangle.all());
   const CliRun show = Cli("shapes show w14x90");
   EXPECT_EQ(show.status, 0);
   for (const char* line : {"AISC_Manual_Label W14X90\n", "\nIx 999\n"})
     EXPECT_NE(show.out.find(line), std::string::npos) << line;
+}
+
+// The dialog's check from a script: the grid's eight result columns per load set, the dialog's
+// refusals with status 1, the report where --report says.
+TEST_F(CliTest, SteelCheckPrintsTheResultColumnsAndWritesTheReport) {
+  const CliRun r = Cli("steel check W14X90 --magnify --load 300,200,60,10,35,0.85,1.0 --load=-150,120,0,0,20 --report '" +
+                       dir / "w14x90.htm" + "'");
+  ASSERT_EQ(r.status, 0) << r.all();
+  std::vector<std::vector<std::string>> lines;
+  for (size_t at = 0, end; (end = r.out.find('\n', at)) != std::string::npos; at = end + 1) {
+    lines.emplace_back();
+    const std::string line = r.out.substr(at, end - at);
+    for (size_t f = 0, t;; f = t + 1) {
+      t = line.find('\t', f);
+      lines.back().push_back(line.substr(f, t == std::string::npos ? t : t - f));
+      if (t == std::string::npos) break;
+    }
+  }
+  ASSERT_EQ(lines.size(), 2u);
+  ASSERT_EQ(lines[0].size(), 8u);
+  // By hand, W14X90 over 14 ft: phi-Pn = 0.90(43.0)(26.5) = 1,026 kips; in tension 0.90(50)(26.5).
+  EXPECT_NEAR(tools::ParseDouble(lines[0][0]).value_or(-1), 1025.6, 0.5);
+  EXPECT_EQ(lines[1][0], "1192.5");
+  // B1y = 1/(1 - 300/Pe1y), Pe1y = pi^2 (29,000)(362)/168^2; B1x = 0.85/(...) < 1 gives 1.0.
+  const double B1y = 1 / (1 - 300 / (9.869604401089358 * 29000 * 362 / (168.0 * 168.0)));
+  EXPECT_EQ(lines[0][5], "1.0000");
+  EXPECT_EQ(lines[0][6], tools::Format("%.4f", B1y));
+  const auto number = [&](int col) { return tools::ParseDouble(lines[0][static_cast<size_t>(col)]).value_or(-1); };
+  const double h1a = 300 / number(0) + 8.0 / 9.0 * (200 / number(1) + 60 * B1y / number(2));
+  EXPECT_NEAR(number(7), h1a, 1e-4);
+  const std::string html = ReadFileText(dir / "w14x90.htm");
+  EXPECT_NE(html.find("<title>steel design report</title>"), std::string::npos);
+  EXPECT_NE(html.find("<h2>Load set 2</h2>"), std::string::npos);
+  EXPECT_NE(html.find("(H1-1b)"), std::string::npos);
+
+  // Cb 1.0 and Lb 0 pass; no --load is one zero load set. With Lb = 0 flange local buckling (F3-1)
+  // still governs the noncompact flange: 0.90(7,650)/12 = 573.8 kip-ft.
+  EXPECT_EQ(Cli("steel check W14X90 --cb 1.0 --lb 0").out, "1025.63\t573.768\t272.792\t555.93\t184.8\t1.0000\t1.0000\t0.0000\n");
+  const struct { std::string args; int status; std::string message; } refusals[] = {
+      {"--cb 0.99", 1, "Cb must be greater than 1.0\n"},
+      {"--lux 0", 1, "Lux must be greater than 0.0\n"},
+      {"--load 0,0,0,0,0,0.1", 1, "Cmx must be between [0.2, 1.0] for load 1.\n"},
+      {"--load 0,0,0,0,0 --load 0,0,0,0,0,,1.5", 1, "Cmy must be between [0.2, 1.0]  for load 2.\n"},
+      {"--load 1,x,0,0,0", 1, "Invalid Mux for load 1.\n"},
+      {"--fy 5O", 2, "norvane-cli: --fy must be a number, not \"5O\"\n"},
+      {"--load 1,2", 2, "norvane-cli: --load takes \"Pu,Mux,Muy,Vux,Vuy[,Cmx,Cmy]\", not \"1,2\"\n"},
+      {"--report '" + dir / "no/such/folder.htm" + "'", 1, "Error opening file " + dir / "no/such/folder.htm"},
+  };
+  for (const auto& c : refusals) {
+    const CliRun run = Cli("steel check W14X90 " + c.args);
+    EXPECT_EQ(run.status, c.status) << c.args << "\n" << run.all();
+    EXPECT_TRUE(run.err.starts_with(c.message)) << c.args << "\n" << run.all();
+    EXPECT_EQ(run.out, "") << c.args;
+  }
+  const CliRun unknown = Cli("steel check W14X91");
+  EXPECT_EQ(unknown.status, 1);
+  EXPECT_EQ(unknown.err, "Invalid AISC section\n");
 }
 
 // The user's spectrum file is the private home's; generate prints, -o also stores.

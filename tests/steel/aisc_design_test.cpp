@@ -131,6 +131,25 @@ TEST(AiscCompression, DoubleAngleConnectorsModifyTheSlendernessAboutY) {
   EXPECT_NE(report.str().find("(E6-2b)"), std::string::npos);
 }
 
+// Slender elements by hand (E7): a single angle L4X4X1/4, A36, KL = 6 ft: b/t = 16 is within
+// 0.71 sqrt(E/Fy) = 20.2, so E3 about z: KL/rz = 72/0.783, Fe = 33.8 ksi; Qs = 1.34 - 0.76(16)
+// sqrt(36/29000) = 0.912 (E7-11): phi-Pn = 38.0 kips. HSS8X8X3/16, 46 ksi, KL = 10 ft: f = Fcr(Q=1)
+// = 41.8 ksi, be = 6.75 in. of 7.48 (E7-18), Qa = 0.905: phi-Pn = 184.5 kips.
+TEST(AiscCompression, SlenderAngleAndHssWalls) {
+  ExpectWithin(Check(Bundled(), {.shape = "L4X4X1/4", .Fy = 36, .Lx = 6, .Ly = 6, .Lz = 6})->m_phiPn, 37.99);
+  ExpectWithin(Check(Bundled(), {.shape = "HSS8X8X3/16", .Fy = 46, .Lx = 10, .Ly = 10, .Lz = 10})->m_phiPn, 184.5);
+}
+
+// G.3 to G.5 shapes by hand: the long leg of L5X3X1/4 (A36), Aw = 5(0.25), kv = 1.2, Cv = 1:
+// phi-Vn = 0.9(0.6)(36)(1.25) = 24.3 kips (G4); HSS6X4X1/4 (46 ksi) along its 6 in. walls, h/t =
+// 22.8, Aw = 2ht: 61.5 kips (G5); HSS16.000X0.375 (42 ksi), 32 ft: Lv = 16 ft, both G6-2 values
+// exceed 0.6Fy, so phi-Vn = 0.9(25.2)(17.2)/2 = 195 kips (G6).
+TEST(AiscShear, AngleAndHssOfExamplesG3ToG5) {
+  ExpectWithin(Check(Bundled(), {.shape = "L5X3X1/4", .Fy = 36, .Lx = 6, .Ly = 6, .Lz = 6})->m_phiVny, 24.3);
+  ExpectWithin(Check(Bundled(), {.shape = "HSS6X4X1/4", .Fy = 46, .Lx = 6, .Ly = 6, .Lz = 6})->m_phiVny, 61.49);
+  ExpectWithin(Check(Bundled(), {.shape = "HSS16.000X0.375", .Fy = 42, .Lx = 32, .Ly = 32, .Lz = 32})->m_phiVny, 195.0);
+}
+
 // Every shape of every type gives finite, positive strengths and a finite ratio, in compression
 // and in tension, with and without the amplification.
 TEST(AiscDesign, EveryShapeOfTheLibraryGivesFiniteStrengths) {
@@ -196,7 +215,7 @@ TEST(AiscReport, ShowsEveryStepOfABeamColumn) {
   const std::string html = out.str();
   for (const char* step : {"<h2>Load set 1</h2>", "(E3-4)", "(E3-2)", "(E4-4)", "(E3-1)", "(F2-1)", "(F2-5)", "(F2-6)",
                            "(F3-1)", "(F6-1)", "(F6-2)", "(G2-2)", "(G2-1)", "(G2-3)", "(A-8-5)", "(A-8-3)", "(H1-1a)",
-                           "Critical ratio = ", "φMnx = 0.90·", "</section>"})
+                           "Critical ratio = ", "φMnx = 0.90·", "</div>"})
     EXPECT_NE(html.find(step), std::string::npos) << step;
   EXPECT_EQ(html.find("nan"), std::string::npos);
 }

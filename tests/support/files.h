@@ -1,6 +1,4 @@
 #pragma once
-#include <sys/wait.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
@@ -8,6 +6,8 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "support/run_program.h"
 
 // Reading and writing whole files, listing a folder and taking a command's output, for
 // tests of the programs and exports that write files.
@@ -31,17 +31,12 @@ inline std::vector<std::string> FolderEntries(const std::string& folder) {
   return names;
 }
 
-// Standard output of a shell command (unzip, the CLI); status receives its exit status.
+// Standard output of a shell command (unzip, the CLI) run under the programs' time limit;
+// status receives its exit status (-1 when it did not end by itself). Its stderr is passed on.
 inline std::string CommandOutput(const std::string& command, int* status = nullptr) {
-  std::string out;
-  if (FILE* p = ::popen(command.c_str(), "r")) {
-    char buffer[4096];
-    size_t n;
-    while ((n = std::fread(buffer, 1, sizeof buffer, p)) > 0) out.append(buffer, n);
-    const int rc = ::pclose(p);
-    if (status) *status = WIFEXITED(rc) ? WEXITSTATUS(rc) : -1;
-  } else if (status) {
-    *status = -1;
-  }
-  return out;
+  const testsupport::ProgramResult r = testsupport::RunProgram("/bin/sh", {"-c", command});
+  std::fputs(r.err.c_str(), stderr);
+  if (r.timedOut) std::fprintf(stderr, "killed after %lld s: %s\n", static_cast<long long>(testsupport::kProgramTimeLimit.count()), command.c_str());
+  if (status) *status = r.started && r.exited ? r.status : -1;
+  return r.out;
 }

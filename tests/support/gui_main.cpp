@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <clocale>
 
 #include "apps/host/DialogBindings.h"
 #include "dialogs/Library.h"
@@ -13,7 +14,9 @@ int main(int argc, char** argv) {
   QTemporaryDir settingsDir;
   QSettings::setDefaultFormat(QSettings::IniFormat);
   QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir.path());
-  QApplication app(argc, argv);
+  QApplication app(argc, argv);  // sets the C library's locale from the environment
+  // System error texts (strerror) in English, as the expected messages are written.
+  std::setlocale(LC_MESSAGES, "C");
   QApplication::setOrganizationName("NorvaneTests");
   QApplication::setApplicationName("dialog_tests");
   NorvaneDlgsLibrary library;

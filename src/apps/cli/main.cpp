@@ -9,6 +9,7 @@
 constexpr void (*kCommands[])(cli::Program&) = {
     cli::AddUnitsCommand,    cli::AddCombosCommand,  cli::AddGridCommand,   cli::AddKFactorCommand,
     cli::AddCylinderCommand, cli::AddSectionCommand, cli::AddShapesCommand, cli::AddReportCommand,
+    cli::AddSteelCommand,
     cli::AddSpectrumCommand,
 };
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <memory>
 #include <ostream>
+#include <string_view>
 #include <string>
 
 #include "apps/cli/cli.h"
@@ -23,41 +24,61 @@ struct Options {
   int query = -1;      // the object of an information sheet; the first node when not given
   bool selected = false;
   std::string out;
+  bool append = false;
 };
 
 // The texts as given; Parse reads the numbers.
 struct ReportArgs {
   std::string model, kind, caseNumber, modeNumber, query, out;
-  bool selected = false;
+  bool selected = false, append = false;
   const CLI::App* command = nullptr;
 };
 
+// What a kind does not read is ignored with a note: a script that passes --case to every
+// kind still gets its report.
 bool Parse(const ReportArgs& a, Options& o, std::ostream& err) {
-  const auto given = [&a](const char* option) { return a.command->count(option) > 0; };
-  if (given("--case") && given("--mode")) {
-    err << "norvane-cli: give one of --case and --mode\n" << Help(*a.command);
-    return false;
-  }
-  const std::pair<const char*, std::pair<const std::string*, int*>> numbers[] = {
-      {"--case", {&a.caseNumber, &o.number}}, {"--mode", {&a.modeNumber, &o.number}}, {"--query", {&a.query, &o.query}}};
-  for (const auto& [option, target] : numbers) {
-    if (!given(option)) continue;
-    const auto n = tools::ParseInt32(*target.first);
-    if (!n) {
-      err << "norvane-cli: " << option << " needs a whole number, not \"" << *target.first << "\"\n";
-      return false;
-    }
-    *target.second = *n;
-  }
   o.model = a.model;
   o.selected = a.selected;
   o.out = a.out;
+  o.append = a.append;
   const auto kind = tools::ParseInt32(a.kind);
   if (!kind) {
     err << "norvane-cli: the report kind must be a whole number, not \"" << a.kind << "\"\n";
     return false;
   }
   o.kind = *kind;
+  const auto given = [&a](const char* option) { return a.command->count(option) > 0; };
+  const results::ComboUse use = results::ComboUseOf(o.kind);
+  const bool infoSheet = o.kind >= 29 && o.kind <= 32;
+  const struct {
+    const char* option;
+    const std::string* text;
+    int* target;
+    bool read;
+  } numbers[] = {{"--case", &a.caseNumber, &o.number, use == results::ComboUse::LoadCase},
+                 {"--mode", &a.modeNumber, &o.number, use == results::ComboUse::Mode},
+                 {"--query", &a.query, &o.query, infoSheet}};
+  for (const auto& n : numbers) {
+    if (!given(n.option)) continue;
+    if (!n.read) {
+      err << "norvane-cli: note: ";
+      if (std::string_view(n.option) == "--query")
+        err << "only the information sheets (kinds 29 to 32) read --query; it is ignored\n";
+      else if (use == results::ComboUse::Nothing)
+        err << "report kind " << o.kind << " reads no load case or mode; " << n.option << " is ignored\n";
+      else
+        err << "report kind " << o.kind << (use == results::ComboUse::Mode ? " reads a mode, not a load case; "
+                                                                          : " reads a load case, not a mode; ")
+            << n.option << " is ignored\n";
+      continue;
+    }
+    const auto value = tools::ParseInt32(*n.text);
+    if (!value) {
+      err << "norvane-cli: " << n.option << " needs a whole number, not \"" << *n.text << "\"\n";
+      return false;
+    }
+    *n.target = *value;
+  }
   return true;
 }
 
@@ -114,15 +135,26 @@ int Report(const ReportArgs& a, std::ostream& out, std::ostream& err) {
 
   CfmStruct s = model::SolvedStructure(doc);
   if (o.selected) s.m_nShowSelected = 1;
-  const std::vector<std::string> choices = results::ComboEntries(s, o.kind);
-  const bool modes = results::ComboListOf(o.kind) != results::ComboList::Cases;
-  const bool infoSheet = o.kind >= 29 && o.kind <= 32;
-  if (!infoSheet && (o.number < 1 || o.number > static_cast<int>(choices.size()))) {
-    err << "norvane-cli: there is no " << (modes ? "mode " : "load case or combination ") << o.number << " (the model has "
-        << choices.size() << ")\n";
-    return kRefused;
+  const results::ComboUse use = results::ComboUseOf(o.kind);
+  if (use != results::ComboUse::Nothing) {
+    const std::vector<std::string> choices = results::ComboEntries(s, o.kind);
+    const bool modes = use == results::ComboUse::Mode;
+    if (o.number < 1 || o.number > static_cast<int>(choices.size())) {
+      err << "norvane-cli: there is no " << (modes ? "mode " : "load case or combination ") << o.number
+          << " (the model has " << choices.size() << ")\n";
+      return kRefused;
+    }
+    // A case listed by the solver run but without a single result vector has no results,
+    // whichever vector the kind reads.
+    const fmCaseResults* caseResults = s.GetCaseResults(o.number - 1);
+    if (!modes && (!caseResults || *caseResults == fmCaseResults{})) {
+      err << "norvane-cli: The results of load case " << o.number << " [" << s.GetCaseName(o.number - 1)
+          << "] are not available.\n";
+      return kRefused;
+    }
   }
-  const int index = o.number - 1;
+  // Kinds that read no case get none, as the results dialog's hidden combo box gives none.
+  const int index = use == results::ComboUse::Nothing ? 0 : o.number - 1;
   int query = o.query;
   if (query < 0) query = doc.nodes.empty() ? 1 : static_cast<int>(doc.nodes.front().id);
 
@@ -139,7 +171,7 @@ int Report(const ReportArgs& a, std::ostream& out, std::ostream& err) {
   }
 
   if (!o.out.empty()) {
-    if (const auto failure = grid::ExportSheet(sheet, o.out, false, title)) {
+    if (const auto failure = grid::ExportSheet(sheet, o.out, o.append, title)) {
       err << "norvane-cli: " << *failure << "\n";
       return kRefused;
     }
@@ -172,7 +204,9 @@ void AddReportCommand(Program& program) {
   report->add_option("--query", a->query, "the object of an information sheet (the first node when omitted)")
       ->type_name("ID");
   report->add_flag("--selected", a->selected, "only the objects the model has selected");
-  report->add_option("-o", a->out, "write .htm, .txt, .xls or .xlsx instead of aligned text")->type_name("OUT");
+  CLI::Option* out =
+      report->add_option("-o", a->out, "write .htm, .txt, .xls or .xlsx instead of aligned text")->type_name("OUT");
+  report->add_flag("--append", a->append, "add to an existing .htm or .txt file, as the grid's Save does")->needs(out);
 }
 
 }  // namespace cli

@@ -14,16 +14,17 @@ namespace {
 
 struct RegularShape {
   const char* name;
+  const char* alias;  // the calculator's own name where the command's is shorter
   const char* description;
   std::vector<const char*> dimensions;
 };
 
 // In the calculator's order of types.
 const RegularShape kShapes[] = {
-    {"rect", "a solid rectangle", {"WIDTH", "DEPTH"}},
-    {"round", "a round bar", {"DIAMETER"}},
-    {"wideflange", "a wide flange", {"FLANGE_WIDTH", "DEPTH", "FLANGE_THICKNESS", "WEB_THICKNESS"}},
-    {"tee", "a tee", {"FLANGE_WIDTH", "DEPTH", "FLANGE_THICKNESS", "WEB_THICKNESS"}},
+    {"rect", "rectangle", "a solid rectangle", {"WIDTH", "DEPTH"}},
+    {"round", nullptr, "a round bar", {"DIAMETER"}},
+    {"wideflange", nullptr, "a wide flange", {"FLANGE_WIDTH", "DEPTH", "FLANGE_THICKNESS", "WEB_THICKNESS"}},
+    {"tee", nullptr, "a tee", {"FLANGE_WIDTH", "DEPTH", "FLANGE_THICKNESS", "WEB_THICKNESS"}},
 };
 
 int Section(int type, const std::vector<std::string>& texts, std::ostream& out, std::ostream& err) {
@@ -64,6 +65,7 @@ void AddSectionCommand(Program& program) {
     auto texts = std::make_shared<std::vector<std::string>>(shape.dimensions.size());
     CLI::App* command = program.Add(*section, shape.name, std::string("properties of ") + shape.description,
                                     [type, texts](Io io) { return Section(type, *texts, io.out, io.err); });
+    if (shape.alias) command->alias(shape.alias);
     for (size_t i = 0; i < shape.dimensions.size(); ++i)
       command->add_option(shape.dimensions[i], (*texts)[i])->required();
   }

@@ -12,6 +12,7 @@
 #include "dialogs/Library.h"
 #include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
+#include "tools/data_location.h"
 #include "tools/parse.h"
 
 namespace {
@@ -90,7 +91,7 @@ bool ParseOptions(const std::vector<std::string>& args, Options& o, std::string&
   return true;
 }
 
-std::string ExampleModel() { return std::string(NORVANE_EXAMPLES_DIR) + "/building.json"; }
+std::string ExampleModel() { return tools::InstalledDataDirectory() + "/examples/building.json"; }
 
 }  // namespace
 

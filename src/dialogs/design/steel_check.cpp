@@ -66,7 +66,7 @@ void WriteSteelReportHead(std::ostream& out, const SteelMember& m, int loadSets)
   using steel::HtmlEscape;
   using steel::Num;
   steel::WriteReportHead(out, "Steel Beam-Column Check: ANSI/AISC 360-10 LRFD");
-  out << "<section>\n<h2>Member</h2>\n<table class=\"steps\">\n";
+  out << "<div class=\"area\">\n<h2>Member</h2>\n<table class=\"steps\">\n";
   const auto row = [&](const std::string& name, const std::string& value) {
     out << "<tr><td>" << HtmlEscape(name) << "</td><td>" << HtmlEscape(value) << "</td></tr>\n";
   };
@@ -84,10 +84,22 @@ void WriteSteelReportHead(std::ostream& out, const SteelMember& m, int loadSets)
   out << "</table>\n<p>Forces in kip, moments in kip-ft (kip-in within the equations), lengths in ft (in within "
          "the equations), stresses in ksi. Pu &gt; 0 is compression. With moment magnification, B1 of Appendix 8 "
          "amplifies each moment with K1 = 1.0 and the unbraced length about its axis; the direct design method "
-         "takes EI* = 0.8&tau;bEI there.</p>\n</section>\n";
+         "takes EI* = 0.8&tau;bEI there.</p>\n</div>\n";
 }
 
 void WriteSteelReportFoot(std::ostream& out) { steel::WriteReportFoot(out); }
+
+void SetUpDesign(CAiscDesign& design, const SteelMember& m, std::ostream* report) {
+  design.SetPrint(report != nullptr);
+  design.SetPrintFile(report);
+  design.SetMaterial(m.fy);
+  design.SetGeneralParameters(m.direct, m.magnify);
+  // The library takes lengths in inches.
+  design.SetColumnSlenderness(m.kx, m.ky, m.lux * 12.0, m.luy * 12.0);
+  design.SetLateralTorsionalProperty(m.cb, m.lb * 12.0);
+  design.SetColumnSlenderness_Torsional(m.kz, m.luz * 12.0);
+  design.SetDoubleAngleConnnectorDistance(m.connector * 12.0);
+}
 
 bool RunSteelCheck(const SteelMember& m, const std::vector<SteelLoadSet>& loads, std::ostream* report,
                    std::vector<SteelResult>& results, std::string* message, const tools::AiscLibrary* library) {
@@ -100,15 +112,7 @@ bool RunSteelCheck(const SteelMember& m, const std::vector<SteelLoadSet>& loads,
   }
   const std::unique_ptr<CAiscDesign, void (*)(CAiscDesign*)> design(
       raw, [](CAiscDesign* d) { CSteelDesignManager::Instance()->DeleteAiscDesign(d); });
-  design->SetPrint(report != nullptr);
-  design->SetPrintFile(report);
-  design->SetMaterial(m.fy);
-  design->SetGeneralParameters(m.direct, m.magnify);
-  // The library takes lengths in inches.
-  design->SetColumnSlenderness(m.kx, m.ky, m.lux * 12.0, m.luy * 12.0);
-  design->SetLateralTorsionalProperty(m.cb, m.lb * 12.0);
-  design->SetColumnSlenderness_Torsional(m.kz, m.luz * 12.0);
-  design->SetDoubleAngleConnnectorDistance(m.connector * 12.0);
+  SetUpDesign(*design, m, report);
   results.clear();
   for (size_t i = 0; i < loads.size(); ++i) {
     const SteelLoadSet& l = loads[i];

@@ -6,6 +6,8 @@
 
 #include "tools/shape_table.h"
 
+class CAiscDesign;
+
 // The steel beam-column check as the dialog and the command line run it: the member's data
 // in the dialog's units (kip, kip-ft, ft, ksi), the checks of that data with their messages,
 // and the run of the design library over the load sets with its report.
@@ -56,6 +58,9 @@ inline constexpr const char* kSteelReportFile = "kStrand.htm";
 // Writes the document's head and the header block of the member.
 void WriteSteelReportHead(std::ostream& out, const SteelMember& member, int loadSets);
 void WriteSteelReportFoot(std::ostream& out);
+
+// Hands the member to a design object as the dialog does (lengths in inches) and sets its report.
+void SetUpDesign(CAiscDesign& design, const SteelMember& member, std::ostream* report);
 
 // Runs the design library for each load set with the shape library given (the current one
 // when null); writes each load set's steps when `report` is set. False with "Invalid AISC

@@ -331,14 +331,26 @@ void EnvelopeReport(const ReportContext& ctx, const std::vector<fmEnvelopeValue6
                     const std::array<const char*, 6>& names, fmUnit::Quantity first, fmUnit::Quantity second) {
   const CfmStruct& m = ctx.model;
   const bool selectedOnly = ShowSelected(ctx);
-  std::vector<const fmEnvelopeValue6*> shown;
-  std::vector<char> found;
-  shown.reserve(envelope.size());
+  // The nodes in the model's order (the envelope takes the order of a case's vector); those
+  // the model does not have come last, as the envelope holds them.
+  std::vector<std::pair<size_t, const fmEnvelopeValue6*>> ordered;
+  ordered.reserve(envelope.size());
   for (const fmEnvelopeValue6& e : envelope)
     if (!selectedOnly || m.IsNodeSelected(e.number)) {
-      shown.push_back(&e);
-      found.push_back(m.FindNode(e.number) != nullptr);
+      const fmNd* node = m.FindNode(e.number);
+      ordered.emplace_back(node ? static_cast<size_t>(node - m.m_Nodes.data()) : m.m_Nodes.size(), &e);
     }
+  const auto byModelOrder = [](const auto& a, const auto& b) { return a.first < b.first; };
+  if (!std::is_sorted(ordered.begin(), ordered.end(), byModelOrder))
+    std::stable_sort(ordered.begin(), ordered.end(), byModelOrder);
+  std::vector<const fmEnvelopeValue6*> shown;
+  std::vector<char> found;
+  shown.reserve(ordered.size());
+  found.reserve(ordered.size());
+  for (const auto& [position, e] : ordered) {
+    shown.push_back(e);
+    found.push_back(position < m.m_Nodes.size());
+  }
   std::vector<std::string> headers = {"Node Id", "max/min"};
   for (int k = 0; k < 6; ++k) {
     headers.push_back(m.m_Units.Heading(names[k], k < 3 ? first : second));

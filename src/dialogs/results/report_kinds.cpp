@@ -148,6 +148,12 @@ ControlsShown ControlsFor(int kind) {
 
 bool IgnoresComboChange(int kind) { return kind == 22 || kind == 23 || (kind >= 55 && kind <= 57); }
 
+ComboUse ComboUseOf(int kind) {
+  if (kind == 21 || (kind >= 35 && kind <= 40)) return ComboUse::Mode;
+  if ((kind >= 0 && kind <= 19) || kind == 33 || kind == 51 || kind == 53) return ComboUse::LoadCase;
+  return ComboUse::Nothing;
+}
+
 bool IsReportBuilt(int kind) {
   return (kind >= 0 && kind <= 5) || kind == 21 || (kind >= 29 && kind <= 33) || (kind >= 35 && kind <= 46) ||
          (kind >= 51 && kind <= 56);

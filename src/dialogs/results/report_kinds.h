@@ -35,6 +35,11 @@ ControlsShown ControlsFor(int kind);
 // Reports that do not depend on one case: a change of the combo box leaves them alone.
 bool IgnoresComboChange(int kind);
 
+// What a kind's report reads of the combo box: a load case or combination (0 to 19, 33, 51,
+// 53), a mode (21, 35 to 40), or nothing (the kinds that hide or ignore the combo).
+enum class ComboUse { LoadCase, Mode, Nothing };
+ComboUse ComboUseOf(int kind);
+
 // Whether this version builds the report of a kind (the beam, shell, brick, modal and
 // concrete reports are not built yet).
 bool IsReportBuilt(int kind);

@@ -11,6 +11,7 @@
 #include "resources/sections_ids.h"
 #include "support/files.h"
 #include "tools/format.h"
+#include "tools/parse.h"
 
 namespace {
 
@@ -80,7 +81,7 @@ TEST_F(SteelCheckDialogTest, EmptyGridChecksOneZeroLoadSetAndWritesTheReport) {
   EXPECT_EQ(Messages(), std::vector<std::string>{});
   // W14X90, 14 ft, Fy 50, by hand: KL/ry = 168/3.70 = 45.4, Fe = 138.8 ksi,
   // Fcr = 0.658^(50/138.8)(50) = 43.0 ksi, phi-Pn = 0.90(43.0)(26.5) = 1,026 kips.
-  EXPECT_NEAR(std::stod(Cell(8, 1)), 1025.6, 0.5);
+  EXPECT_NEAR(tools::ParseDouble(Cell(8, 1)).value_or(-1), 1025.6, 0.5);
   EXPECT_EQ(Cell(13, 1), "1.0000");
   EXPECT_EQ(Cell(14, 1), "1.0000");
   EXPECT_EQ(Cell(15, 1), "0.0000");
@@ -126,7 +127,7 @@ TEST_F(SteelCheckDialogTest, ResultsUseTheGridFormatsAndClearWhenTheMemberChange
   dlg.PressButton(IDOK);
   ASSERT_EQ(Messages(), std::vector<std::string>{});
   // phi-Mnx of a W14X90 with Lb = 14 ft, Cb = 1: F3-1 governs (noncompact flange) at "%g".
-  EXPECT_EQ(Cell(9, 1), tools::FormatG(std::stod(Cell(9, 1))));
+  EXPECT_EQ(Cell(9, 1), tools::FormatG(tools::ParseDouble(Cell(9, 1)).value_or(-1)));
   EXPECT_EQ(Cell(13, 1).size(), 6u);
   // B1x = 1/(1 - 300/Pe1), Pe1 = pi^2 (29,000)(999)/(1.0 x 168)^2 = 10,138 kips.
   EXPECT_EQ(Cell(13, 1), tools::Format("%.4f", 1 / (1 - 300 / (9.869604401089358 * 29000 * 999 / (168.0 * 168.0)))));

@@ -1,7 +1,7 @@
+#include <QPdfDocument>
+#include <QPdfSelection>
 #include <QPrinter>
 #include <QSettings>
-
-#include <regex>
 
 #include "dialogs/grid/TSpread.h"
 #include "dialogs/model/CNodeDataDlg.h"
@@ -15,16 +15,16 @@ namespace {
 
 const char* kPrintQuestion = "This will print the selected items to the default printer.\nDo you want to continue?";
 
-// Qt writes one "/Type /Page" object per page.
+// The PDF is read back with Qt's own PDF module, in the process.
 int PdfPages(const std::string& path) {
-  const std::string pdf = ReadFileText(path);
-  static const std::regex kPage("/Type /Page[^s]");
-  return static_cast<int>(std::distance(std::sregex_iterator(pdf.begin(), pdf.end(), kPage), std::sregex_iterator()));
+  QPdfDocument pdf;
+  return pdf.load(QString::fromStdString(path)) == QPdfDocument::Error::None ? pdf.pageCount() : -1;
 }
 
 std::string PdfPageText(const std::string& path, int page) {
-  const std::string n = std::to_string(page);
-  return CommandOutput("pdftotext -layout -f " + n + " -l " + n + " '" + path + "' - 2>/dev/null");
+  QPdfDocument pdf;
+  if (pdf.load(QString::fromStdString(path)) != QPdfDocument::Error::None) return {};
+  return pdf.getAllText(page - 1).text().toStdString();
 }
 
 class GridPrintTest : public DialogTest {

@@ -1,0 +1,160 @@
+#include "analysis/modal.h"
+
+#include <Spectra/SymGEigsShiftSolver.h>
+
+#include <algorithm>
+#include <cmath>
+#include <random>
+
+#include "analysis/sparse_factor.h"
+
+namespace analysis {
+namespace {
+
+// y = K⁻¹ x on the factorised stiffness: shift-invert about σ = 0, where K is positive definite.
+class InverseStiffness {
+ public:
+  using Scalar = double;
+  explicit InverseStiffness(const StiffnessFactor& factor) : factor_(factor) {}
+  Eigen::Index rows() const { return factor_.Size(); }
+  Eigen::Index cols() const { return factor_.Size(); }
+  void set_shift(double) {}
+  void perform_op(const double* x, double* y) const {
+    Eigen::Map<Eigen::VectorXd>(y, rows()) = factor_.Solve(Eigen::Map<const Eigen::VectorXd>(x, rows()).eval());
+  }
+
+ private:
+  const StiffnessFactor& factor_;
+};
+
+class DiagonalMass {
+ public:
+  using Scalar = double;
+  explicit DiagonalMass(const Eigen::VectorXd& m) : m_(m) {}
+  Eigen::Index rows() const { return m_.size(); }
+  Eigen::Index cols() const { return m_.size(); }
+  void perform_op(const double* x, double* y) const {
+    Eigen::Map<Eigen::VectorXd>(y, rows()) = m_.cwiseProduct(Eigen::Map<const Eigen::VectorXd>(x, rows()));
+  }
+
+ private:
+  const Eigen::VectorXd& m_;
+};
+
+}  // namespace
+
+ModalResults SolveModes(const Model& model, int count, const Progress& progress) {
+  ModalResults out;
+  if (progress) progress("Assembling and factoring the stiffness", 0.0);
+  auto stiffness = std::make_shared<GlobalStiffness>(AssembleStiffness(model, {}));
+  out.stiffness = stiffness;
+  const DofNumbering& num = stiffness->numbering;
+  StiffnessFactor factor;
+  factor.Factor(stiffness->free, [&](Eigen::Index eq) { return DofLabel(model, num.freeDofs[static_cast<size_t>(eq)]); });
+
+  out.mass = LumpedMasses(model);
+  const auto nf = static_cast<Eigen::Index>(num.freeDofs.size());
+  Eigen::VectorXd m(nf);
+  Eigen::Index massive = 0;
+  for (Eigen::Index i = 0; i < nf; ++i) {
+    m[i] = out.mass[static_cast<Eigen::Index>(num.freeDofs[static_cast<size_t>(i)])];
+    if (m[i] > 0) ++massive;
+  }
+  const Eigen::Index nev = std::min<Eigen::Index>(count, massive - 1);
+  if (nev < 1) throw AnalysisError("The model has no mass on the degrees of freedom that can move: no modes.");
+
+  if (progress) progress("Finding the modes", 0.3);
+  InverseStiffness op(factor);
+  DiagonalMass bop(m);
+  const Eigen::Index ncv = std::min<Eigen::Index>(massive, std::max<Eigen::Index>(2 * nev + 1, nev + 20));
+  Spectra::SymGEigsShiftSolver<InverseStiffness, DiagonalMass, Spectra::GEigsMode::ShiftInvert> solver(op, bop, nev, ncv, 0.0);
+  // Start inside the range of K⁻¹ M, which is where the modes with mass live.
+  std::mt19937 random(12345);
+  std::uniform_real_distribution<double> uniform(-1, 1);
+  Eigen::VectorXd start(nf);
+  for (Eigen::Index i = 0; i < nf; ++i) start[i] = uniform(random) * (m[i] > 0 ? 1 : 0);
+  start = factor.Solve(start);
+  solver.init(start.data());
+  solver.compute(Spectra::SortRule::LargestMagn, 1000, 1e-10, Spectra::SortRule::SmallestAlge);
+  if (solver.info() != Spectra::CompInfo::Successful)
+    throw AnalysisError("The modes did not converge.");
+  const Eigen::VectorXd values = solver.eigenvalues();
+  const Eigen::MatrixXd vectors = solver.eigenvectors();
+
+  if (progress) progress("Checking the modes", 0.9);
+  const SparseMatrix& k = stiffness->free;
+  for (Eigen::Index j = 0; j < values.size(); ++j) {
+    Mode mode;
+    mode.omega2 = values[j];
+    Eigen::VectorXd phi = vectors.col(j);
+    phi /= std::sqrt(phi.dot(m.cwiseProduct(phi)));
+    const Eigen::VectorXd kphi = k.selfadjointView<Eigen::Upper>() * phi;
+    mode.error = (kphi - mode.omega2 * m.cwiseProduct(phi)).norm() / kphi.norm();
+    mode.shape = Eigen::VectorXd::Zero(out.mass.size());
+    for (Eigen::Index i = 0; i < nf; ++i) mode.shape[static_cast<Eigen::Index>(num.freeDofs[static_cast<size_t>(i)])] = phi[i];
+    out.modes.push_back(std::move(mode));
+  }
+  if (progress) progress("Done", 1.0);
+  return out;
+}
+
+double SpectrumCurve::At(double period) const {
+  if (points.empty()) return 0;
+  if (period <= points.front().first) return points.front().second;
+  if (period >= points.back().first) return points.back().second;
+  const auto hi = std::lower_bound(points.begin(), points.end(), period,
+                                   [](const std::pair<double, double>& p, double t) { return p.first < t; });
+  const auto lo = hi - 1;
+  const double r = (period - lo->first) / (hi->first - lo->first);
+  return lo->second + r * (hi->second - lo->second);
+}
+
+SpectrumResults SolveResponseSpectrum(const Model& model, const ModalResults& modal, const SpectrumSettings& settings) {
+  SpectrumResults out;
+  const Eigen::Index n = modal.mass.size();
+  std::array<Eigen::VectorXd, 3> dirDisp, dirReact;
+  for (auto& v : dirDisp) v = Eigen::VectorXd::Zero(n);
+  for (auto& v : dirReact) v = Eigen::VectorXd::Zero(n);
+  auto accumulate = [&](Eigen::VectorXd& total, const Eigen::VectorXd& value) {
+    total += settings.absoluteSum ? value.cwiseAbs().eval() : value.cwiseProduct(value).eval();
+  };
+  // Reactions: what the held degrees of freedom take of K u.
+  std::vector<char> held(static_cast<size_t>(n), 0);
+  for (const Support& s : model.supports)
+    for (int d = 0; d < 6; ++d)
+      if (s.held[static_cast<size_t>(d)]) held[GlobalDof(s.node, d)] = 1;
+
+  for (const Mode& mode : modal.modes) {
+    SpectrumMode sm;
+    sm.omega2 = mode.omega2;
+    const Eigen::VectorXd mphi = modal.mass.cwiseProduct(mode.shape);
+    for (int d = 0; d < 3; ++d) {
+      double mr = 0;
+      for (Eigen::Index i = d; i < n; i += 6) mr += mphi[i];
+      sm.participation[static_cast<size_t>(d)] = mr / mode.shape.dot(mphi);
+      const double sa = settings.curves[static_cast<size_t>(d)].At(PeriodOf(mode.omega2)) * model.g;
+      const double gamma = sm.participation[static_cast<size_t>(d)];
+      sm.displacement[static_cast<size_t>(d)] = (gamma * sa / mode.omega2) * mode.shape;
+      sm.inertialForce[static_cast<size_t>(d)] = (gamma * sa) * mphi;
+      const Eigen::VectorXd ku = modal.stiffness->full.selfadjointView<Eigen::Upper>() * sm.displacement[static_cast<size_t>(d)];
+      Eigen::VectorXd r = Eigen::VectorXd::Zero(n);
+      for (Eigen::Index i = 0; i < n; ++i)
+        if (held[static_cast<size_t>(i)]) r[i] = ku[i];
+      sm.reaction[static_cast<size_t>(d)] = r;
+      accumulate(dirDisp[static_cast<size_t>(d)], sm.displacement[static_cast<size_t>(d)]);
+      accumulate(dirReact[static_cast<size_t>(d)], r);
+    }
+    out.modes.push_back(std::move(sm));
+  }
+  out.displacement = Eigen::VectorXd::Zero(n);
+  out.reaction = Eigen::VectorXd::Zero(n);
+  for (int d = 0; d < 3; ++d) {
+    const Eigen::VectorXd u = settings.absoluteSum ? dirDisp[static_cast<size_t>(d)] : dirDisp[static_cast<size_t>(d)].cwiseSqrt().eval();
+    const Eigen::VectorXd r = settings.absoluteSum ? dirReact[static_cast<size_t>(d)] : dirReact[static_cast<size_t>(d)].cwiseSqrt().eval();
+    out.displacement += settings.factor[static_cast<size_t>(d)] * u;
+    out.reaction += settings.factor[static_cast<size_t>(d)] * r;
+  }
+  return out;
+}
+
+}  // namespace analysis
