@@ -12,7 +12,6 @@
 namespace analysis {
 
 using SparseMatrix = Eigen::SparseMatrix<double, Eigen::ColMajor, int>;
-using Progress = std::function<void(const std::string& stage, double fraction)>;
 
 // Global degree of freedom 6 * node + dof.
 inline size_t GlobalDof(size_t node, int dof) { return 6 * node + static_cast<size_t>(dof); }

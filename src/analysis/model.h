@@ -1,6 +1,7 @@
 #pragma once
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -15,6 +16,9 @@ namespace analysis {
 enum Dof { Ux, Uy, Uz, Rx, Ry, Rz };
 inline constexpr int kNodeDofs = 6;
 const char* DofName(int dof);  // "Dx" ... "Rz"
+
+// Reports a stage of the work and how far the whole has come (0 to 1).
+using Progress = std::function<void(const std::string& stage, double fraction)>;
 
 struct Node {
   uint32_t id = 0;

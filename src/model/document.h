@@ -34,6 +34,8 @@ struct ModelDocument {
   std::vector<fmSupport> supports;  // at most one per node, each at a node of `nodes`
   fmResponseSpectrumSettings spectrumAnalysis;  // spectra named from the user's spectrum file
   fmSolution results;  // what the last solver run produced; empty when never solved
+
+  bool operator==(const ModelDocument&) const = default;
 };
 
 // The schema version written; older versions stay readable.

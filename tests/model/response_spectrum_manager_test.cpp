@@ -112,14 +112,6 @@ TEST_F(SpectrumManagerTest, LocationComesFromTheEnvironmentUnlessSet) {
     ::unsetenv("XDG_DATA_HOME");
 }
 
-TEST_F(SpectrumManagerTest, FailedSaveSaysWhyAndLeavesNoFile) {
-  WriteFileText(dir / "blocker", "a file where the folder should be");
-  manager.SetFilePath(dir / "blocker/response-spectra.txt");
-  EXPECT_FALSE(manager.SaveFile());
-  EXPECT_NE(manager.LastError(), "");
-  EXPECT_EQ(ReadFileText(dir / "blocker"), "a file where the folder should be");
-}
-
 TEST(SpectrumPoints, ImportReadsTextAndCsvAndRefusesWithTheLine) {
   EXPECT_EQ(model::ParseSpectrumPoints("Period,Sa\r\n0,0.4\r\n0.5 , 1\r\n\r\n# note\r\n2;0.3\r\n"),
             (std::vector<fmSpectrumPoint>{{0, 0.4}, {0.5, 1}, {2, 0.3}}));

@@ -56,6 +56,7 @@ void AddCylinderCommand(Program& program);
 void AddSectionCommand(Program& program);
 void AddShapesCommand(Program& program);
 void AddReportCommand(Program& program);
+void AddAnalyzeCommand(Program& program);
 void AddSteelCommand(Program& program);
 void AddSpectrumCommand(Program& program);
 

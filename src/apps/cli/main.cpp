@@ -8,7 +8,7 @@
 // Add a family's command here.
 constexpr void (*kCommands[])(cli::Program&) = {
     cli::AddUnitsCommand,    cli::AddCombosCommand,  cli::AddGridCommand,   cli::AddKFactorCommand,
-    cli::AddCylinderCommand, cli::AddSectionCommand, cli::AddShapesCommand, cli::AddReportCommand,
+    cli::AddCylinderCommand, cli::AddSectionCommand, cli::AddShapesCommand, cli::AddReportCommand, cli::AddAnalyzeCommand,
     cli::AddSteelCommand,
     cli::AddSpectrumCommand,
 };

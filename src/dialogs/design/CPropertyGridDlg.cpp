@@ -1,5 +1,10 @@
 #include "dialogs/design/CPropertyGridDlg.h"
 
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTableView>
+#include <algorithm>
+
 #include "resources/grid_ids.h"
 #include "tools/parse.h"
 
@@ -14,6 +19,18 @@ BOOL CPropertyGridDlg::OnInitDialog() {
     MessageBox("The Model is locked.\nYou can not modify data in the spreadsheet.", MessageIcon::Information);
   }
   return 1;
+}
+
+QSize CPropertyGridDlg::sizeHint() const {
+  QSize hint = CDataGridDlg::sizeHint();
+  const QTableView* view = m_Spread.view();
+  if (!view) return hint;
+  // The table's own width: row headers, every column, the frame and a vertical scroll bar.
+  const int table = view->verticalHeader()->width() + view->horizontalHeader()->length() + 2 * view->frameWidth() +
+                    view->verticalScrollBar()->sizeHint().width();
+  const int extra = table - m_Spread.sizeHint().width();
+  if (extra > 0) hint.setWidth(std::min(hint.width() + extra, 1800));
+  return hint;
 }
 
 int CPropertyGridDlg::ChooseTargetRow(int labelColumn, const char* question, bool ask) {

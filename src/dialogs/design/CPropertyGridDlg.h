@@ -6,6 +6,10 @@
 // The section, thickness and material tables: a data grid whose locked-model handling
 // disables the table's own editing buttons too and says only that the model is locked.
 class CPropertyGridDlg : public CDataGridDlg {
+ public:
+  // Wide enough at its first size for every column of the table.
+  QSize sizeHint() const override;
+
  protected:
   CPropertyGridDlg(int templateId, QWidget* pParent) : CDataGridDlg(templateId, pParent) {}
 

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 
 #include "tools/atomic_file.h"
 #include "tools/format.h"
@@ -96,11 +97,19 @@ void AppendTextCell(std::string& out, const std::string& text) {
   out += '"';
 }
 
+// Whether the file's last byte leaves the next text on a line of its own (an empty file does).
+bool EndsOnNewLine(const std::string& path) {
+  std::ifstream in(path, std::ios::binary | std::ios::ate);
+  if (!in || in.tellg() <= 0) return true;
+  in.seekg(-1, std::ios::end);
+  return in.get() == '\n';
+}
+
 std::optional<std::string> ExportText(const Sheet& sheet, const std::string& path, bool append) {
   try {
     // Appending to a file that is not there yet creates it the same way a new export does.
     if (append && FileExists(path))
-      tools::AppendToFile(path, TabSeparatedText(sheet));
+      tools::AppendToFile(path, (EndsOnNewLine(path) ? "" : "\r\n") + TabSeparatedText(sheet));
     else
       tools::WriteFileAtomically(path, TabSeparatedText(sheet));
   } catch (const tools::FileError& e) {

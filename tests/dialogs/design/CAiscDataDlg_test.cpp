@@ -5,6 +5,7 @@
 #include <QTreeWidget>
 
 #include "dialogs/design/CNdsDataDlg.h"
+#include "dialogs/design/SectionPicture.h"
 #include "dialogs/design/SectionsDialogTest.h"
 #include "resources/sections_ids.h"
 
@@ -62,4 +63,34 @@ TEST_F(SectionsDialogTest, LumberBrowserListsDressedSizesByFamily) {
   for (int i = 0; i < list->count(); ++i) EXPECT_GE(list->item(i)->text().split('x')[0].toInt(), 5);
   dlg.PressButton(IDOK);
   EXPECT_EQ(dlg.m_Shape.nominalB, 5);
+}
+
+TEST_F(SectionsDialogTest, ThePictureKeepsEveryTextClearOfTheDimensionLines) {
+  for (int length : {0, 1}) {  // in, ft: the longer texts of feet must fit as well
+    fmUnit units;
+    units.unit[fmUnit::Length] = length;
+    for (const char* label : {"W44X335", "L8X4X1", "C15X50", "WT22X167.5", "HSS20X12X5/8", "2L8X4X1LLBB"}) {
+      CAiscDataDlg dlg;
+      dlg.m_pUnits = &units;
+      dlg.m_strShapeName = label;
+      dlg.InitDialogForTest();
+      SectionPicture* picture = dlg.Picture();
+      ASSERT_NE(picture, nullptr);
+      for (const QSize size : {QSize(270, 430), QSize(220, 220), QSize(420, 300)}) {
+        picture->resize(size);
+        const auto marks = picture->PlaceMarks();
+        ASSERT_FALSE(marks.empty()) << label;
+        for (const auto& text : marks) {
+          if (text.line.isNull()) continue;
+          EXPECT_TRUE(QRectF(picture->rect()).contains(text.text)) << label << " " << size.width();
+          // Walk every dimension line a pixel at a time: no point of it lies in a text.
+          for (const auto& mark : marks)
+            for (double t = 0; t <= 1; t += 1 / std::max(1.0, mark.line.length()))
+              EXPECT_FALSE(text.text.adjusted(0.5, 0.5, -0.5, -0.5).contains(mark.line.pointAt(t)))
+                  << label << " at " << size.width() << "x" << size.height() << ": a line crosses "
+                  << text.text.x() << "," << text.text.y();
+        }
+      }
+    }
+  }
 }

@@ -1,6 +1,8 @@
 #include "dialogs/design/CSectionDlg.h"
 
+#include <QApplication>
 #include <QLineEdit>
+#include <QTableView>
 
 #include "dialogs/design/CAiscDataDlg.h"
 #include "dialogs/design/CRegularSectionDlg.h"
@@ -246,4 +248,19 @@ TEST_F(SectionDialogTest, ADoubleAngleMakesASectionOkAcceptsOrIsRefusedWhenChose
   dlg.PressButton(IDOK);
   EXPECT_EQ(dlg.ModalResult(), IDOK) << (Messages().empty() ? "" : Messages().back());
   EXPECT_DOUBLE_EQ(sections[2].J, 7.36);
+}
+
+TEST_F(SectionDialogTest, TheTableShowsEveryColumnAtItsFirstSize) {
+  // Small sections in ft: every cell as long as "%g" makes it ("1.23457e-05").
+  for (fmSect& s : sections)
+    for (double* v : {&s.A, &s.Ay, &s.Az, &s.Iz, &s.Iy, &s.J, &s.b, &s.d, &s.tf, &s.tw}) *v = 1.234567e-5;
+  Open(false, 1);
+  dlg.show();
+  dlg.resize(dlg.sizeHint());  // the size it opens at on a screen wide enough
+  QApplication::processEvents();
+  const QTableView* view = dlg.Spread().view();
+  const int last = view->model()->columnCount() - 1;
+  EXPECT_LE(view->columnViewportPosition(last) + view->columnWidth(last), view->viewport()->width())
+      << "the last column (tw) is cut off";
+  dlg.hide();
 }

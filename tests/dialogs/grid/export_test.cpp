@@ -153,6 +153,15 @@ TEST(ExportText, TabsBetweenCellsAndCrLfAfterEveryRow) {
   ASSERT_EQ(grid::ExportSheet(MakeSheet(kNodes), path, true, "Node Table"), std::nullopt);
   EXPECT_EQ(ReadFileText(path), expected + expected);
   EXPECT_EQ(grid::ParseTabSeparated(grid::TabSeparatedText(MakeSheet(kAwkward))), kAwkward);
+
+  // Appended text starts on a line of its own, whatever the file's last line ends with.
+  for (const std::string& before : {std::string("line without newline"), std::string("unix line\n"),
+                                    std::string("")}) {
+    WriteFileText(path, before);
+    ASSERT_EQ(grid::ExportSheet(MakeSheet(kNodes), path, true, "Node Table"), std::nullopt);
+    const std::string glue = before.empty() || before.ends_with('\n') ? "" : "\r\n";
+    EXPECT_EQ(ReadFileText(path), before + glue + expected) << before;
+  }
 }
 
 TEST(ExportWorkbook, NumbersAsNumbersTextAsTextNeverFormulas) {

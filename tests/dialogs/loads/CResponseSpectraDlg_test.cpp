@@ -139,12 +139,3 @@ TEST_F(SpectraListTest, DamagedFileIsShownAndOffersNoChanges) {
     EXPECT_FALSE(dlg.GetDlgItem(id)->isEnabled()) << id;
   EXPECT_EQ(ReadFileText(File()), "norvane-response-spectra 1\nspectrum A\n0\t1\n0\t2\nend\n");
 }
-
-TEST_F(SpectraListTest, ExportWritesTheSelectedSpectrum) {
-  Store({kFirst, {"Two", {{0, 1}, {1.5, 0.25}}}});
-  dlg.InitDialogForTest();
-  Select(1);
-  prompter.QueuePath(dir / "two.csv");
-  dlg.PressButton(kCtlSpectraExport);
-  EXPECT_EQ(ReadFileText(dir / "two.csv"), "0,1\n1.5,0.25\n");
-}

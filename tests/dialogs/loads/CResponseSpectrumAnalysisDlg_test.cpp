@@ -1,7 +1,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 
-#include "apps/host/DialogBindings.h"
 #include "dialogs/loads/CResponseSpectrumAnalysisDlg.h"
 #include "dialogs/loads/SpectraDialogTest.h"
 #include "resources/spectra_ids.h"
@@ -62,25 +61,4 @@ TEST_F(SpectrumAnalysisTest, RefusesInOrderAndStoresOnlyWhenEverythingHolds) {
   EXPECT_EQ(dlg.ModalResult(), IDOK);
   EXPECT_EQ(dlg.m_settings, (fmResponseSpectrumSettings{false, {"Site", "ASCE_2010_SDS_1_SD1_0.6_TL_8", "Site"},
                                                          "ABSSUM", 0.02, {0, 0, 0.3}}));
-}
-
-// Through the host: the document's settings in, the chosen ones back, the model marked changed.
-TEST_F(SpectrumAnalysisTest, HostKeepsTheSettingsInTheModel) {
-  RegisterAllBindings();
-  const DialogBinding* binding = FindDialogBinding("CResponseSpectrumAnalysisDlg");
-  ASSERT_NE(binding, nullptr);
-  HostModel host;
-  CResponseSpectrumAnalysisDlg dlg;
-  binding->prepare(dlg, host);
-  dlg.InitDialogForTest();
-  EXPECT_EQ(dlg.Item<QComboBox>(kCtlRsaSpectrumX + 2)->currentIndex(), 0) << "a model that never chose starts on the first";
-  dlg.ChooseItem(kCtlRsaSpectrumX, 1);
-  dlg.PressButton(kCtlRsaPerform);
-  dlg.PressButton(IDOK);
-  ASSERT_EQ(dlg.ModalResult(), IDOK);
-  EXPECT_TRUE(binding->takeBack(dlg, host));
-  EXPECT_TRUE(host.doc.spectrumAnalysis.enabled);
-  EXPECT_EQ(host.doc.spectrumAnalysis.spectrum[0], "Site");
-  EXPECT_EQ(host.doc.spectrumAnalysis.spectrum[2], kFirst.name);
-  EXPECT_TRUE(Messages().empty());
 }

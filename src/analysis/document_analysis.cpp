@@ -1,0 +1,346 @@
+#include "analysis/document_analysis.h"
+
+#include <algorithm>
+#include <cmath>
+#include <unordered_map>
+
+#include "analysis/linear_static.h"
+#include "analysis/modal.h"
+#include "model/response_spectrum_settings.h"
+#include "tools/format.h"
+#include "tools/labels.h"
+
+namespace analysis {
+namespace {
+
+using Q = fmUnit::Quantity;
+
+// Sizes of the document's units in lb, in, rad and °F (each unit group's first unit).
+struct Scale {
+  const fmUnit& u;
+  double operator()(Q q) const { return u.Factor(q); }
+  // A force (direction 0-2) or moment (3-5) of a degree of freedom.
+  double Action(int dof) const { return dof < 3 ? u.Factor(fmUnit::Force) : u.Factor(fmUnit::Moment); }
+  double Motion(int dof) const { return dof < 3 ? u.Factor(fmUnit::Displacement) : u.Factor(fmUnit::Rotation); }
+  double Spring(int dof) const { return dof < 3 ? u.Factor(fmUnit::NodeSpring) : u.Factor(fmUnit::NodeRotationalSpring); }
+};
+
+double s_Force(const fmUnit& u) { return u.Factor(fmUnit::Force); }
+
+std::string Id(int64_t id) { return std::to_string(id); }
+
+class NodeIndex {
+ public:
+  explicit NodeIndex(const std::vector<fmNd>& nodes) {
+    index_.reserve(nodes.size() * 2);
+    for (size_t i = 0; i < nodes.size(); ++i) index_.emplace(nodes[i].id, i);
+  }
+  size_t At(int64_t id, const std::string& owner) const {
+    const auto it = index_.find(id);
+    if (it == index_.end()) throw AnalysisError(owner + " names node " + Id(id) + ", which the model does not have.");
+    return it->second;
+  }
+  bool Has(int64_t id) const { return index_.count(id) != 0; }
+
+ private:
+  std::unordered_map<int64_t, size_t> index_;
+};
+
+// A 1-based reference into a table.
+size_t Reference(int32_t ref, size_t count, const std::string& owner, const char* what) {
+  if (ref < 1 || static_cast<size_t>(ref) > count) throw AnalysisError(owner + " has no " + what + ".");
+  return static_cast<size_t>(ref - 1);
+}
+
+}  // namespace
+
+DocumentModel ModelFromDocument(const model::ModelDocument& doc) {
+  DocumentModel out;
+  Model& m = out.model;
+  const Scale s{doc.units};
+  const Scale rs{doc.results.units};
+  const double fl = s(fmUnit::Length);
+
+  for (const fmNd& n : doc.nodes) {
+    m.nodes.push_back({n.id, n.x * fl, n.y * fl, n.z * fl});
+    out.nodeOfDocument.push_back(m.nodes.size() - 1);
+  }
+  const NodeIndex nodes(doc.nodes);
+  for (const fmMat& mat : doc.materials)
+    m.materials.push_back({mat.E * s(fmUnit::Modulus), mat.nu, mat.density * s(fmUnit::WeightDensity),
+                           mat.Tc / s(fmUnit::Temperature)});
+  for (const fmSect& sec : doc.sections)
+    m.sections.push_back({sec.A * fl * fl, sec.Ay * fl * fl, sec.Az * fl * fl, sec.Iy * std::pow(fl, 4),
+                          sec.Iz * std::pow(fl, 4), sec.J * std::pow(fl, 4)});
+
+  size_t inactive = 0;
+  for (const fmBm& b : doc.members) {
+    if (b.IsInactive()) {
+      ++inactive;
+      continue;
+    }
+    const std::string owner = "Member " + Id(b.id);
+    Member mb;
+    mb.id = b.id;
+    mb.nodes = {nodes.At(b.nodes[0], owner), nodes.At(b.nodes[1], owner)};
+    mb.section = Reference(b.sect, doc.sections.size(), owner, "section");
+    mb.rigid = doc.sections[mb.section].IsRigidLink();
+    if (!mb.rigid) mb.material = Reference(b.mat, doc.materials.size(), owner, "material");
+    mb.angleDeg = b.angle;
+    mb.axial = b.nonlinear == fmNonlinear::TensionOnly       ? AxialBehaviour::TensionOnly
+               : b.nonlinear == fmNonlinear::CompressionOnly ? AxialBehaviour::CompressionOnly
+                                                             : AxialBehaviour::Linear;
+    m.members.push_back(mb);
+  }
+  for (const fmShell4& e : doc.shells) {
+    if (e.IsInactive()) {
+      ++inactive;
+      continue;
+    }
+    const std::string owner = "Shell " + Id(e.id);
+    Shell sh;
+    sh.id = e.id;
+    for (size_t a = 0; a < 4; ++a) sh.nodes[a] = nodes.At(e.nodes[a], owner);
+    sh.material = Reference(e.mat, doc.materials.size(), owner, "material");
+    sh.thickness = doc.thicknesses[Reference(e.thick, doc.thicknesses.size(), owner, "thickness")].thickness * fl;
+    m.shells.push_back(sh);
+  }
+  for (const fmBrick& e : doc.bricks) {
+    if (e.IsInactive()) {
+      ++inactive;
+      continue;
+    }
+    const std::string owner = "Brick " + Id(e.id);
+    Brick br;
+    br.id = e.id;
+    for (size_t a = 0; a < 8; ++a) br.nodes[a] = nodes.At(e.nodes[a], owner);
+    br.material = Reference(e.mat, doc.materials.size(), owner, "material");
+    m.bricks.push_back(br);
+  }
+  if (inactive > 0) out.notes.push_back(Id(static_cast<int64_t>(inactive)) + " inactive elements left out");
+
+  for (const fmSupport& sp : doc.supports) m.supports.push_back({nodes.At(sp.node, "A support"), sp.restrained, {}});
+
+  const fmSolution& r = doc.results;
+  for (const auto& sp : r.nodalSprings) {
+    NodalSpring ns;
+    ns.node = nodes.At(sp.node, "A nodal spring");
+    for (int d = 0; d < 6; ++d) ns.k[static_cast<size_t>(d)] = sp.k[static_cast<size_t>(d)] * rs.Spring(d);
+    m.nodalSprings.push_back(ns);
+  }
+  for (const auto& sp : r.coupledSprings) {
+    CoupledSpring cs;
+    cs.node = nodes.At(sp.node, "A coupled spring");
+    size_t at = 0;
+    for (int i = 0; i < 6; ++i)
+      for (int j = i; j < 6; ++j, ++at)
+        cs.k[at] = sp.k[at] * (i < 3 && j < 3   ? rs(fmUnit::NodeSpring)
+                               : i >= 3 && j >= 3 ? rs(fmUnit::NodeRotationalSpring)
+                                                  : rs(fmUnit::Force));
+    m.coupledSprings.push_back(cs);
+  }
+  for (const auto& nm : r.nodalMasses) {
+    const double weight = nm.magnitude * rs(fmUnit::Force) * (nm.direction < 3 ? 1 : rs(fmUnit::Length) * rs(fmUnit::Length));
+    m.masses.push_back({nodes.At(nm.node, "A nodal mass"), nm.direction, weight / m.g});
+  }
+
+  for (const fmLoadCase& lc : doc.loadCases) {
+    LoadCase c;
+    c.name = lc.name;
+    m.cases.push_back(std::move(c));
+  }
+  size_t orphanLoads = 0;
+  for (const auto& l : r.nodalLoads) {
+    const int c = FindCaseIndex(doc.loadCases, l.caseName);
+    if (c < 0) {
+      ++orphanLoads;
+      continue;
+    }
+    m.cases[static_cast<size_t>(c)].nodal.push_back({nodes.At(l.node, "A nodal load"), l.direction, l.magnitude * rs.Action(l.direction)});
+  }
+  if (orphanLoads > 0)
+    out.notes.push_back(Id(static_cast<int64_t>(orphanLoads)) + " nodal loads of load cases the model does not have left out");
+  for (const fmLoadComb& comb : doc.loadCombs) {
+    Combination c;
+    c.name = comb.name;
+    for (const fmLoadCombItem& item : comb.items) {
+      const int k = FindCaseIndex(doc.loadCases, item.caseName);
+      if (k < 0)
+        throw AnalysisError("Combination \"" + comb.name + "\" names load case \"" + item.caseName +
+                            "\", which the model does not have.");
+      c.terms.push_back({static_cast<size_t>(k), item.factor});
+    }
+    m.combinations.push_back(std::move(c));
+  }
+  return out;
+}
+
+namespace {
+
+fmResult6Val Record(int32_t number, const Eigen::VectorXd& v, size_t node, const Scale& s, bool forces) {
+  fmResult6Val r;
+  r.number = number;
+  for (int d = 0; d < 6; ++d)
+    r.v[static_cast<size_t>(d)] = v[static_cast<Eigen::Index>(GlobalDof(node, d))] / (forces ? s.Action(d) : s.Motion(d));
+  return r;
+}
+
+fmResult6Val Record(int32_t number, const std::array<double, 6>& v, const Scale& s) {
+  fmResult6Val r;
+  r.number = number;
+  for (int d = 0; d < 6; ++d) r.v[static_cast<size_t>(d)] = v[static_cast<size_t>(d)] / s.Action(d);
+  return r;
+}
+
+std::vector<fmResult6Val> NodeRecords(const Model& m, const Eigen::VectorXd& v, const Scale& s, bool forces) {
+  std::vector<fmResult6Val> out;
+  out.reserve(m.nodes.size());
+  for (size_t n = 0; n < m.nodes.size(); ++n) out.push_back(Record(static_cast<int32_t>(m.nodes[n].id), v, n, s, forces));
+  return out;
+}
+
+std::vector<fmResult6Val> SupportRecords(const Model& m, const Eigen::VectorXd& reaction, const Scale& s) {
+  std::vector<fmResult6Val> out;
+  for (const Support& sp : m.supports) out.push_back(Record(static_cast<int32_t>(m.nodes[sp.node].id), reaction, sp.node, s, true));
+  return out;
+}
+
+// The records a run keeps as its input, carried into the document's units.
+void ConvertInputRecords(fmSolution& r, const fmUnit& to) {
+  const Scale from{r.units}, dest{to};
+  for (auto& l : r.nodalLoads) l.magnitude *= from.Action(l.direction) / dest.Action(l.direction);
+  for (auto& sp : r.nodalSprings)
+    for (int d = 0; d < 6; ++d) sp.k[static_cast<size_t>(d)] *= from.Spring(d) / dest.Spring(d);
+  for (auto& sp : r.coupledSprings) {
+    size_t at = 0;
+    for (int i = 0; i < 6; ++i)
+      for (int j = i; j < 6; ++j, ++at) {
+        const Q q = i < 3 && j < 3 ? fmUnit::NodeSpring : i >= 3 && j >= 3 ? fmUnit::NodeRotationalSpring : fmUnit::Force;
+        sp.k[at] *= from(q) / dest(q);
+      }
+  }
+  for (auto& nm : r.nodalMasses) {
+    const double f = nm.direction < 3 ? 1 : from(fmUnit::Length) * from(fmUnit::Length) / (dest(fmUnit::Length) * dest(fmUnit::Length));
+    nm.magnitude *= f * from(fmUnit::Force) / dest(fmUnit::Force);
+  }
+  r.units = to;
+}
+
+const fmResponseSpectrum* FindSpectrum(const std::vector<fmResponseSpectrum>& spectra, const std::string& name) {
+  for (const auto& s : spectra)
+    if (tools::LabelsEqual(s.name, name)) return &s;
+  return nullptr;
+}
+
+}  // namespace
+
+AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest& request, const Progress& progress) {
+  AnalysisSummary summary;
+  const DocumentModel dm = ModelFromDocument(doc);
+  const Model& m = dm.model;
+  for (const std::string& note : dm.notes) summary.lines.push_back("Note: " + note);
+
+  const bool spectrum = request.modes > 0 && doc.spectrumAnalysis.enabled;
+  SpectrumSettings settings;
+  if (spectrum) {
+    const model::SpectrumSettingsCheck check = model::CheckSpectrumSettings(doc.spectrumAnalysis, request.spectra);
+    if (!check.ok()) throw AnalysisError(check.message);
+    for (size_t d = 0; d < 3; ++d) {
+      settings.factor[d] = doc.spectrumAnalysis.factor[d];
+      const std::string& name = doc.spectrumAnalysis.spectrum[d];
+      if (name.empty()) continue;
+      if (const fmResponseSpectrum* curve = FindSpectrum(request.spectra, name))
+        for (const fmSpectrumPoint& p : curve->points) settings.curves[d].points.push_back({p.period, p.acceleration});
+    }
+    settings.absoluteSum = doc.spectrumAnalysis.combination == "ABSSUM";
+  }
+
+  const StaticResults st = SolveLinearStatic(m, progress);
+  summary.lines.push_back(tools::Format("Static: %d load cases, %d combinations, %d equations, %d held automatically",
+                                        static_cast<int>(m.cases.size()), static_cast<int>(m.combinations.size()),
+                                        static_cast<int>(st.equations), static_cast<int>(st.autoHeld.size())));
+  // Per result, the applied forces against what the supports and springs give back.
+  const double fu = s_Force(doc.units);
+  for (const StaticResult& r : st.results) {
+    double load[3] = {0, 0, 0}, back[3] = {0, 0, 0};
+    for (Eigen::Index i = 0; i < r.load.size(); ++i)
+      if (i % 6 < 3) {
+        load[i % 6] += r.load[i];
+        back[i % 6] += r.reaction[i];
+      }
+    for (const auto* springs : {&r.nodalSprings, &r.coupledSprings, &r.lineSprings, &r.surfaceSprings})
+      for (const auto& f : *springs)
+        for (int d = 0; d < 3; ++d) back[d] += f[static_cast<size_t>(d)];
+    summary.lines.push_back(tools::Format("%s: loads X %.6g Y %.6g Z %.6g; reactions X %.6g Y %.6g Z %.6g (%s)", r.name.c_str(),
+                                          load[0] / fu, load[1] / fu, load[2] / fu, back[0] / fu, back[1] / fu,
+                                          back[2] / fu, doc.units.Label(fmUnit::Force).c_str()));
+  }
+  ModalResults modal;
+  SpectrumResults sr;
+  if (request.modes > 0) {
+    modal = SolveModes(m, request.modes, progress);
+    for (size_t i = 0; i < modal.modes.size(); ++i)
+      summary.lines.push_back(tools::Format("Mode %d: period %.4g s, error %.2e", static_cast<int>(i + 1),
+                                            PeriodOf(modal.modes[i].omega2), modal.modes[i].error));
+    if (spectrum) sr = SolveResponseSpectrum(m, modal, settings);
+  }
+
+  // Everything is computed: now the document changes.
+  fmSolution out;
+  const fmSolution& old = doc.results;
+  out.units = doc.units;
+  const Scale s{doc.units};
+  fmSolution kept = old;
+  ConvertInputRecords(kept, doc.units);
+  out.envelopeCombinations = kept.envelopeCombinations;
+  out.driftNodes = kept.driftNodes;
+  out.nodalSprings = kept.nodalSprings;
+  out.coupledSprings = kept.coupledSprings;
+  out.nodalLoads = kept.nodalLoads;
+  out.nodalMasses = kept.nodalMasses;
+  for (const fmSupport& sp : doc.supports)
+    out.supports.push_back({static_cast<int32_t>(sp.node), sp.RestraintText(), {}});
+
+  for (size_t i = 0; i < st.results.size(); ++i) {
+    const StaticResult& r = st.results[i];
+    const bool isCase = i < doc.loadCases.size();
+    out.cases.emplace_back(static_cast<int32_t>(i + 1), r.name, isCase ? doc.loadCases[i].type : std::string());
+    fmCaseResults cr;
+    cr.displacements = NodeRecords(m, r.displacement, s, false);
+    cr.reactions = SupportRecords(m, r.reaction, s);
+    for (size_t k = 0; k < m.nodalSprings.size(); ++k)
+      cr.nodalSpringReactions.push_back(Record(static_cast<int32_t>(m.nodes[m.nodalSprings[k].node].id), r.nodalSprings[k], s));
+    for (size_t k = 0; k < m.coupledSprings.size(); ++k)
+      cr.coupledSpringReactions.push_back(Record(static_cast<int32_t>(m.nodes[m.coupledSprings[k].node].id), r.coupledSprings[k], s));
+    out.results.push_back(std::move(cr));
+  }
+  for (const Mode& mode : modal.modes) {
+    fmEigenMode em;
+    em.omega2 = mode.omega2;
+    em.shape = NodeRecords(m, mode.shape, s, false);
+    double largest = 0;
+    for (const auto& rec : em.shape)
+      for (int d = 0; d < 3; ++d) largest = std::max(largest, std::abs(rec.v[static_cast<size_t>(d)]));
+    if (largest > 0)
+      for (auto& rec : em.shape)
+        for (double& v : rec.v) v /= largest;
+    out.eigenModes.push_back(std::move(em));
+  }
+  if (spectrum) {
+    for (const SpectrumMode& sm : sr.modes) {
+      fmSpectrumMode rec;
+      rec.omega2 = sm.omega2;
+      for (size_t d = 0; d < 3; ++d) {
+        rec.displacements[d] = NodeRecords(m, sm.displacement[d], s, false);
+        rec.inertialForces[d] = NodeRecords(m, sm.inertialForce[d], s, true);
+      }
+      out.spectrumModes.push_back(std::move(rec));
+    }
+    out.spectrum.displacements = NodeRecords(m, sr.displacement, s, false);
+    out.spectrum.reactions = SupportRecords(m, sr.reaction, s);
+  }
+  doc.results = std::move(out);
+  return summary;
+}
+
+}  // namespace analysis

@@ -1,0 +1,49 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "analysis/model.h"
+#include "model/document.h"
+#include "model/response_spectrum.h"
+
+// The road between a model document and the analysis: what the document holds today is read
+// into the analysis model (in lb, in and s), and the results are written back into its
+// "results" section in the document's units.
+//
+// Read: nodes, materials, sections (RIGID_LINK sections as rigid links), thicknesses, active
+// members (tension-only and compression-only ones included), shells and bricks, supports,
+// load cases and combinations, and from the results section the records a solver run keeps
+// as input: nodal loads per case, nodal and coupled springs, and additional masses (a mass
+// record is taken as a weight in the force unit). Not read, because the document has no
+// records for them yet: member point and line loads, surface and thermal loads, self weight
+// per case, end releases, line and surface springs, constraints and diaphragms, and support
+// settlements.
+namespace analysis {
+
+struct DocumentModel {
+  Model model;
+  std::vector<size_t> nodeOfDocument;  // analysis node per document node (same order)
+  std::vector<std::string> notes;      // what was skipped, one line each
+};
+
+// Throws AnalysisError when an element names a node, material, section or thickness that
+// does not exist.
+DocumentModel ModelFromDocument(const model::ModelDocument& doc);
+
+struct AnalysisRequest {
+  int modes = 0;  // 0: no modal analysis
+  // The spectra the document's response spectrum settings name (from the user's spectrum
+  // file); used only when those settings are enabled and modes > 0.
+  std::vector<fmResponseSpectrum> spectra;
+};
+
+struct AnalysisSummary {
+  std::vector<std::string> lines;  // what was solved, for a report or a log
+};
+
+// Runs the static analysis (and the modal and response-spectrum analyses when asked) and
+// replaces doc.results with what they produce. The document is left as it was when the
+// analysis throws.
+AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest& request, const Progress& progress = {});
+
+}  // namespace analysis
