@@ -5,7 +5,7 @@
 #include "dialogs/frame/DataExchange.h"
 #include "resources/sections_ids.h"
 
-CMaterialDlg::CMaterialDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplMaterial, pParent) {
+CMaterialDlg::CMaterialDlg(QWidget* pParent) : CPropertyGridDlg(res::kIddMaterial, pParent) {
   OnCommand(res::kCtlMatStandard, [this] { OnStdMaterial(); });
 }
 

@@ -27,7 +27,7 @@ bool CMaterialStrengthDlg::Save() {
 }
 
 CMaterialRcDlg::CMaterialRcDlg(QWidget* pParent)
-    : CMaterialStrengthDlg(res::kTplMaterialRc, matgrid::kConcrete, pParent) {}
+    : CMaterialStrengthDlg(res::kIddMaterialRc, matgrid::kConcrete, pParent) {}
 
 CMaterialSteelDlg::CMaterialSteelDlg(QWidget* pParent)
-    : CMaterialStrengthDlg(res::kTplMaterialSteel, matgrid::kSteel, pParent) {}
+    : CMaterialStrengthDlg(res::kIddMaterialSteel, matgrid::kSteel, pParent) {}

@@ -17,7 +17,7 @@ namespace {
 constexpr const char* kOverrideSection = "Do you want to override the current section?";
 }  // namespace
 
-CSectionDlg::CSectionDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplSection, pParent) {
+CSectionDlg::CSectionDlg(QWidget* pParent) : CPropertyGridDlg(res::kIddSection, pParent) {
   OnCommand(res::kCtlSecRegular, [this] { OnAddRegular(); });
   OnCommand(res::kCtlSecAisc, [this] { OnAisc(); });
   OnCommand(res::kCtlSecNds, [this] { OnBnClickedNds(); });

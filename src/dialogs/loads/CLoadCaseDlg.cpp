@@ -9,7 +9,7 @@
 
 using namespace res;
 
-CLoadCaseDlg::CLoadCaseDlg(QWidget* pParent) : CDataGridDlg(kTplLoadCase, pParent) {
+CLoadCaseDlg::CLoadCaseDlg(QWidget* pParent) : CDataGridDlg(kIddLoadCase, pParent) {
   OnCommand(kCtlCaseDeleteRows, [this] { OnDeleteRows(); });
 }
 

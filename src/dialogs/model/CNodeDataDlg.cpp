@@ -5,7 +5,7 @@
 #include "resources/resources.h"
 #include "tools/format.h"
 
-CNodeDataDlg::CNodeDataDlg(QWidget* pParent) : CDataGridDlg(8007, pParent) {
+CNodeDataDlg::CNodeDataDlg(QWidget* pParent) : CDataGridDlg(res::kIddNodeData, pParent) {
   OnCommand(res::kCtlRoundOff, [this] { OnRoundOff(); });
 }
 
