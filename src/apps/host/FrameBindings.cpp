@@ -31,6 +31,13 @@ void RegisterFrameBindings() {
         dlg.m_strGraphicsFontName = "DejaVu Sans";
         dlg.m_strDataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
         QSettings settings;
+        // The grid settings the grids use now, their defaults included, so
+        // OK without a change changes nothing on screen.
+        const prefs::SpreadsheetSettings grid = prefs::ReadSpreadsheetSettings(settings);
+        dlg.m_nSpreadFontSize = static_cast<uint32_t>(grid.fontSize);
+        dlg.m_nRowHeight = static_cast<uint32_t>(grid.rowHeight);
+        dlg.m_bShowRowHeaders = grid.showRowHeader;
+        dlg.m_bAppendSpreadsheetSave = grid.appendSave;
         prefs::LoadPreferences(dlg, settings);
       },
       [](CPreferencesDlg& dlg, HostModel&) {

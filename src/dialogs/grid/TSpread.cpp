@@ -375,9 +375,11 @@ bool TSpread::ExportGrid(const std::string& title) {
                      res::LoadStringOr(res::kStrExportFilterText, "Tab Delimited Text File (*.txt)"),
                      res::LoadStringOr(res::kStrExportFilterXls, "Excel Book File (*.xls)"),
                      res::LoadStringOr(res::kStrExportFilterXlsx, "Excel Workbook (*.xlsx)")};
+  // Appending keeps what the file holds, so there is no replacing to ask about.
+  const bool append = prefs::ReadSpreadsheetSettings().appendSave;
+  request.confirmReplace = !append;
   const std::string path = GetPrompter().SaveFileName(window(), request);
   if (path.empty()) return false;
-  const bool append = prefs::ReadSpreadsheetSettings().appendSave;
   if (const auto failure = grid::ExportSheet(sheet_, path, append, title)) {
     GetPrompter().Message(window(), *failure, MessageIcon::Warning);
     return false;
