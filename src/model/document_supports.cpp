@@ -31,7 +31,7 @@ void ReadSupports(const JsonReader& root, ModelDocument& doc) {
     const JsonReader item = list.At(i);
     item.RequireObject();
     fmSupport s;
-    s.node = item.UInt32("node");
+    s.node = item.Id("node", "node id");
     if (!nodes.count(s.node)) item.Member("node").Fail(tools::Format("node %u is not in \"nodes\"", s.node));
     const auto [at, added] = supported.emplace(s.node, i);
     if (!added)

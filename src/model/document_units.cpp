@@ -62,7 +62,7 @@ void ReadNodes(const JsonReader& root, ModelDocument& doc) {
     const JsonReader item = list.At(i);
     item.RequireObject();
     fmNd nd;
-    nd.id = item.UInt32("id");
+    nd.id = item.Id("id", "node id");
     nd.x = item.Double("x");
     nd.y = item.Double("y");
     nd.z = item.Double("z");

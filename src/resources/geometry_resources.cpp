@@ -68,8 +68,8 @@ const DialogTemplate kGenerateCylindricalFrame = {
         {kCtlSupportsLabel, K::Static, 1269, "Supports at bottom:", 7, 0},
         {kCtlSupports, K::DropList, 0, "", 7, 1},
         {kCtlGenerateMembers, K::Check, 1560, "Generate members", 8, 0, 1, 3},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     480, 0};
 

@@ -47,8 +47,8 @@ const DialogTemplate kDataSettings = {
          kCtlDsGroup},
         {kCtlDsAppendSave, K::Check, kStrDsAppendSave, "Append to existing file when saving spreadsheet data", 4, 0, 1,
          3, kCtlDsGroup},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     0, 0};
 

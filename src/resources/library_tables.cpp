@@ -4,7 +4,6 @@ namespace res {
 
 // One table per dialog family; add a family's table here, one a line.
 extern const ResourceTable kFrameResources;
-extern const ResourceTable kUnitsResources;
 extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
 extern const ResourceTable kLoadsResources;
@@ -17,7 +16,6 @@ extern const ResourceTable kSpectraResources;
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {
       &kFrameResources,
-      &kUnitsResources,
       &kGridResources,
       &kModelResources,
       &kDesignResources,

@@ -3,11 +3,11 @@
 namespace res {
 
 // Templates.
-inline constexpr int kTplLoadCase = 24801;
-inline constexpr int kTplLoadCombo = 24802;
-inline constexpr int kTplLoadComboItem = 24803;
-inline constexpr int kTplStdLoadCombination = 24804;
-inline constexpr int kTplCopyCaseLoad = 24805;
+inline constexpr int kIddLoadCase = 24801;
+inline constexpr int kIddLoadCombo = 24802;
+inline constexpr int kIddLoadComboItem = 24803;
+inline constexpr int kIddStdLoadCombination = 24804;
+inline constexpr int kIddCopyCaseLoad = 24805;
 
 // CLoadCaseDlg (the grid, New Rows, Print and Save are the data-grid dialog's own).
 inline constexpr int kCtlCaseDeleteRows = 24100;

@@ -43,7 +43,7 @@ const StringEntry kStrings[] = {
 // The load case table: the grid with the data-grid buttons on the right and the note on
 // load types below it.
 const DialogTemplate kLoadCase = {
-    kTplLoadCase, kStrLoadCasesCaption, "Load Cases",
+    kIddLoadCase, kStrLoadCasesCaption, "Load Cases",
     {
         {kCtlGridPlaceholder, K::Placeholder, 0, "", 0, 0, 1, 1, 0, kStretchRow | kStretchCol},
         {kCtlCaseNote, K::Static, kStrCaseNote, "The optional load types ...", 1, 0},
@@ -52,13 +52,13 @@ const DialogTemplate kLoadCase = {
         {kCtlCaseDeleteRows, K::Button, kStrCaseDeleteRows, "Delete Rows", kSide, 2},
         {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 3},
         {kCtlSave, K::Button, kStrSave, "Save...", kSide, 4},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     560, 380};
 
 const DialogTemplate kLoadCombo = {
-    kTplLoadCombo, kStrLoadCombosCaption, "Load Combinations",
+    kIddLoadCombo, kStrLoadCombosCaption, "Load Combinations",
     {
         {kCtlComboList, K::ReportList, kStrComboListHeadings, "Combinations", 0, 0, 1, 1, 0, kStretchRow | kStretchCol},
         {kCtlComboAdd, K::Button, kStrComboAdd, "Add", kSide, 0},
@@ -67,14 +67,14 @@ const DialogTemplate kLoadCombo = {
         {kCtlComboDelete, K::Button, kStrComboDelete, "Delete", kSide, 3},
         {kCtlComboUnitCases, K::Button, kStrComboUnitCases, "Unit Cases", kSide, 4},
         {kCtlComboGenerateStd, K::Button, kStrComboGenerateStd, "Generate Std", kSide, 5},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     920, 420};
 
 // One combination: label, flags and factors on the left, the case factors on the right.
 const DialogTemplate kLoadComboItem = {
-    kTplLoadComboItem, kStrLoadComboCaption, "Load Combination",
+    kIddLoadComboItem, kStrLoadComboCaption, "Load Combination",
     {
         {kCtlItemLabelText, K::Static, kStrItemLabel, "Label:", 0, 0},
         {kCtlItemLabel, K::Edit, 0, "", 0, 1},
@@ -91,13 +91,13 @@ const DialogTemplate kLoadComboItem = {
         {0, K::Static, 0, "", 8, 0, 1, 2, 0, kStretchRow},
         {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 0},
         {kCtlSave, K::Button, kStrSave, "Save...", kSide, 1},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     820, 420};
 
 const DialogTemplate kStdLoadCombination = {
-    kTplStdLoadCombination, kStrStdCombosCaption, "Standard Load Combinations",
+    kIddStdLoadCombination, kStrStdCombosCaption, "Standard Load Combinations",
     {
         {kCtlStdCodeText, K::Static, kStrStdCode, "Design code:", 0, 0},
         {kCtlStdCode, K::DropList, 0, "", 0, 1, 1, 1, 0, kStretchCol},
@@ -106,8 +106,8 @@ const DialogTemplate kStdLoadCombination = {
         {kCtlStdPDelta, K::Check, kStrStdPDelta, "P-Delta", 3, 0, 1, 2},
         {kCtlStdSelectAll, K::Button, kStrStdSelectAll, "Select All", kSide, 0},
         {kCtlStdClearAll, K::Button, kStrStdClearAll, "Clear All", kSide, 1},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     560, 480};
 

@@ -9,6 +9,7 @@ inline constexpr int kStrRoundOff = 1557;
 inline constexpr int kStrRoundOffTip = 23000;
 
 // The element grids.
+inline constexpr int kIddNodeData = 8007;
 inline constexpr int kIddBeamData = 23010;
 inline constexpr int kIddShell4Data = 23011;
 inline constexpr int kIddBrickData = 23012;

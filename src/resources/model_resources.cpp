@@ -24,7 +24,7 @@ const StringEntry kStrings[] = {
 
 // The data-grid layout: the grid, a column of buttons on the right, OK and Cancel below.
 const DialogTemplate kNodeData = {
-    8007, kStrNodeDataCaption, "Nodes",
+    kIddNodeData, kStrNodeDataCaption, "Nodes",
     {
         {kCtlGridPlaceholder, K::Placeholder, 0, "", 0, 0, 1, 1, 0, kStretchRow | kStretchCol},
         {kCtlNewRowCount, K::Edit, 0, "1", kSide, 0},
@@ -33,8 +33,8 @@ const DialogTemplate kNodeData = {
         {kCtlEpsilon, K::Static, 0, "Epsilon = 1e-10", kSide, 3},
         {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 4},
         {kCtlSave, K::Button, kStrSave, "Save...", kSide, 5},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     640, 420};
 
@@ -49,8 +49,8 @@ DialogTemplate ElementData(int id, int captionId, const char* caption) {
               {kCtlNewRows, K::Button, kStrNewRows, "New Rows", kSide, 1},
               {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 2},
               {kCtlSave, K::Button, kStrSave, "Save...", kSide, 3},
-              {IDOK_, K::Button, 1039, "OK", kBar, 0},
-              {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+              {IDOK_, K::Button, kStrOk, "OK", kBar, 0},
+              {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
           },
           1020,
           460};

@@ -2,7 +2,7 @@
 // Ids of the results dialog.
 namespace res {
 
-inline constexpr int kDlgResults = 8033;
+inline constexpr int kIddResults = 8033;
 inline constexpr int kIconResults = 8056;
 inline constexpr int kCtlResultsComboLabel = 8083;
 inline constexpr int kCtlResultsCombo = 3213;

@@ -20,7 +20,7 @@ const StringEntry kStrings[] = {
 
 // The choice of case and the selection switch above the grid; print, save and close below.
 const DialogTemplate kResults = {
-    kDlgResults, kStrResultsCaption, "Results",
+    kIddResults, kStrResultsCaption, "Results",
     {
         {kCtlResultsComboLabel, K::Static, kStrResultsComboLabel, "Load Combination:", 0, 0},
         {kCtlResultsCombo, K::DropList, 0, "", 0, 1},

@@ -4,15 +4,15 @@
 namespace res {
 
 // Templates.
-inline constexpr int kTplSection = 26500;
-inline constexpr int kTplThick = 26501;
-inline constexpr int kTplRegularSection = 26502;
-inline constexpr int kTplAiscData = 26503;
-inline constexpr int kTplNdsData = 26504;
-inline constexpr int kTplMaterial = 26505;
-inline constexpr int kTplMaterialRc = 26506;
-inline constexpr int kTplMaterialSteel = 26507;
-inline constexpr int kTplStandardMaterial = 26508;
+inline constexpr int kIddSection = 26500;
+inline constexpr int kIddThick = 26501;
+inline constexpr int kIddRegularSection = 26502;
+inline constexpr int kIddAiscData = 26503;
+inline constexpr int kIddNdsData = 26504;
+inline constexpr int kIddMaterial = 26505;
+inline constexpr int kIddMaterialRc = 26506;
+inline constexpr int kIddMaterialSteel = 26507;
+inline constexpr int kIddStandardMaterial = 26508;
 
 // CRegularSectionDlg.
 inline constexpr int kCtlRegType = 26600;

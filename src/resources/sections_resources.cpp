@@ -56,7 +56,7 @@ const StringEntry kStrings[] = {
 };
 
 const DialogTemplate kSection = {
-    kTplSection, kStrSectionCaption, "Member Sections",
+    kIddSection, kStrSectionCaption, "Member Sections",
     {
         {kCtlGridPlaceholder, K::Placeholder, 0, "", 0, 0, 1, 1, 0, kStretchRow | kStretchCol},
         {kCtlSecAssign, K::Check, kStrSecAssign, "Assign active section to currently selected members", 1, 0},
@@ -71,25 +71,25 @@ const DialogTemplate kSection = {
         {kCtlSecExportAisc, K::Button, kStrSecExportAisc, "Export AISC Table...", kSide, 8},
         {kCtlSecImportAisc, K::Button, kStrSecImportAisc, "Import AISC Table...", kSide, 9},
         {IDOK_, K::Button, kStrApply, "Apply", kBar, 0},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     900, 460};
 
 const DialogTemplate kThick = {
-    kTplThick, kStrThickCaption, "Shell Thickness",
+    kIddThick, kStrThickCaption, "Shell Thickness",
     {
         {kCtlGridPlaceholder, K::Placeholder, 0, "", 0, 0, 1, 1, 0, kStretchRow | kStretchCol},
         {kCtlNewRowCount, K::Edit, 0, "1", kSide, 0},
         {kCtlNewRows, K::Button, kStrNewRows, "New Rows", kSide, 1},
         {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 2},
         {kCtlSave, K::Button, kStrSave, "Save...", kSide, 3},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     480, 360};
 
 const DialogTemplate kRegular = {
-    kTplRegularSection, kStrRegularCaption, "Regular Section",
+    kIddRegularSection, kStrRegularCaption, "Regular Section",
     {
         {kCtlRegTypeLabel, K::Static, kStrRegTypeLabel, "Section Type:", 0, 0},
         {kCtlRegType, K::DropList, 0, "", 0, 1},
@@ -104,8 +104,8 @@ const DialogTemplate kRegular = {
         {kCtlRegUnit, K::Static, 0, "in", 5, 1},
         {kCtlRegPicture, K::Placeholder, 0, "", 0, 2, 7, 1, 0, kStretchCol},
         {0, K::Static, 0, "", 6, 0, 1, 2, 0, kStretchRow},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     560, 300};
 
@@ -123,16 +123,16 @@ DialogTemplate BrowserTemplate(int id, int caption, const char* text) {
               {kCtlShapeProperties, K::ReportList, kStrShapeProperties, "Property\tValue\tUnit", 0, 2, 4, 1, 0,
                kStretchCol},
               {kCtlShapePicture, K::Placeholder, 0, "", 0, 3, 4, 1},
-              {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-              {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+              {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+              {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
           },
           860, 480};
 }
-const DialogTemplate kAisc = BrowserTemplate(kTplAiscData, kStrAiscCaption, "AISC Steel Shapes");
-const DialogTemplate kNds = BrowserTemplate(kTplNdsData, kStrNdsCaption, "NDS Sawn Lumber");
+const DialogTemplate kAisc = BrowserTemplate(kIddAiscData, kStrAiscCaption, "AISC Steel Shapes");
+const DialogTemplate kNds = BrowserTemplate(kIddNdsData, kStrNdsCaption, "NDS Sawn Lumber");
 
 const DialogTemplate kMaterial = {
-    kTplMaterial, kStrMaterialCaption, "Material",
+    kIddMaterial, kStrMaterialCaption, "Material",
     {
         {kCtlGridPlaceholder, K::Placeholder, 0, "", 0, 0, 1, 1, 0, kStretchRow | kStretchCol},
         {kCtlMatAssign, K::Check, kStrMatAssign, "Assign active material to currently selected elements", 1, 0},
@@ -142,7 +142,7 @@ const DialogTemplate kMaterial = {
         {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 3},
         {kCtlSave, K::Button, kStrSave, "Save...", kSide, 4},
         {IDOK_, K::Button, kStrApply, "Apply", kBar, 0},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     760, 400};
 
@@ -152,18 +152,18 @@ DialogTemplate StrengthTemplate(int id, int caption, const char* text) {
               {kCtlGridPlaceholder, K::Placeholder, 0, "", 0, 0, 1, 1, 0, kStretchRow | kStretchCol},
               {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 0},
               {kCtlSave, K::Button, kStrSave, "Save...", kSide, 1},
-              {IDOK_, K::Button, 1039, "OK", kBar, 0},
-              {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+              {IDOK_, K::Button, kStrOk, "OK", kBar, 0},
+              {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
           },
           600, 360};
 }
 const DialogTemplate kMaterialRc =
-    StrengthTemplate(kTplMaterialRc, kStrMaterialRcCaption, "Concrete Material Strengths");
+    StrengthTemplate(kIddMaterialRc, kStrMaterialRcCaption, "Concrete Material Strengths");
 const DialogTemplate kMaterialSteel =
-    StrengthTemplate(kTplMaterialSteel, kStrMaterialSteelCaption, "Steel Material Strengths");
+    StrengthTemplate(kIddMaterialSteel, kStrMaterialSteelCaption, "Steel Material Strengths");
 
 const DialogTemplate kStandard = {
-    kTplStandardMaterial, kStrStandardCaption, "Standard Material",
+    kIddStandardMaterial, kStrStandardCaption, "Standard Material",
     {
         {kCtlStdMaterialLabel, K::Static, kStrStdMaterialLabel, "Material:", 0, 0},
         {kCtlStdMaterial, K::DropList, 0, "", 0, 1, 1, 2},
@@ -171,7 +171,7 @@ const DialogTemplate kStandard = {
         {kCtlStdDensity, K::Edit, 0, "", 1, 1},
         {kCtlStdDensityUnit, K::Static, 0, "lb/ft^3", 1, 2},
         {IDOK_, K::Button, kStrStdOk, "Ok", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     360, 0};
 

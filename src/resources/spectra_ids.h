@@ -3,10 +3,10 @@
 namespace res {
 
 // Templates
-inline constexpr int kTplGenerateResponseSpectrum = 24500;
-inline constexpr int kTplResponseSpectra = 24501;
-inline constexpr int kTplResponseSpectrumData = 24502;
-inline constexpr int kTplResponseSpectrumAnalysis = 24503;
+inline constexpr int kIddGenerateResponseSpectrum = 24500;
+inline constexpr int kIddResponseSpectra = 24501;
+inline constexpr int kIddResponseSpectrumData = 24502;
+inline constexpr int kIddResponseSpectrumAnalysis = 24503;
 
 // CGenerateResponseSpectrumDlg
 inline constexpr int kCtlSpecCodeText = 24510;

@@ -65,7 +65,7 @@ const StringEntry kStrings[] = {
 // The inputs on the left, the curve on the right; the line under the curve says why there
 // is none while the values are not usable.
 const DialogTemplate kGenerateResponseSpectrum = {
-    kTplGenerateResponseSpectrum, kStrGenerateSpectrumCaption, "Generate Response Spectrum",
+    kIddGenerateResponseSpectrum, kStrGenerateSpectrumCaption, "Generate Response Spectrum",
     {
         {kCtlSpecCodeText, K::Static, kStrSpecCode, "Design code:", 0, 0},
         {kCtlSpecCode, K::DropList, 0, "", 0, 1, 1, 2},
@@ -94,13 +94,13 @@ const DialogTemplate kGenerateResponseSpectrum = {
         {0, K::Static, 0, "", 6, 0, 1, 3, 0, kStretchRow},
         {kCtlSpecChart, K::Placeholder, 0, "", 0, 3, 7, 1, 0, kStretchCol},
         {kCtlSpecStatus, K::Static, 0, "", 7, 0, 1, 4},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     900, 470};
 
 const DialogTemplate kResponseSpectra = {
-    kTplResponseSpectra, kStrSpectraCaption, "Response Spectra",
+    kIddResponseSpectra, kStrSpectraCaption, "Response Spectra",
     {
         {kCtlSpectraList, K::ReportList, kStrSpectraHeadings, "Spectrum Name\tNumber of Points", 0, 0, 1, 1, 0,
          kStretchRow | kStretchCol},
@@ -116,7 +116,7 @@ const DialogTemplate kResponseSpectra = {
 
 // The name above the points; the curve of the points beside them.
 const DialogTemplate kResponseSpectrumData = {
-    kTplResponseSpectrumData, kStrSpectrumDataCaption, "Response Spectrum Data",
+    kIddResponseSpectrumData, kStrSpectrumDataCaption, "Response Spectrum Data",
     {
         {kCtlSpecNameText, K::Static, kStrSpecName, "Name:", 0, 0},
         {kCtlSpecName, K::Edit, 0, "", 0, 1, 1, 2},
@@ -127,13 +127,13 @@ const DialogTemplate kResponseSpectrumData = {
         {kCtlSpecDeleteRows, K::Button, kStrSpecDeleteRows, "Delete Rows", kSide, 2},
         {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 3},
         {kCtlSave, K::Button, kStrSave, "Save...", kSide, 4},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     960, 480};
 
 const DialogTemplate kResponseSpectrumAnalysis = {
-    kTplResponseSpectrumAnalysis, kStrSpectrumAnalysisCaption, "Response Spectrum Analysis",
+    kIddResponseSpectrumAnalysis, kStrSpectrumAnalysisCaption, "Response Spectrum Analysis",
     {
         {kCtlRsaPerform, K::Check, kStrRsaPerform, "Perform response spectrum analysis", 0, 0, 1, 2},
         {kCtlRsaDirectionGroup, K::Group, kStrRsaDirections, "Excitation directions", 1, 0, 1, 2},
@@ -154,8 +154,8 @@ const DialogTemplate kResponseSpectrumAnalysis = {
         {kCtlRsaDamping, K::Edit, 0, "", 3, 1, 1, 1, 0, kNarrow},
         {0, K::Static, 0, "", 4, 0, 1, 2, 0, kStretchRow},
         {kCtlRsaSpectra, K::Button, kStrRsaSpectra, "Spectra...", kSide, 0},
-        {IDOK_, K::Button, 1039, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, 1040, "Cancel", kBar, 1},
+        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
     },
     620, 0};
 

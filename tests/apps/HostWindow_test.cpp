@@ -1,12 +1,15 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QImage>
+#include <QMenuBar>
 
 #include <filesystem>
 
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostWindow.h"
 #include "dialogs/frame/CDialog.h"
+#include "dialogs/frame/CPreferencesDlg.h"
+#include "dialogs/grid/CDataGridDlg.h"
 #include "resources/units_ids.h"
 #include "support/DialogTest.h"
 #include "support/run_program.h"
@@ -131,4 +134,74 @@ TEST(HostProgram, ShowRendersADialogAndRefusesWhatItCannot) {
     EXPECT_EQ(r.status, c.status) << c.args[0];
     EXPECT_NE(r.err.find(c.message), std::string::npos) << r.err;
   }
+}
+
+namespace {
+
+QAction* MenuAction(QWidget& window, const QString& text) {
+  for (QAction* action : window.findChildren<QAction*>())
+    if (action->text() == text) return action;
+  return nullptr;
+}
+
+}  // namespace
+
+TEST_F(HostWindowTest, OkWithoutAnEditLeavesTheModelUnmodified) {
+  for (bool edit : {false, true}) {
+    SCOPED_TRACE(edit ? "edited" : "untouched");
+    auto dlg = CreateBoundDialog("CNodeDataDlg", window.model(), &window);
+    dlg->InitDialogForTest();
+    if (edit) static_cast<CDataGridDlg&>(*dlg).Spread().sheet().SetData(2, 1, "1.5");
+    ASSERT_TRUE(dlg->PressButton(IDOK));
+    EXPECT_EQ(dlg->ModalResult(), IDOK);
+    EXPECT_EQ(TakeBackDialogResult("CNodeDataDlg", *dlg, IDOK, window.model()), edit);
+    EXPECT_EQ(window.model().modified, edit);
+  }
+}
+
+TEST_F(HostWindowTest, MenusLockTheModelShowOnlySelectedRowsAndNameDialogsByCaption) {
+  QAction* lock = MenuAction(window, "Lock Model");
+  QAction* unlock = MenuAction(window, "Unlock Model");
+  QAction* selectedOnly = MenuAction(window, "Show only selected entities in spreadsheet");
+  ASSERT_TRUE(lock && unlock && selectedOnly);
+  EXPECT_FALSE(unlock->isEnabled());
+  lock->trigger();
+  EXPECT_TRUE(window.model().doc.display.modelLocked);
+  EXPECT_TRUE(window.model().modified) << "the lock is saved with the model";
+  EXPECT_TRUE(unlock->isEnabled());
+  {
+    auto dlg = CreateBoundDialog("CNodeDataDlg", window.model(), &window);
+    dlg->InitDialogForTest();
+    EXPECT_EQ(dlg->GetDlgItemText(IDCANCEL), "Close");
+    ASSERT_EQ(Messages().size(), 1u);
+    EXPECT_EQ(Messages()[0].rfind("The Model is locked.\n", 0), 0u) << Messages()[0];
+  }
+  unlock->trigger();
+  prompter.Clear();
+
+  window.model().doc.nodes[1].flags |= fmNd::kSelected;
+  window.model().doc.nodes[4].flags |= fmNd::kSelected;
+  selectedOnly->trigger();
+  EXPECT_TRUE(window.model().doc.display.showSelectedOnly);
+  auto dlg = CreateBoundDialog("CNodeDataDlg", window.model(), &window);
+  dlg->InitDialogForTest();
+  const grid::Sheet& sheet = static_cast<CDataGridDlg&>(*dlg).Spread().sheet();
+  ASSERT_EQ(sheet.MaxRows(), 2);
+  EXPECT_EQ(sheet.GetData(1, 2), "5");
+  EXPECT_EQ(Messages().size(), 1u);
+
+  QAction* nodes = window.findChild<QAction*>("CNodeDataDlg");
+  ASSERT_NE(nodes, nullptr);
+  EXPECT_EQ(nodes->text().toStdString(), "Node Data");
+  EXPECT_EQ(nodes->toolTip().toStdString(), "CNodeDataDlg");
+}
+
+TEST_F(HostWindowTest, PreferencesOpenWithTheGridSettingsTheGridsUse) {
+  auto dlg = CreateBoundDialog("CPreferencesDlg", window.model(), &window);
+  auto& prefs = static_cast<CPreferencesDlg&>(*dlg);
+  EXPECT_EQ(prefs.m_nRowHeight, 14u) << "the grid's own default, not the dialog's";
+  EXPECT_EQ(prefs.m_nSpreadFontSize, 7u);
+  QSettings().setValue("Preferences/SpreadRowHeight", 20);
+  EXPECT_EQ(static_cast<CPreferencesDlg&>(*CreateBoundDialog("CPreferencesDlg", window.model(), &window)).m_nRowHeight,
+            20u);
 }

@@ -288,6 +288,7 @@ TEST_F(CliTest, ResourceLimitsAreReportedAndLoseNothing) {
     EXPECT_EQ(ReadFileText(out), before) << append;
     EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"big.json", "nodes.txt"})) << append;
   }
+
 }
 
 TEST_F(CliTest, CombosGenerateAndRefuseASecondRun) {

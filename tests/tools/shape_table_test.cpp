@@ -44,6 +44,12 @@ const std::string kGoodRows =
     "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,light\n"
     "W8X31,W8X31,W,F,31,9.13,8,8,0.285,0.435,0.829,110,37.1,0.536,\n";
 
+std::string Repeated(const std::string& text, int times) {
+  std::string out;
+  for (int i = 0; i < times; ++i) out += text;
+  return out;
+}
+
 }  // namespace
 
 TEST(BundledShapes, CommittedFilesAreWhatTheBuilderMakes) {
@@ -152,6 +158,20 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
        "this is not a text file (it holds binary data)."},
       {"not UTF-8", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,caf\xE9\n",
        "line 2: the text is not UTF-8"},
+      {"overlong form", kHeader + kGoodRows + "X\xC0\x80,X1,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 4: the text is not UTF-8"},
+      {"surrogate", kHeader + "W10X12,W\xED\xA0\x80,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2: the text is not UTF-8"},
+      {"byte above F4", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\xF5\x80\x80\x80\n",
+       "line 2: the text is not UTF-8"},
+      // Spreadsheet programs run a field beginning with = or @ as a formula; no name or flag may.
+      {"formula as the other name", kHeader + "=HYPERLINK(1),W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2, column 1 (EDI_Std_Nomenclature): Section label can only"},
+      {"formula as the flag", kHeader + "W10X12,W10X12,W,@1,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2, column 4 (T_F): \"@1\" is not T or F."},
+      {"64-byte label", kHeader + "W10X12," + std::string(32, 'A') + Repeated("\xC3\xA9", 16) + "," +
+                             "W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2, column 2 (AISC_Manual_Label): the text is longer than 63 bytes."},
       {"100 MB", kHeader, "the file is too large (104857600 bytes)", size_t(100) << 20, "read"},
   };
   for (const auto& c : cases) {

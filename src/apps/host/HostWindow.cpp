@@ -12,8 +12,10 @@
 
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostSettings.h"
+#include "dialogs/frame/CDialog.h"
 #include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
+#include "resources/resources.h"
 #include "tools/format.h"
 
 namespace {
@@ -31,6 +33,16 @@ QTreeWidget* MakeTable(QWidget* parent) {
   table->setAlternatingRowColors(true);
   table->setUniformRowHeights(true);
   return table;
+}
+
+// The caption the dialog shows, from the string table; the class name when it has none.
+QString DialogCaption(const DialogClassInfo& info) {
+  const std::unique_ptr<CDialog> dlg = info.create(nullptr);
+  const res::DialogTemplate* form = dlg ? res::FindTemplate(dlg->TemplateId()) : nullptr;
+  if (form && form->captionStringId != 0)
+    if (const auto text = res::LoadString(form->captionStringId); text && !text->empty())
+      return QString::fromStdString(*text);
+  return QString::fromStdString(info.className);
 }
 
 }  // namespace
@@ -59,24 +71,57 @@ void HostWindow::BuildMenus() {
   file->addSeparator();
   file->addAction("&Quit", QKeySequence::Quit, this, [this] { close(); });
 
-  // One menu entry per registered dialog, grouped by family in registration order.
+  // The places the library's messages send the user to.
+  QMenu* edit = menuBar()->addMenu("&Edit");
+  lockAction_ = edit->addAction("Lock Model", this, [this] { SetModelLocked(true); });
+  unlockAction_ = edit->addAction("Unlock Model", this, [this] { SetModelLocked(false); });
+  QMenu* settings = menuBar()->addMenu("&Settings");
+  QMenu* dataOptions = settings->addMenu("Data Options");
+  selectedOnlyAction_ = dataOptions->addAction("Show only selected entities in spreadsheet");
+  selectedOnlyAction_->setCheckable(true);
+  connect(selectedOnlyAction_, &QAction::triggered, this, [this](bool on) { SetShowSelectedOnly(on); });
+
+  // One menu entry per registered dialog, by its caption, grouped by family in registration
+  // order; the class name is the entry's tooltip.
   QMenu* dialogs = menuBar()->addMenu("&Dialogs");
   std::map<std::string, QMenu*> families;
   for (const DialogClassInfo& info : RegisteredDialogClasses()) {
     QMenu*& menu = families[info.family];
-    if (!menu) menu = dialogs->addMenu(QString::fromStdString(info.family));
+    if (!menu) {
+      menu = dialogs->addMenu(QString::fromStdString(info.family));
+      menu->setToolTipsVisible(true);
+    }
     const std::string name = info.className;
-    menu->addAction(QString::fromStdString(name), this, [this, name] {
+    QAction* action = menu->addAction(DialogCaption(info), this, [this, name] {
       RunDialog(name);
       RefreshView();
     });
+    action->setToolTip(QString::fromStdString(name));
+    action->setObjectName(QString::fromStdString(name));
   }
+}
+
+void HostWindow::SetModelLocked(bool locked) {
+  if (model_.doc.display.modelLocked == locked) return;
+  model_.doc.display.modelLocked = locked;
+  model_.modified = true;
+  RefreshView();
+}
+
+void HostWindow::SetShowSelectedOnly(bool on) {
+  if (model_.doc.display.showSelectedOnly == on) return;
+  model_.doc.display.showSelectedOnly = on;
+  model_.modified = true;
+  RefreshView();
 }
 
 void HostWindow::RefreshView() {
   const auto& doc = model_.doc;
   const QString name = model_.path.empty() ? "Untitled" : QFileInfo(QString::fromStdString(model_.path)).fileName();
   setWindowTitle(QString("%1%2 - Norvane").arg(name, model_.modified ? "*" : ""));
+  lockAction_->setEnabled(!doc.display.modelLocked);
+  unlockAction_->setEnabled(doc.display.modelLocked);
+  selectedOnlyAction_->setChecked(doc.display.showSelectedOnly);
   summary_->clear();
   auto add = [this](const QString& key, const QString& value) { summary_->addTopLevelItem(new QTreeWidgetItem({key, value})); };
   add("Title", QString::fromStdString(doc.title));

@@ -2,7 +2,7 @@
 
 #include "resources/sections_ids.h"
 
-CAiscDataDlg::CAiscDataDlg(QWidget* pParent) : CShapeBrowserDlg(res::kTplAiscData, pParent) {}
+CAiscDataDlg::CAiscDataDlg(QWidget* pParent) : CShapeBrowserDlg(res::kIddAiscData, pParent) {}
 
 bool CAiscDataDlg::LoadTable() {
   library_ = tools::CurrentAiscLibrary();

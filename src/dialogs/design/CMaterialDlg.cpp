@@ -5,7 +5,7 @@
 #include "dialogs/frame/DataExchange.h"
 #include "resources/sections_ids.h"
 
-CMaterialDlg::CMaterialDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplMaterial, pParent) {
+CMaterialDlg::CMaterialDlg(QWidget* pParent) : CPropertyGridDlg(res::kIddMaterial, pParent) {
   OnCommand(res::kCtlMatStandard, [this] { OnStdMaterial(); });
 }
 
@@ -35,8 +35,8 @@ void CMaterialDlg::Refresh() {
 }
 
 void CMaterialDlg::FillOneRow(const fmMat& material, int row) {
-  TSpread::RedrawGuard guard(m_Spread);
-  matgrid::FillOneRow(m_Spread.sheet(), material, row);
+  m_Spread.ChangeCells("Fill Row", {1, row, m_Spread.sheet().MaxCols(), row},
+                       [&](grid::Sheet& sheet) { matgrid::FillOneRow(sheet, material, row); });
 }
 
 void CMaterialDlg::OnStdMaterial() {

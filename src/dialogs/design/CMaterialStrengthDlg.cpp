@@ -11,8 +11,8 @@ void CMaterialStrengthDlg::Refresh() {
 }
 
 void CMaterialStrengthDlg::FillOneRow(const fmMat& material, int row) {
-  TSpread::RedrawGuard guard(m_Spread);
-  matgrid::FillStrengthRow(m_Spread.sheet(), kind_, material, row);
+  m_Spread.ChangeCells("Fill Row", {1, row, m_Spread.sheet().MaxCols(), row},
+                       [&](grid::Sheet& sheet) { matgrid::FillStrengthRow(sheet, kind_, material, row); });
 }
 
 bool CMaterialStrengthDlg::Save() {
@@ -27,7 +27,7 @@ bool CMaterialStrengthDlg::Save() {
 }
 
 CMaterialRcDlg::CMaterialRcDlg(QWidget* pParent)
-    : CMaterialStrengthDlg(res::kTplMaterialRc, matgrid::kConcrete, pParent) {}
+    : CMaterialStrengthDlg(res::kIddMaterialRc, matgrid::kConcrete, pParent) {}
 
 CMaterialSteelDlg::CMaterialSteelDlg(QWidget* pParent)
-    : CMaterialStrengthDlg(res::kTplMaterialSteel, matgrid::kSteel, pParent) {}
+    : CMaterialStrengthDlg(res::kIddMaterialSteel, matgrid::kSteel, pParent) {}

@@ -2,7 +2,7 @@
 
 #include "resources/sections_ids.h"
 
-CNdsDataDlg::CNdsDataDlg(QWidget* pParent) : CShapeBrowserDlg(res::kTplNdsData, pParent) {}
+CNdsDataDlg::CNdsDataDlg(QWidget* pParent) : CShapeBrowserDlg(res::kIddNdsData, pParent) {}
 
 bool CNdsDataDlg::LoadTable() {
   table_ = tools::CurrentNdsTable();

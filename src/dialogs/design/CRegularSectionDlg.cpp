@@ -8,7 +8,7 @@
 #include "resources/sections_ids.h"
 #include "tools/parse.h"
 
-CRegularSectionDlg::CRegularSectionDlg(QWidget* pParent) : CDialog(res::kTplRegularSection, pParent) {
+CRegularSectionDlg::CRegularSectionDlg(QWidget* pParent) : CDialog(res::kIddRegularSection, pParent) {
   OnSelChange(res::kCtlRegType, [this] { OnSelChangeType(); });
   for (int i = 0; i < 4; ++i) OnEditChange(res::kCtlRegDim1 + i, [this] { UpdatePicture(); });
 }

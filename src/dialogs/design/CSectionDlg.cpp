@@ -17,7 +17,7 @@ namespace {
 constexpr const char* kOverrideSection = "Do you want to override the current section?";
 }  // namespace
 
-CSectionDlg::CSectionDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplSection, pParent) {
+CSectionDlg::CSectionDlg(QWidget* pParent) : CPropertyGridDlg(res::kIddSection, pParent) {
   OnCommand(res::kCtlSecRegular, [this] { OnAddRegular(); });
   OnCommand(res::kCtlSecAisc, [this] { OnAisc(); });
   OnCommand(res::kCtlSecNds, [this] { OnBnClickedNds(); });
@@ -48,8 +48,8 @@ void CSectionDlg::Refresh() {
 }
 
 void CSectionDlg::FillOneRow(const fmSect& section, int row) {
-  TSpread::RedrawGuard guard(m_Spread);
-  sectiongrid::FillOneRow(m_Spread.sheet(), section, row);
+  m_Spread.ChangeCells("Fill Row", {1, row, m_Spread.sheet().MaxCols(), row},
+                       [&](grid::Sheet& sheet) { sectiongrid::FillOneRow(sheet, section, row); });
 }
 
 void CSectionDlg::OnAddRegular() {

@@ -7,7 +7,7 @@
 #include "resources/sections_ids.h"
 
 CStandardMaterialDlg::CStandardMaterialDlg(QWidget* pParent)
-    : CDialog(res::kTplStandardMaterial, pParent), m_Materials(stdmat::UsTable()) {
+    : CDialog(res::kIddStandardMaterial, pParent), m_Materials(stdmat::UsTable()) {
   OnSelChange(res::kCtlStdMaterial, [this] { OnSelChangeMaterial(); });
 }
 

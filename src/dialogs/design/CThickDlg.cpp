@@ -3,7 +3,7 @@
 #include "dialogs/design/thickness_grid.h"
 #include "resources/sections_ids.h"
 
-CThickDlg::CThickDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplThick, pParent) {}
+CThickDlg::CThickDlg(QWidget* pParent) : CPropertyGridDlg(res::kIddThick, pParent) {}
 
 void CThickDlg::Refresh() {
   filled_ = *m_pThicknesses;

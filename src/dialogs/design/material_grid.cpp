@@ -42,12 +42,12 @@ std::vector<std::string> Headers(const fmUnit& units) {
 }
 
 void FillOneRow(grid::Sheet& sheet, const fmMat& m, int row) {
-  sheet.SetData(kId, row, tools::Format("%d", m.id));
+  sheet.SetNumber(kId, row, tools::Format("%d", m.id));
   sheet.SetData(kLabel, row, m.label);
-  sheet.SetData(kE, row, tools::FormatG(m.E));
-  sheet.SetData(kNu, row, tools::FormatG(m.nu));
-  sheet.SetData(kDensity, row, tools::FormatG(m.density));
-  sheet.SetData(kTc, row, tools::FormatG(m.Tc));
+  sheet.SetNumber(kE, row, tools::FormatG(m.E));
+  sheet.SetNumber(kNu, row, tools::FormatG(m.nu));
+  sheet.SetNumber(kDensity, row, tools::FormatG(m.density));
+  sheet.SetNumber(kTc, row, tools::FormatG(m.Tc));
 }
 
 void Fill(grid::Sheet& sheet, const std::vector<fmMat>& materials, const fmUnit& units, grid::Color alternateRowColor,
@@ -131,15 +131,15 @@ std::vector<std::string> StrengthHeaders(StrengthKind kind, const fmUnit& units)
 }
 
 void FillStrengthRow(grid::Sheet& sheet, StrengthKind kind, const fmMat& m, int row) {
-  sheet.SetData(kId, row, tools::Format("%d", m.id));
+  sheet.SetNumber(kId, row, tools::Format("%d", m.id));
   sheet.SetData(kLabel, row, m.label);
   if (kind == kConcrete) {
-    sheet.SetData(3, row, tools::FormatG(m.fc));
-    sheet.SetData(4, row, tools::FormatG(m.fy));
-    sheet.SetData(5, row, tools::FormatG(m.fys));
+    sheet.SetNumber(3, row, tools::FormatG(m.fc));
+    sheet.SetNumber(4, row, tools::FormatG(m.fy));
+    sheet.SetNumber(5, row, tools::FormatG(m.fys));
   } else {
-    sheet.SetData(3, row, tools::FormatG(m.fy));
-    sheet.SetData(4, row, tools::FormatG(m.fys));
+    sheet.SetNumber(3, row, tools::FormatG(m.fy));
+    sheet.SetNumber(4, row, tools::FormatG(m.fys));
   }
 }
 

@@ -46,7 +46,7 @@ fmSect RigidLinkSection() {
 
 void FillOneRow(grid::Sheet& sheet, const fmSect& section, int row) {
   sheet.SetData(kLabel, row, section.label);
-  for (const auto& v : kValues) sheet.SetData(v.col, row, tools::FormatG(section.*v.field));
+  for (const auto& v : kValues) sheet.SetNumber(v.col, row, tools::FormatG(section.*v.field));
 }
 
 std::vector<fmSect> Fill(grid::Sheet& sheet, const std::vector<fmSect>& sections, const fmUnit& units,
@@ -65,7 +65,7 @@ std::vector<fmSect> Fill(grid::Sheet& sheet, const std::vector<fmSect>& sections
       s = RigidLinkSection();
       s.label = label;
     }
-    sheet.SetData(kId, row, tools::Format("%d", row));
+    sheet.SetNumber(kId, row, tools::Format("%d", row));
     FillOneRow(sheet, s, row);
     shown.push_back(std::move(s));
   }

@@ -20,9 +20,9 @@ void Fill(grid::Sheet& sheet, const std::vector<fmThick>& thicknesses, const fmU
   sheet.AddFillColumn(kThickness);
   for (int row = 1; row <= rows; ++row) {
     const fmThick& t = thicknesses[static_cast<size_t>(row - 1)];
-    sheet.SetData(kId, row, tools::Format("%d", row));
+    sheet.SetNumber(kId, row, tools::Format("%d", row));
     sheet.SetData(kLabel, row, t.label);
-    sheet.SetData(kThickness, row, tools::FormatG(t.thickness));
+    sheet.SetNumber(kThickness, row, tools::FormatG(t.thickness));
   }
 }
 

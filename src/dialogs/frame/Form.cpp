@@ -184,7 +184,7 @@ void FormBase::Publish() const {
     box.nextRow = std::max(box.nextRow, row + rows);
   }
   for (const auto& [id, box] : containers)
-    if (box.rightmost >= 0) out[box.rightmostControl].flags |= res::kStretchCol;
+    if (frame_.stretchColumn && box.rightmost >= 0) out[box.rightmostControl].flags |= res::kStretchCol;
 
   using B = FormFrame::Buttons;
   if (frame_.buttons == B::OkCancel || frame_.buttons == B::Ok)

@@ -54,6 +54,9 @@ struct FormFrame {
   int minWidth = 0, minHeight = 0;
   uint32_t numberFlags = 0;  // extra template flags of every number edit (res::kNarrow ...)
   enum class Buttons { OkCancel, Ok, Close, None } buttons = Buttons::OkCancel;  // Close: Cancel reads "Close"
+  // The rightmost column of labelled fields in each group takes the spare width; a form laid
+  // out as a table keeps its columns as wide as their contents.
+  bool stretchColumn = true;
 };
 
 // The untyped part of a form: ids, the template and its strings.
@@ -116,6 +119,24 @@ class Field {
   static Field DropIndex(const char* label, int32_t Dlg::* m) {
     return Bound(FieldKind::DropIndex, label, m, DDX_CBIndexOrFirst);
   }
+  // Bound through an accessor, for what a pointer to member cannot name (an element of a
+  // member array); the drop-down shows the value less the offset.
+  static Field DropIndex(const char* label, std::function<int32_t&(Dlg&)> ref, int32_t offset = 0) {
+    Field f = Plain(FieldKind::DropIndex, label);
+    f.exchange = [ref, offset](Dlg& d, CDataExchange* pDX, int id) {
+      int32_t index = ref(d) - offset;
+      DDX_CBIndexOrFirst(pDX, id, index);
+      if (pDX->m_bSaveAndValidate) ref(d) = index + offset;
+    };
+    f.keep = KeepVia(ref);
+    return f;
+  }
+  static Field Check(const char* text, std::function<int32_t&(Dlg&)> ref) {
+    Field f = Plain(FieldKind::Check, text);
+    f.exchange = [ref](Dlg& d, CDataExchange* pDX, int id) { DDX_Check(pDX, id, ref(d)); };
+    f.keep = KeepVia(ref);
+    return f;
+  }
   static Field DropText(const char* label, std::string Dlg::* m) { return Bound(FieldKind::DropText, label, m, DDX_CBString); }
   static Field Drop(const char* label) { return Plain(FieldKind::DropIndex, label); }
   static Field CheckList(const char* label) { return Plain(FieldKind::CheckList, label); }
@@ -150,7 +171,7 @@ class Field {
   FieldLayout layout;
   std::any member;  // the pointer to member, found again by IdOf
   std::function<void(Dlg&, CDataExchange*, int id)> exchange;
-  std::function<std::function<void(Dlg&)>(const Dlg&)> keep;
+  std::function<std::function<void(Dlg&)>(Dlg&)> keep;
   std::function<std::vector<std::string>(const Dlg&)> items;
 
  private:
@@ -169,8 +190,11 @@ class Field {
     Field f = Plain(kind, text);
     f.member = m;
     f.exchange = [m, ddx](Dlg& d, CDataExchange* pDX, int id) { ddx(pDX, id, d.*m); };
-    f.keep = [m](const Dlg& d) { return [m, saved = d.*m](Dlg& into) { into.*m = saved; }; };
+    f.keep = [m](Dlg& d) { return [m, saved = d.*m](Dlg& into) { into.*m = saved; }; };
     return f;
+  }
+  static std::function<std::function<void(Dlg&)>(Dlg&)> KeepVia(std::function<int32_t&(Dlg&)> ref) {
+    return [ref](Dlg& d) { return [ref, saved = ref(d)](Dlg& into) { ref(into) = saved; }; };
   }
   template <class T>
   static Field Number(FieldKind kind, const char* label, T Dlg::* m,
@@ -188,8 +212,8 @@ class Field {
 template <class Dlg>
 class Form final : public FormBase {
  public:
-  Form(FormFrame frame, std::initializer_list<Field<Dlg>> fields, fmUnit* Dlg::* units = nullptr)
-      : FormBase(frame, LayoutsOf(fields)), fields_(fields), units_(units) {
+  Form(FormFrame frame, std::vector<Field<Dlg>> fields, fmUnit* Dlg::* units = nullptr)
+      : FormBase(frame, LayoutsOf(fields)), fields_(std::move(fields)), units_(units) {
     for (size_t i = 0; i < fields_.size(); ++i) fields_[i].layout = Layouts()[i];
   }
 
@@ -233,7 +257,7 @@ class Form final : public FormBase {
   }
 
  private:
-  static std::vector<FieldLayout> LayoutsOf(std::initializer_list<Field<Dlg>> fields) {
+  static std::vector<FieldLayout> LayoutsOf(const std::vector<Field<Dlg>>& fields) {
     std::vector<FieldLayout> layouts;
     for (const Field<Dlg>& f : fields) layouts.push_back(f.layout);
     return layouts;

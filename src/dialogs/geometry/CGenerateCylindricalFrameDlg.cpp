@@ -65,14 +65,10 @@ void CGenerateCylindricalFrameDlg::OnBnClickedOk() {
   const geometry::CylinderCheck check =
       geometry::CheckCylindricalFrameLists(m_strRadialList, m_strAngleList, m_strYList);
   if (!check.ok()) {
-    MessageBox(check.message);
-    const int list = check.list == geometry::CylinderList::Angle   ? kCtlAngleList
-                     : check.list == geometry::CylinderList::Axial ? kCtlAxialList
-                                                                   : kCtlRadialList;
-    if (auto* edit = Item<QLineEdit>(list)) {
-      edit->setFocus();
-      edit->selectAll();
-    }
+    FailOn(check.list == geometry::CylinderList::Angle   ? kCtlAngleList
+           : check.list == geometry::CylinderList::Axial ? kCtlAxialList
+                                                         : kCtlRadialList,
+           check.message);
     return;
   }
   EndDialog(IDOK);

@@ -34,7 +34,11 @@ class CDataGridDlg : public CDialog {
   // Grid to model; shows the first failure and returns false, the model untouched.
   virtual bool Save() = 0;
 
+  // "New Rows" as one undoable step; Enter in the count field runs it too.
   void OnNewRows();
+  // Fills the defaults of new rows firstRow..lastRow, within the "New Rows" step.
+  virtual void PrepareNewRows(grid::Sheet&, int /*firstRow*/, int /*lastRow*/) {}
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void OnPrint() { m_Spread.PrintGrid(PrintTitle()); }
   void OnSave() { m_Spread.ExportGrid(PrintTitle()); }
   virtual void OnGridRClick(int col, int row);

@@ -208,7 +208,7 @@ std::optional<std::string> WriteWorkbook(const Sheet& sheet, const std::string& 
   for (int row = 0; row <= rows; ++row) {
     for (int col = 1; col <= cols; ++col) {
       const lxw_error err = WriteCell(ws, lxw_row_t(row), lxw_col_t(col - 1), sheet.GetData(col, row),
-                                      row == 0 ? bold : nullptr, row > 0);
+                                      row == 0 ? bold : nullptr, row > 0 && sheet.IsNumber(col, row));
       if (err != LXW_NO_ERROR) return CannotWrite(target, lxw_strerror(err));
     }
   }

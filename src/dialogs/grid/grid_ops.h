@@ -49,9 +49,6 @@ int FillSelection(Sheet& sheet, int col, int row, FillMode mode);
 
 // Block copy and paste as tab-separated text, the form spreadsheet programs exchange.
 std::string CopyBlock(const Sheet& sheet, const Block& block);
-// Pastes starting at a cell; locked cells and cells beyond the grid are skipped. Returns the
-// block that was written to.
-Block PasteText(Sheet& sheet, int col, int row, const std::string& text);
 // Parses tab-separated text into rows of cells (quoted cells may hold tabs and newlines).
 std::vector<std::vector<std::string>> ParseTabSeparated(const std::string& text);
 

@@ -27,7 +27,7 @@ void FillCombo(QComboBox* combo, int count, const std::function<QString(int)>& t
 }  // namespace
 
 CGenerateResponseSpectrumDlg::CGenerateResponseSpectrumDlg(QWidget* pParent)
-    : CDialog(kTplGenerateResponseSpectrum, pParent) {
+    : CDialog(kIddGenerateResponseSpectrum, pParent) {
   OnCommand(IDOK, [this] { OnBnClickedOk(); });
   OnSelChange(kCtlSpecCode, [this] { OnSelChangeCode(); });
   for (int id : {kCtlSpecType, kCtlSpecGround}) OnSelChange(id, [this] { UpdatePreview(); });

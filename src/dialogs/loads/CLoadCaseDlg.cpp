@@ -9,8 +9,7 @@
 
 using namespace res;
 
-CLoadCaseDlg::CLoadCaseDlg(QWidget* pParent) : CDataGridDlg(kTplLoadCase, pParent) {
-  OnCommand(kCtlNewRows, [this] { OnNewCaseRows(); });
+CLoadCaseDlg::CLoadCaseDlg(QWidget* pParent) : CDataGridDlg(kIddLoadCase, pParent) {
   OnCommand(kCtlCaseDeleteRows, [this] { OnDeleteRows(); });
 }
 
@@ -50,13 +49,8 @@ bool CLoadCaseDlg::Save() {
   return true;
 }
 
-void CLoadCaseDlg::OnNewCaseRows() {
-  if (IsReadOnly()) return;
-  const int before = m_Spread.sheet().MaxRows();
-  OnNewRows();
-  if (m_Spread.sheet().MaxRows() == before) return;
-  TSpread::RedrawGuard guard(m_Spread);
-  loadgrid::PrepareNewCaseRows(m_Spread.sheet(), before + 1);
+void CLoadCaseDlg::PrepareNewRows(grid::Sheet& sheet, int firstRow, int) {
+  loadgrid::PrepareNewCaseRows(sheet, firstRow);
 }
 
 void CLoadCaseDlg::OnDeleteRows() {
@@ -69,15 +63,19 @@ void CLoadCaseDlg::OnDeleteRows() {
     block = {1, active.row, 1, active.row};
   }
   std::optional<grid::GridFailure> refusal;
-  {
-    TSpread::RedrawGuard guard(m_Spread);
-    refusal = loadgrid::DeleteCaseRows(sheet, block.row1, block.row2);
-    if (!refusal) {
-      const int deletedFilled = std::max(0, std::min(block.row2, filledRows_) - block.row1 + 1);
-      filledRows_ -= deletedFilled;
-      sheet.SetSelectBlock({});
-    }
+  const int filledBefore = filledRows_;
+  const int filledAfter = filledRows_ - std::max(0, std::min(block.row2, filledRows_) - block.row1 + 1);
+  m_Spread.ChangeRows(
+      "Delete Rows", block.row1,
+      [&](grid::Sheet& rows) {
+        refusal = loadgrid::DeleteCaseRows(rows, block.row1, block.row2);
+        if (!refusal) rows.SetSelectBlock({});
+      },
+      [this, filledBefore, filledAfter](bool undone) { filledRows_ = undone ? filledBefore : filledAfter; });
+  if (refusal) {
+    m_Spread.ShowFailure(refusal);
+    return;
   }
-  if (refusal) m_Spread.ShowFailure(refusal);
-  else m_Spread.SetSelectBlock({});
+  filledRows_ = filledAfter;
+  m_Spread.SetSelectBlock({});
 }

@@ -18,7 +18,7 @@ class CLoadCaseDlg : public CDataGridDlg {
   void Refresh() override;
   bool Save() override;
 
-  void OnNewCaseRows();
+  void PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) override;
   void OnDeleteRows();
 
  private:

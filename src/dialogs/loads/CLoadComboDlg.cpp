@@ -32,7 +32,7 @@ const char* YesNo(int32_t flag) { return flag ? "Yes" : "No"; }
 
 }  // namespace
 
-CLoadComboDlg::CLoadComboDlg(QWidget* pParent) : CDialog(kTplLoadCombo, pParent) {
+CLoadComboDlg::CLoadComboDlg(QWidget* pParent) : CDialog(kIddLoadCombo, pParent) {
   OnCommand(kCtlComboAdd, [this] { OnAdd(); });
   OnCommand(kCtlComboModify, [this] { OnModify(); });
   OnCommand(kCtlComboCopy, [this] { OnCopy(); });

@@ -10,7 +10,7 @@
 
 using namespace res;
 
-CLoadComboItemDlg::CLoadComboItemDlg(QWidget* pParent) : CDialog(kTplLoadComboItem, pParent) {}
+CLoadComboItemDlg::CLoadComboItemDlg(QWidget* pParent) : CDialog(kIddLoadComboItem, pParent) {}
 
 std::string CLoadComboItemDlg::PrintTitle() const {
   const auto* edit = Item<QLineEdit>(kCtlItemLabel);
@@ -61,12 +61,7 @@ void CLoadComboItemDlg::OnOK() {
   fmLoadComb saved;
   const loads::EditCheck check = loads::SaveCombinationEdit(edit, *m_pLoadCombs, m_nIndex, saved);
   if (!check.ok()) {
-    MessageBox(check.message);
-    const int focus = check.field == loads::EditCheck::Field::SustainedFactor ? kCtlItemSustained : kCtlItemLabel;
-    if (auto* field = Item<QLineEdit>(focus)) {
-      field->setFocus();
-      field->selectAll();
-    }
+    FailOn(check.field == loads::EditCheck::Field::SustainedFactor ? kCtlItemSustained : kCtlItemLabel, check.message);
     return;
   }
   m_comb = std::move(saved);

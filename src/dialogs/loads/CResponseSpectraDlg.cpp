@@ -26,7 +26,7 @@ const std::vector<std::string> kFileFilters = {"CSV File (*.csv)", "Text File (*
 
 }  // namespace
 
-CResponseSpectraDlg::CResponseSpectraDlg(QWidget* pParent) : CDialog(kTplResponseSpectra, pParent) {
+CResponseSpectraDlg::CResponseSpectraDlg(QWidget* pParent) : CDialog(kIddResponseSpectra, pParent) {
   OnCommand(kCtlSpectraGenerate, [this] { OnGenerate(); });
   OnCommand(kCtlSpectraImport, [this] { OnImport(); });
   OnCommand(kCtlSpectraModify, [this] { OnModify(); });

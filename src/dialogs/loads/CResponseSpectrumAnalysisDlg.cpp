@@ -23,7 +23,7 @@ int IndexOf(const std::vector<fmResponseSpectrum>& spectra, const std::string& n
 }  // namespace
 
 CResponseSpectrumAnalysisDlg::CResponseSpectrumAnalysisDlg(QWidget* pParent)
-    : CDialog(kTplResponseSpectrumAnalysis, pParent) {
+    : CDialog(kIddResponseSpectrumAnalysis, pParent) {
   OnCommand(IDOK, [this] { OnBnClickedOk(); });
   OnCommand(kCtlRsaSpectra, [this] { OnSpectra(); });
 }

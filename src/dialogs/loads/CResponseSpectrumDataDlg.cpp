@@ -15,7 +15,7 @@
 
 using namespace res;
 
-CResponseSpectrumDataDlg::CResponseSpectrumDataDlg(QWidget* pParent) : CDataGridDlg(kTplResponseSpectrumData, pParent) {
+CResponseSpectrumDataDlg::CResponseSpectrumDataDlg(QWidget* pParent) : CDataGridDlg(kIddResponseSpectrumData, pParent) {
   OnCommand(kCtlNewRows, [this] { OnNewPointRows(); });
   OnCommand(kCtlSpecDeleteRows, [this] { OnDeleteRows(); });
 }

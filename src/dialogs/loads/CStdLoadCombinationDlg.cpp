@@ -8,7 +8,7 @@
 
 using namespace res;
 
-CStdLoadCombinationDlg::CStdLoadCombinationDlg(QWidget* pParent) : CDialog(kTplStdLoadCombination, pParent) {
+CStdLoadCombinationDlg::CStdLoadCombinationDlg(QWidget* pParent) : CDialog(kIddStdLoadCombination, pParent) {
   OnSelChange(kCtlStdCode, [this] { OnSelchangeComboCode(); });
   OnCommand(kCtlStdSelectAll, [this] { OnSelectAll(); });
   OnCommand(kCtlStdClearAll, [this] { OnClearAll(); });

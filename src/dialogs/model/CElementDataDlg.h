@@ -26,7 +26,7 @@ class CElementDataDlg : public CDataGridDlg {
   template <class Record>
   bool SaveRows(std::vector<Record>& elements, const std::vector<Record>& filled);
 
-  void OnNewElementRows();
+  void PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) override;
 
   template <class T>
   static std::span<const T> ListOf(const std::vector<T>* list) {

@@ -5,7 +5,7 @@
 #include "resources/resources.h"
 #include "tools/format.h"
 
-CNodeDataDlg::CNodeDataDlg(QWidget* pParent) : CDataGridDlg(8007, pParent) {
+CNodeDataDlg::CNodeDataDlg(QWidget* pParent) : CDataGridDlg(res::kIddNodeData, pParent) {
   OnCommand(res::kCtlRoundOff, [this] { OnRoundOff(); });
 }
 
@@ -38,6 +38,6 @@ bool CNodeDataDlg::Save() {
 
 void CNodeDataDlg::OnRoundOff() {
   if (IsReadOnly()) return;
-  TSpread::RedrawGuard guard(m_Spread);
-  nodegrid::RoundOffCoordinates(m_Spread.sheet(), m_dEpsilon);
+  m_Spread.ChangeCells("Round-off Coordinates", {nodegrid::kX, 1, nodegrid::kZ, m_Spread.sheet().MaxRows()},
+                       [&](grid::Sheet& sheet) { nodegrid::RoundOffCoordinates(sheet, m_dEpsilon); });
 }

@@ -41,10 +41,10 @@ int Fill(grid::Sheet& sheet, const std::vector<fmNd>& nodes, const fmUnit& units
   for (const fmNd& nd : nodes) {
     if (selectedOnly && !nd.IsSelected()) continue;
     ++row;
-    sheet.SetData(kId, row, tools::FormatInt(nd.id));
-    sheet.SetData(kX, row, tools::FormatG(nd.x));
-    sheet.SetData(kY, row, tools::FormatG(nd.y));
-    sheet.SetData(kZ, row, tools::FormatG(nd.z));
+    sheet.SetNumber(kId, row, tools::FormatInt(nd.id));
+    sheet.SetNumber(kX, row, tools::FormatG(nd.x));
+    sheet.SetNumber(kY, row, tools::FormatG(nd.y));
+    sheet.SetNumber(kZ, row, tools::FormatG(nd.z));
     sheet.SetData(kStatus, row, kStatusItems[nd.IsFrozen() ? 2 : nd.IsSelected() ? 1 : 0]);
   }
   return rows;
@@ -65,6 +65,11 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmNd> filled) {
     if (!id) {
       result.failure = grid::GridFailure{
           tools::Format("Invalid node id \"%s\" in row %d.", sheet.GetData(kId, row).c_str(), row), {kId, row}};
+      return result;
+    }
+    if (*id > kMaxId) {
+      result.failure = grid::GridFailure{
+          tools::Format("Invalid node id %u in row %d: the highest id is %u.", *id, row, kMaxId), {kId, row}};
       return result;
     }
     nd.id = *id;

@@ -28,7 +28,7 @@ QBoxLayout* BoxLayoutOf(QLayout* layout, QWidget* widget) {
 }  // namespace
 
 CResultsDlg::CResultsDlg(QWidget* pParent)
-    : CDialog(res::kDlgResults, pParent), m_hIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView)) {
+    : CDialog(res::kIddResults, pParent), m_hIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView)) {
   OnSelChange(res::kCtlResultsCombo, [this] { OnSelchangeComboCombination(); });
   OnCommand(res::kCtlResultsShowSelected, [this] { OnCheckShowSelected(); });
   OnCommand(res::kCtlPrint, [this] { OnPrint(); });

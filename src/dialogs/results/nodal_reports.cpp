@@ -52,11 +52,11 @@ class CellWriter {
   void Text(int col, int row, std::string_view text) { sheet_.SetData(col, row, text); }
   void Id(int col, int row, int64_t value) {
     const auto [end, ec] = std::to_chars(buffer_, buffer_ + sizeof buffer_, value);
-    sheet_.SetData(col, row, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
+    sheet_.SetNumber(col, row, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
   }
   // The value already in display units.
   void Value(int col, int row, double value, int format) {
-    sheet_.SetData(col, row, std::string_view(buffer_, FormatDisplayTo(buffer_, value, format)));
+    sheet_.SetNumber(col, row, std::string_view(buffer_, FormatDisplayTo(buffer_, value, format)));
   }
   void Value(int col, int row, double value, const Shown& s) { Value(col, row, value * s.factor, s.format); }
 

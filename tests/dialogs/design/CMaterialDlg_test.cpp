@@ -48,7 +48,7 @@ class MaterialDialogTest : public SectionsDialogTest {
 
 TEST_F(MaterialDialogTest, StandardConcreteFillsANewRowAndItsStrengthsReachTheHost) {
   Open();
-  scripts[res::kTplStandardMaterial] = Choose(9, "145");  // "Concrete fc = 4.0 ksi"
+  scripts[res::kIddStandardMaterial] = Choose(9, "145");  // "Concrete fc = 4.0 ksi"
   dlg.PressButton(res::kCtlMatStandard);
   EXPECT_TRUE(Messages().empty()) << "row 1 active: a new row, no question";
   ASSERT_EQ(sheet().MaxRows(), 3);
@@ -64,12 +64,12 @@ TEST_F(MaterialDialogTest, StandardConcreteFillsANewRowAndItsStrengthsReachTheHo
 
 TEST_F(MaterialDialogTest, StandardMaterialAsksBeforeOverwritingALabelledRow) {
   Open();
-  scripts[res::kTplStandardMaterial] = Choose(1, nullptr);  // Steel-A36--Fy36 with its own density
+  scripts[res::kIddStandardMaterial] = Choose(1, nullptr);  // Steel-A36--Fy36 with its own density
   dlg.Spread().SetActiveCell(1, 2);
   prompter.QueueAnswer(false);
   dlg.PressButton(res::kCtlMatStandard);
   EXPECT_EQ(Messages(), std::vector<std::string>{"Do you want to override the current material?"});
-  EXPECT_EQ(opened[res::kTplStandardMaterial], 0);
+  EXPECT_EQ(opened[res::kIddStandardMaterial], 0);
   prompter.QueueAnswer(true);
   dlg.PressButton(res::kCtlMatStandard);
   EXPECT_EQ(sheet().GetData(2, 2), "Steel-A36--Fy36");

@@ -166,13 +166,13 @@ TEST_F(SteelCheckDialogTest, ShowProcedureOpensTheReportAndAiscTableChoosesTheSh
   ASSERT_EQ(catcher.urls.size(), 1u);
   EXPECT_EQ(catcher.urls[0].toLocalFile().toStdString(), reports / "kStrand.htm");
 
-  scripts[kTplAiscData] = [](CDialog& browser) {
+  scripts[kIddAiscData] = [](CDialog& browser) {
     browser.Item<QLineEdit>(kCtlShapeFind)->setText("2L4X3-1/2X3/8X3/4LLBB");
     browser.PressButton(IDOK);
   };
   ASSERT_FALSE(Cell(15, 1).empty());
   dlg.PressButton(kCtlSteelAiscTable);
-  EXPECT_EQ(opened[kTplAiscData], 1);
+  EXPECT_EQ(opened[kIddAiscData], 1);
   EXPECT_EQ(Cell(15, 1), "") << "a new shape clears the results";
 }
 

@@ -166,13 +166,20 @@ TEST(ExportText, TabsBetweenCellsAndCrLfAfterEveryRow) {
 
 TEST(ExportWorkbook, NumbersAsNumbersTextAsTextNeverFormulas) {
   // Small sheets keep shared strings; big ones are streamed with inline strings.
+  // A cell is a number only when it was filled from one: column C of the first rows, then B.
+  // Labels that look like numbers ("0012", "1E3") stay text.
+  const auto filledFromNumber = [](size_t r, size_t c) { return r > 0 && (r <= 4 ? c == 2 : c == 1); };
   for (int extraRows : {0, 40000}) {
     TempDir dir;
     auto rows = kAwkward;
-    rows.push_back({"1e3", "-0.5", "12abc"});
+    rows.push_back({"0012", "-0.5", "1E3"});
     for (int i = 0; i < extraRows; ++i) rows.push_back({tools::Format("n%d", i), tools::Format("%d", i), "x"});
     const std::string path = dir / (extraRows ? "big.xlsx" : "small.XLS");
-    ASSERT_EQ(grid::ExportSheet(MakeSheet(rows), path, true, "Loads: [all]"), std::nullopt);
+    Sheet sheet = MakeSheet(rows);
+    for (size_t r = 1; r < rows.size(); ++r)
+      for (size_t c = 0; c < rows[r].size(); ++c)
+        if (filledFromNumber(r, c)) sheet.SetNumber(int(c + 1), int(r), rows[r][c]);
+    ASSERT_EQ(grid::ExportSheet(sheet, path, true, "Loads: [all]"), std::nullopt);
     EXPECT_EQ(FolderEntries(dir.path()).size(), 1u) << "no temporary file is left";
 
     const auto cells = ReadWorksheet(path);
@@ -184,7 +191,7 @@ TEST(ExportWorkbook, NumbersAsNumbersTextAsTextNeverFormulas) {
         ASSERT_EQ(cells.count(ref), 1u) << ref;
         const XlsxCell& cell = cells.at(ref);
         EXPECT_FALSE(cell.formula) << ref;
-        const auto number = r > 0 ? tools::ParseDouble(text) : std::nullopt;
+        const auto number = filledFromNumber(r, c) ? tools::ParseDouble(text) : std::nullopt;
         EXPECT_EQ(cell.type, number ? "" : extraRows ? "inlineStr" : "s") << ref;
         if (number) EXPECT_EQ(tools::ParseDouble(cell.value), number) << ref << " holds " << cell.value;
         else EXPECT_EQ(cell.value, text) << ref;
@@ -195,6 +202,25 @@ TEST(ExportWorkbook, NumbersAsNumbersTextAsTextNeverFormulas) {
     const std::string workbookXml = CommandOutput("unzip -p '" + path + "' xl/workbook.xml");
     EXPECT_NE(workbookXml.find("name=\"Loads_ _all_\""), std::string::npos) << workbookXml;
   }
+}
+
+TEST(ExportWorkbook, ATypedCellKeepsItsKindWhileItReadsAsANumber) {
+  Sheet sheet = MakeSheet({{"Label", "X [ft]"}, {"A", "1"}, {"B", "2"}});
+  sheet.SetNumber(2, 1, "1");
+  sheet.SetNumber(2, 2, "2");
+  sheet.SetTypedData(1, 1, "3");     // a label typed as digits stays a label
+  sheet.SetTypedData(2, 1, " 2.5 ");
+  sheet.SetTypedData(2, 2, "two");   // text now, and text it stays
+  sheet.SetTypedData(2, 2, "4");
+  EXPECT_FALSE(sheet.IsNumber(1, 1));
+  EXPECT_TRUE(sheet.IsNumber(2, 1));
+  EXPECT_FALSE(sheet.IsNumber(2, 2));
+  TempDir dir;
+  ASSERT_EQ(grid::ExportSheet(sheet, dir / "t.xlsx", false, "T"), std::nullopt);
+  const auto cells = ReadWorksheet(dir / "t.xlsx");
+  EXPECT_TRUE(cells.at("A2").type == "s" && cells.at("A2").value == "3");
+  EXPECT_TRUE(cells.at("B2").type.empty() && cells.at("B2").value == "2.5");
+  EXPECT_TRUE(cells.at("B3").type == "s" && cells.at("B3").value == "4");
 }
 
 // Once wrote <v>-0,5</v> under a comma-decimal locale, which spreadsheet programs cannot read.

@@ -41,7 +41,7 @@ class SpectraListTest : public SpectraDialogTest {
   }
   // The generator run by the list: choose a code and values, press OK.
   void GenerateNext(int code, const char* v1, const char* v2) {
-    scripts[kTplGenerateResponseSpectrum] = [=](CDialog& d) {
+    scripts[kIddGenerateResponseSpectrum] = [=](CDialog& d) {
       d.ChooseItem(kCtlSpecCode, code);
       d.Item<QLineEdit>(kCtlSpecValue1)->setText(v1);
       d.Item<QLineEdit>(kCtlSpecValue2)->setText(v2);
@@ -85,7 +85,7 @@ TEST_F(SpectraListTest, NewUserSeesTheDefaultAndAddsFromCodeAndFile) {
 TEST_F(SpectraListTest, ModifyAndDeleteAskFirstAndTheFirstStays) {
   Store({kFirst, {"Two", {{0, 1}, {1, 0.5}}}, {"Three", {{0, 1}}}});
   dlg.InitDialogForTest();
-  scripts[kTplResponseSpectrumData] = [](CDialog& d) {
+  scripts[kIddResponseSpectrumData] = [](CDialog& d) {
     auto& data = static_cast<CResponseSpectrumDataDlg&>(d);
     EXPECT_EQ(data.m_otherNames, (std::vector<std::string>{"ASCE_2010_SDS_1_SD1_0.6_TL_8", "Three"}));
     data.Item<QLineEdit>(kCtlSpecName)->setText("Two, edited");
