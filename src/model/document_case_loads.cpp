@@ -23,7 +23,7 @@ struct Known {
 
 uint32_t Reference(const JsonReader& item, const char* key, const std::unordered_set<uint32_t>& ids,
                    const char* table) {
-  const uint32_t id = item.UInt32(key);
+  const uint32_t id = item.Id(key, key);
   if (!ids.count(id)) item.Member(key).Fail(tools::Format("%s %u is not in \"%s\"", key, id, table));
   return id;
 }
