@@ -13,7 +13,7 @@ class CLoadCaseDlg : public CDataGridDlg {
   std::vector<fmLoadCase>* m_pLoadCases = nullptr;
 
  protected:
-  BOOL OnInitDialog() override;
+  GridEditLock EditLock() const override;
   void OnOK() override;
   void Refresh() override;
   bool Save() override;
