@@ -1,0 +1,40 @@
+#include "apps/host/DialogBindings.h"
+#include "dialogs/loads/CCaseLoadDataDlg.h"
+
+namespace {
+
+// The load tables read the cases, their loads and the model's nodes and elements, and write
+// the loads back themselves on OK.
+template <class Dlg>
+void BindLoadTable() {
+  BindDialog<Dlg>(
+      [](Dlg& dlg, HostModel& m) {
+        dlg.m_pUnits = &m.doc.units;
+        dlg.m_bShowSelectedOnly = m.doc.display.showSelectedOnly;
+        dlg.m_bModelLocked = m.doc.display.modelLocked;
+        dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
+        m.doc.caseLoads.resize(m.doc.loadCases.size());
+        dlg.m_pLoadCases = &m.doc.loadCases;
+        dlg.m_pCaseLoads = &m.doc.caseLoads;
+        dlg.m_pNodes = &m.doc.nodes;
+        dlg.m_pMembers = &m.doc.members;
+        dlg.m_pShells = &m.doc.shells;
+        dlg.m_pBricks = &m.doc.bricks;
+      },
+      [](Dlg&, HostModel&) { return true; });
+}
+
+}  // namespace
+
+void RegisterCaseLoadsBindings() {
+  BindLoadTable<CNodalLoadDataDlg>();
+  BindLoadTable<CPointLoadDataDlg>();
+  BindLoadTable<CLineLoadDataDlg>();
+  BindLoadTable<CShellLoadDataDlg>();
+  BindLoadTable<CAreaLoadDataDlg>();
+  BindLoadTable<CMemberThermalLoadDataDlg>();
+  BindLoadTable<CShell4ThermalLoadDataDlg>();
+  BindLoadTable<CBrickThermalLoadDataDlg>();
+  BindLoadTable<CNodalMassDataDlg>();
+  BindLoadTable<CCombMassDataDlg>();
+}
