@@ -1,5 +1,6 @@
 #include "model/solved_structure.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "tools/format.h"
@@ -60,6 +61,13 @@ CfmStruct SolvedStructure(const ModelDocument& doc) {
     s.m_Bricks.push_back(brick);
   }
   s.m_Solution = doc.results;
+  s.m_LoadCases = doc.loadCases;
+  s.m_LoadCombs = doc.loadCombs;
+  s.m_CaseLoads = doc.caseLoads;
+  s.m_nShellResultLocation = doc.display.shellResultLocation;
+  s.m_Counts.supports = static_cast<int>(std::max(doc.supports.size(), doc.results.supports.size()));
+  s.m_Counts.nodalSprings = static_cast<int>(doc.results.nodalSprings.size());
+  s.m_Counts.coupledSprings = static_cast<int>(doc.results.coupledSprings.size());
   if (s.m_Solution.cases.empty()) {
     // Never solved: the cases and combinations are listed and their results are missing.
     s.m_Solution.cases = doc.loadCases;
