@@ -15,6 +15,7 @@ void RegisterGridDialogs();
 void RegisterSectionsDialogs();
 void RegisterResultsDialogs();
 void RegisterSpectraDialogs();
+void RegisterCaseLoadsDialogs();
 
 namespace {
 int g_users = 0;
@@ -34,6 +35,7 @@ bool NorvaneDlgsStartup() {
   RegisterSectionsDialogs();
   RegisterResultsDialogs();
   RegisterSpectraDialogs();
+  RegisterCaseLoadsDialogs();
   return true;
 }
 

@@ -12,6 +12,7 @@ extern const ResourceTable kGeometryResources;
 extern const ResourceTable kSectionsResources;
 extern const ResourceTable kResultsResources;
 extern const ResourceTable kSpectraResources;
+extern const ResourceTable kCaseLoadsResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {
@@ -24,6 +25,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kLoadsResources,
       &kResultsResources,
       &kSpectraResources,
+      &kCaseLoadsResources,
       &GeneratedResources(),
   };
   return tables;

@@ -38,4 +38,5 @@ void RegisterAllBindings() {
   RegisterSectionsBindings();
   RegisterResultsBindings();
   RegisterSpectraBindings();
+  RegisterCaseLoadsBindings();
 }

@@ -58,4 +58,5 @@ void RegisterGridBindings();
 void RegisterSectionsBindings();
 void RegisterResultsBindings();
 void RegisterSpectraBindings();
+void RegisterCaseLoadsBindings();
 void RegisterAllBindings();
