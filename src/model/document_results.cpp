@@ -34,12 +34,6 @@ int32_t WholeNumber(const JsonReader& parent, size_t index, int64_t min, int64_t
   return static_cast<int32_t>(n);
 }
 
-template <size_t N>
-void ReadNumbers(const JsonReader& list, std::array<double, N>& out) {
-  if (list.ArraySize() != N) list.Fail("expected " + std::to_string(N) + " numbers");
-  for (size_t i = 0; i < N; ++i) out[i] = Number(list, i);
-}
-
 // A result vector holds one record per node or element: a second would be shown and summed twice.
 template <class Record, class IdOf>
 void RefuseDuplicates(const JsonReader& list, const std::vector<Record>& records, const char* word, IdOf idOf) {
@@ -230,7 +224,11 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
     item.RequireObject();
     fmSpectrumMode m;
     m.omega2 = item.Double("omega2");
-    if (item.Has("participation")) ReadNumbers(item.Member("participation"), m.participation);
+    if (item.Has("participation")) {
+      const JsonReader list = item.Member("participation");
+      if (list.ArraySize() != 3) list.Fail("expected 3 numbers: the participation factors in X, Y and Z");
+      for (size_t d = 0; d < 3; ++d) m.participation[d] = Number(list, d);
+    }
     for (const char* key : {"displacements", "inertialForces"}) {
       if (!item.Has(key)) continue;
       const JsonReader byAxis = item.Member(key);
@@ -244,38 +242,6 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
   RefuseNegativeEigenvalues(section, "spectrumModes", s.spectrumModes);
   if (section.Has("spectrum")) s.spectrum = ReadCaseResults(section.Member("spectrum"));
   ReadConcreteDesign(section, s.concreteDesign);
-  ReadList(section, "envelopeCombinations", s.envelopeCombinations, [](const JsonReader& item) {
-    if (!item.value().is_string()) item.Fail("expected a text");
-    return tools::CutLabel(item.value().get<std::string>());
-  });
-  if (section.Has("driftNodes")) {
-    const JsonReader list = section.Member("driftNodes");
-    const size_t n = list.ArraySize();
-    for (size_t i = 0; i < n; ++i) s.driftNodes.push_back(WholeNumber(list, i, INT32_MIN, INT32_MAX));
-  }
-  ReadList(section, "supports", s.supports, [](const JsonReader& item) {
-    item.RequireObject();
-    fmSolution::Support r;
-    r.node = ReadNode(item);
-    r.flag = item.String("flag");
-    if (item.Has("values")) ReadNumbers(item.Member("values"), r.value);
-    return r;
-  });
-  ReadList(section, "nodalSprings", s.nodalSprings, [](const JsonReader& item) {
-    item.RequireObject();
-    fmSolution::NodalSpring r;
-    r.node = ReadNode(item);
-    r.flag = item.String("flag");
-    ReadNumbers(item.Member("k"), r.k);
-    return r;
-  });
-  ReadList(section, "coupledSprings", s.coupledSprings, [](const JsonReader& item) {
-    item.RequireObject();
-    fmSolution::CoupledSpring r;
-    r.node = ReadNode(item);
-    ReadNumbers(item.Member("k"), r.k);
-    return r;
-  });
   ReadList(section, "nodalLoads", s.nodalLoads, [](const JsonReader& item) {
     item.RequireObject();
     fmSolution::NodalLoad r;
@@ -334,24 +300,6 @@ void WriteResults(const ModelDocument& doc, OrderedJson& root) {
   WriteCaseResults(s.spectrum, spectrum);
   if (!spectrum.empty()) out["spectrum"] = std::move(spectrum);
   WriteConcreteDesign(s.concreteDesign, out);
-  if (!s.envelopeCombinations.empty()) out["envelopeCombinations"] = s.envelopeCombinations;
-  if (!s.driftNodes.empty()) out["driftNodes"] = s.driftNodes;
-
-  if (!s.supports.empty()) {
-    OrderedJson list = OrderedJson::array();
-    for (const auto& r : s.supports) list.push_back({{"node", r.node}, {"flag", r.flag}, {"values", r.value}});
-    out["supports"] = std::move(list);
-  }
-  if (!s.nodalSprings.empty()) {
-    OrderedJson list = OrderedJson::array();
-    for (const auto& r : s.nodalSprings) list.push_back({{"node", r.node}, {"flag", r.flag}, {"k", r.k}});
-    out["nodalSprings"] = std::move(list);
-  }
-  if (!s.coupledSprings.empty()) {
-    OrderedJson list = OrderedJson::array();
-    for (const auto& r : s.coupledSprings) list.push_back({{"node", r.node}, {"k", r.k}});
-    out["coupledSprings"] = std::move(list);
-  }
   if (!s.nodalLoads.empty()) {
     OrderedJson list = OrderedJson::array();
     for (const auto& r : s.nodalLoads)

@@ -24,6 +24,17 @@ void WriteElements(const ModelDocument& doc, nlohmann::ordered_json& root);
 // After the nodes: a support must name one of them.
 void ReadSupports(const JsonReader& root, ModelDocument& doc);
 void WriteSupports(const ModelDocument& doc, nlohmann::ordered_json& root);
+// After the elements and results: springs, releases, constraints, diaphragms and the drift
+// stack name nodes, members and shells; an older document's copies in the results are taken
+// over in the results' units.
+void ReadBoundaries(const JsonReader& root, ModelDocument& doc);
+void WriteBoundaries(const ModelDocument& doc, nlohmann::ordered_json& root);
+// Rescales prescribed displacements, spring stiffnesses and diaphragm levels; factor[q] is 1
+// for a quantity not converted.
+void ConvertBoundaryUnits(ModelDocument& doc, const double* factor);
+bool BoundariesFinite(const ModelDocument& doc);
+// The factor of term t of a coupled spring (fmCoupledSpring::TermKind).
+double CoupledTermFactor(int term, const double* factor);
 void ReadSpectrumSettings(const JsonReader& root, ModelDocument& doc);
 void WriteSpectrumSettings(const ModelDocument& doc, nlohmann::ordered_json& root);
 // After the elements and results: loads name nodes and elements, and documents without a

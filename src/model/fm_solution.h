@@ -56,29 +56,10 @@ struct fmSpectrumMode {
   bool operator==(const fmSpectrumMode&) const = default;
 };
 
-// What a solver run analysed and produced beyond the model's own tables: the model
-// document's "results" section. Every value is in `units`.
+// What a solver run produced: the model document's "results" section. Every value is in
+// `units`. What the run analysed (supports, springs, the drift stack, the envelope list) is
+// the model's own (ModelDocument), not kept here.
 struct fmSolution {
-  // A support: which of the six degrees of freedom it holds (its flag text, e.g. "111111")
-  // and the displacements and rotations it prescribes.
-  struct Support {
-    int32_t node = 0;
-    std::string flag{};
-    std::array<double, 6> value{};
-    bool operator==(const Support&) const = default;
-  };
-  struct NodalSpring {
-    int32_t node = 0;
-    std::string flag{};
-    std::array<double, 6> k{};  // Kx, Ky, Kz, Kox, Koy, Koz
-    bool operator==(const NodalSpring&) const = default;
-  };
-  // The upper triangle of a node's 6x6 spring stiffness, row by row (Kx_Kx, Kx_Ky ... Koz_Koz).
-  struct CoupledSpring {
-    int32_t node = 0;
-    std::array<double, 21> k{};
-    bool operator==(const CoupledSpring&) const = default;
-  };
   // A nodal force (direction 0 to 2) or moment (3 to 5) of a load case, by the case's label.
   struct NodalLoad {
     int32_t node = 0;
@@ -101,11 +82,6 @@ struct fmSolution {
   std::vector<fmEigenMode> eigenModes;
   std::vector<fmSpectrumMode> spectrumModes;
   fmCaseResults spectrum;  // the response-spectrum modal combination
-  std::vector<std::string> envelopeCombinations;
-  std::vector<int32_t> driftNodes;  // walked in this order, from the bottom up
-  std::vector<Support> supports;
-  std::vector<NodalSpring> nodalSprings;
-  std::vector<CoupledSpring> coupledSprings;
   std::vector<NodalLoad> nodalLoads;
   std::vector<NodalMass> nodalMasses;
   fmConcreteDesign concreteDesign;

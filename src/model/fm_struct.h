@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "model/fm_boundary.h"
 #include "model/fm_case_load.h"
 #include "model/fm_element.h"
 #include "model/fm_load.h"
@@ -12,6 +13,7 @@
 #include "model/fm_node.h"
 #include "model/fm_section.h"
 #include "model/fm_solution.h"
+#include "model/fm_support.h"
 #include "tools/fm_unit.h"
 
 // The solved structure the results reports read: the model's tables, its units and display
@@ -56,16 +58,6 @@ class CfmStruct {
     uint32_t flags = 0;
     std::array<uint32_t, 8> node{};
     int32_t material = 0;
-  };
-  struct LineSpring {
-    uint32_t member = 0;
-    std::string flag{};
-    std::array<double, 3> k{};
-  };
-  struct SurfaceSpring {
-    uint32_t shell = 0;
-    std::string flag{};
-    std::array<double, 3> k{};
   };
   // Element loads of a load case (by its label). Directions 0 to 2 are X, Y, Z of the
   // global or, with `local`, the element's system; point and line loads 3 to 5 are moments.
@@ -116,8 +108,15 @@ class CfmStruct {
   std::vector<Member> m_Members;
   std::vector<Shell4> m_Shells;
   std::vector<Brick> m_Bricks;
-  std::vector<LineSpring> m_LineSprings;
-  std::vector<SurfaceSpring> m_SurfaceSprings;
+  // What holds the structure, as the model keeps it (in m_Units).
+  std::vector<fmSupport> m_Supports;
+  std::vector<fmNodalSpring> m_NodalSprings;
+  std::vector<fmCoupledSpring> m_CoupledSprings;
+  std::vector<fmLineSpring> m_LineSprings;
+  std::vector<fmSurfaceSpring> m_SurfaceSprings;
+  std::vector<uint32_t> m_DriftNodes;  // the drift stack, from the bottom up
+  // Labels of the load cases and combinations that take part in envelopes.
+  std::vector<std::string> m_EnvelopeCombinations;
   std::vector<PointLoad> m_PointLoads;
   std::vector<LineLoad> m_LineLoads;
   std::vector<SurfaceLoad> m_SurfaceLoads;
@@ -130,7 +129,6 @@ class CfmStruct {
   std::vector<fmCaseLoad> m_CaseLoads;
   // Counts of model tables the solved structure holds no records of.
   struct Counts {
-    int supports = 0, nodalSprings = 0, coupledSprings = 0, lineSprings = 0, surfaceSprings = 0;
     int beamReleases = 0;
     int beamRcCriteria = 0, columnRcCriteria = 0, plateRcCriteria = 0, steelCriteria = 0;
   };
@@ -166,8 +164,8 @@ class CfmStruct {
   double ResultFactor(fmUnit::Quantity q) const;
   // The display format index of a quantity, 0 to 11.
   int DisplayFormat(fmUnit::Quantity q) const;
-  // The base of the structure: the lowest Y of the supported nodes, or of all nodes when no
-  // support is known (0 without nodes).
+  // The base of the structure: the lowest Y of the model's supported nodes, or of all nodes
+  // when it has no support (0 without nodes).
   double BaseLevel() const;
 
   // Per node, the maximum and minimum of each displacement (or support reaction) over the
