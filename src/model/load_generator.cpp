@@ -9,10 +9,12 @@
 
 namespace model {
 
-std::string LoadGenerator::CheckPath(const std::vector<int64_t>& ids) const {
+std::string LoadGenerator::CheckPath(const std::vector<int64_t>& ids, size_t* at) const {
   std::unordered_set<int64_t> seen;
   seen.reserve(ids.size());
-  for (int64_t id : ids) {
+  for (size_t k = 0; k < ids.size(); ++k) {
+    const int64_t id = ids[k];
+    if (at) *at = k;
     if (!seen.insert(id).second) return tools::Format("Duplicate member id %lld found", static_cast<long long>(id));
     if (id < 0 || id > UINT32_MAX || !FindMember(static_cast<uint32_t>(id)))
       return tools::Format("Member id %lld not found", static_cast<long long>(id));

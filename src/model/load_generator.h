@@ -31,8 +31,8 @@ class LoadGenerator {
   const std::vector<std::string>& Refusals() const { return refusals_; }
 
   // "Duplicate member id %d found" or "Member id %d not found" for the first bad entry; empty
-  // when every entry is a member of the model, given once.
-  std::string CheckPath(const std::vector<int64_t>& ids) const;
+  // when every entry is a member of the model, given once. `at` gets the bad entry's index.
+  std::string CheckPath(const std::vector<int64_t>& ids, size_t* at = nullptr) const;
   // Whether each member of the path shares a node with the next one.
   bool IsConnected(const std::vector<uint32_t>& path) const;
   // The member with that number; null when there is none.

@@ -27,6 +27,20 @@ const StringEntry kStrings[] = {
      "Nodes: the corners of the loaded area in order around it. Two-way: each edge member carries its "
      "tributary area; one-way: the members parallel to the first edge carry the load."},
     {kStrNodalMassNote, "Weight of the mass; a rotational mass as weight times length squared."},
+    {kStrMovingLoadCaption, "Moving Load"},
+    {kStrPatternLoadCaption, "Pattern Load"},
+    {kStrMovingNote,
+     "Note: Point loads of the moving load case will be moved on the members.  New loads, load cases and load "
+     "combinations are generated appropriately."},
+    {kStrPatternNote,
+     "Note: Point and line loads of the pattern load case will be patterned on the members based on odd, even and "
+     "adjacent spans.  New loads, load cases and load combinations are generated appropriately."},
+    {kStrMovingCase, "Moving load case:"},
+    {kStrPatternCase, "Pattern load case:"},
+    {kStrMovingStep, "Moving step:"},
+    {kStrPatternRatio, "Pattern ratio:"},
+    {kStrBiDirectional, "Bi-Directional"},
+    {kStrCutRows, "Cut Selected Rows"},
     {kStrCombMassNote,
      "The gravity loads of each load case listed, times its factor, become masses for dynamic analysis."},
 };
@@ -48,7 +62,7 @@ DialogTemplate LoadData(int id, int captionId, const char* caption, int noteId =
                    },
                    820,
                    420};
-  if (noteId) t.controls.push_back({kCtlLoadNote, K::Static, noteId, note, 1, 0});
+  if (noteId) t.controls.push_back({kCtlLoadNote, K::Static, noteId, note, 1, 0, 1, 1, 0, kMultiline});
   return t;
 }
 
@@ -69,9 +83,45 @@ const DialogTemplate kNodalMassData =
 const DialogTemplate kCombMassData =
     LoadData(kIddCombMassData, kStrCombMassCaption, "Combination Masses", kStrCombMassNote, "The gravity ...");
 
+// The generators: the note, the case, the step or ratio, the member path below them.
+DialogTemplate Generator(int id, int captionId, const char* caption, int noteId, int caseId, int valueId,
+                         bool moving) {
+  DialogTemplate t{id,
+                   captionId,
+                   caption,
+                   {
+                       {kCtlGenNote, K::Static, noteId, "Note: ...", 0, 0, 1, 3, 0, kMultiline},
+                       {kCtlGenCaseText, K::Static, caseId, "Load case:", 1, 0},
+                       {kCtlGenCase, K::DropList, 0, "", 1, 1, 1, 2},
+                       {kCtlGenValueText, K::Static, valueId, "Value:", 2, 0},
+                       {kCtlGenValue, K::Edit, 0, "", 2, 1, 1, 1, 0, kNarrow},
+                       {kCtlGridPlaceholder, K::Placeholder, 0, "", 4, 0, 1, 3, 0, kStretchRow | kStretchCol},
+                       {kCtlNewRowCount, K::Edit, 0, "1", kSide, 0},
+                       {kCtlNewRows, K::Button, kStrNewRows, "New Rows", kSide, 1},
+                       {kCtlGenCutRows, K::Button, kStrCutRows, "Cut Selected Rows", kSide, 2},
+                       {kCtlPrint, K::Button, kStrPrint, "Print...", kSide, 3},
+                       {kCtlSave, K::Button, kStrSave, "Save...", kSide, 4},
+                       {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
+                       {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
+                   },
+                   560,
+                   480};
+  // The third column takes the spare width, so the step's unit stands next to its edit.
+  t.controls.push_back({kCtlGenValueUnit, K::Static, 0, moving ? "ft" : "", 2, 2, 1, 1, 0, kStretchCol});
+  if (moving) {
+    t.controls.push_back({kCtlGenBiDirectional, K::Check, kStrBiDirectional, "Bi-Directional", 3, 0, 1, 3});
+  }
+  return t;
+}
+
+const DialogTemplate kMovingLoad = Generator(kIddMovingLoad, kStrMovingLoadCaption, "Moving Load", kStrMovingNote,
+                                             kStrMovingCase, kStrMovingStep, true);
+const DialogTemplate kPatternLoad = Generator(kIddPatternLoad, kStrPatternLoadCaption, "Pattern Load",
+                                              kStrPatternNote, kStrPatternCase, kStrPatternRatio, false);
+
 const DialogTemplate* const kTemplates[] = {
     &kNodalLoadData,     &kPointLoadData,     &kLineLoadData,      &kShellLoadData, &kAreaLoadData,
-    &kMemberThermalData, &kShell4ThermalData, &kBrickThermalData, &kNodalMassData, &kCombMassData,
+    &kMemberThermalData, &kShell4ThermalData, &kBrickThermalData, &kNodalMassData, &kCombMassData, &kMovingLoad, &kPatternLoad,
 };
 
 }  // namespace

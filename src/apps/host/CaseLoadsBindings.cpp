@@ -1,5 +1,7 @@
 #include "apps/host/DialogBindings.h"
 #include "dialogs/loads/CCaseLoadDataDlg.h"
+#include "dialogs/loads/CMovingLoadDlg.h"
+#include "dialogs/loads/CPatternLoadDataDlg.h"
 
 namespace {
 
@@ -24,9 +26,29 @@ void BindLoadTable() {
       [](Dlg&, HostModel&) { return true; });
 }
 
+// The generators append to the host's cases, case loads and combinations themselves.
+template <class Dlg>
+void BindGenerator() {
+  BindDialog<Dlg>(
+      [](Dlg& dlg, HostModel& m) {
+        dlg.m_pUnits = &m.doc.units;
+        dlg.m_bModelLocked = m.doc.display.modelLocked;
+        dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
+        m.doc.caseLoads.resize(m.doc.loadCases.size());
+        dlg.m_pMembers = &m.doc.members;
+        dlg.m_pNodes = &m.doc.nodes;
+        dlg.m_pLoadCases = &m.doc.loadCases;
+        dlg.m_pCaseLoads = &m.doc.caseLoads;
+        dlg.m_pLoadCombs = &m.doc.loadCombs;
+      },
+      [](Dlg&, HostModel&) { return true; });
+}
+
 }  // namespace
 
 void RegisterCaseLoadsBindings() {
+  BindGenerator<CMovingLoadDlg>();
+  BindGenerator<CPatternLoadDataDlg>();
   BindLoadTable<CNodalLoadDataDlg>();
   BindLoadTable<CPointLoadDataDlg>();
   BindLoadTable<CLineLoadDataDlg>();

@@ -1,5 +1,7 @@
 #include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/loads/CCaseLoadDataDlg.h"
+#include "dialogs/loads/CMovingLoadDlg.h"
+#include "dialogs/loads/CPatternLoadDataDlg.h"
 
 void RegisterCaseLoadsDialogs() {
   const char* family = "Applied loads";
@@ -13,4 +15,6 @@ void RegisterCaseLoadsDialogs() {
   RegisterDialog<CBrickThermalLoadDataDlg>("CBrickThermalLoadDataDlg", family);
   RegisterDialog<CNodalMassDataDlg>("CNodalMassDataDlg", family);
   RegisterDialog<CCombMassDataDlg>("CCombMassDataDlg", family);
+  RegisterDialog<CMovingLoadDlg>("CMovingLoadDlg", family);
+  RegisterDialog<CPatternLoadDataDlg>("CPatternLoadDataDlg", family);
 }

@@ -34,7 +34,7 @@ CfmStruct Described() {
   s.m_SurfaceLoads = {{8, "Dead", 1, false, -0.05}};
   s.m_Solution.nodalLoads = {{3, "Wind X", 0, 4.5}, {3, "Dead", 1, -10}, {3, "Dead", 5, 2}};
   s.m_Solution.nodalMasses = {{3, 0, 0.25}, {3, 3, 1.5}};
-  s.m_Solution.nodalSprings = {{3, "111000", {100, 200, 300, 4, 5, 6}}};
+  s.m_NodalSprings = {{3, {100, 200, 300, 4, 5, 6}}};
   return s;
 }
 
@@ -87,10 +87,10 @@ TEST(NodeInfo, ASupportedNodeWithItsResultsInEachCase) {
 
 TEST(NodeInfo, SpringsLoadsGroupedByCaseAndMasses) {
   CfmStruct s = Described();
-  fmSolution::CoupledSpring coupled;
+  fmCoupledSpring coupled;
   coupled.node = 3;
   for (int i = 0; i < 21; ++i) coupled.k[static_cast<size_t>(i)] = i + 1;
-  s.m_Solution.coupledSprings = {coupled};
+  s.m_CoupledSprings = {coupled};
   s.m_Solution.results[0].nodalSpringReactions = {{3, {1, 2, 3, 4, 5, 6}}};
   s.m_DisplayFormat.fill(0);
   Lines lines;
