@@ -620,8 +620,18 @@ ReadResult<Record> Table<Record>::Read(const grid::Sheet& sheet, const Objects& 
   const int lastRequired = std::is_same_v<Record, fmDiaphragm> ? 2 : cols;
   if (lastRequired >= 2)
     if ((result.failure = grid::CheckEmptyCells(sheet, used, 2, lastRequired, texts.entity))) return result;
+  // Rows of existing records stand first; a typed key may have been emptied with its row, so
+  // the refusal names the records' own keys.
   const int filledRows = static_cast<int>(std::count_if(origins_.begin(), origins_.end(), [](int64_t o) { return o >= 0; }));
-  if ((result.failure = grid::CheckDeletedRows(sheet, used, filledRows, texts.plural))) return result;
+  if (used < filledRows) {
+    grid::Sheet keys;
+    keys.SetMaxCols(1);
+    keys.SetMaxRows(filledRows);
+    for (int row = 1; row <= filledRows; ++row)
+      keys.SetData(1, row, tools::FormatInt(T::Key(filled_[static_cast<size_t>(origins_[static_cast<size_t>(row - 1)])])));
+    result.failure = grid::CheckDeletedRows(keys, used, filledRows, texts.plural);
+    return result;
+  }
 
   const model::NodeIndex nodeIndex(objects.nodes);
   std::unordered_set<uint32_t> members, shells;
