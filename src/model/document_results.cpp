@@ -124,6 +124,7 @@ fmCaseResults ReadCaseResults(const JsonReader& item) {
   fmCaseResults r;
   for (const VectorKey& k : kVectorKeys) r.*k.vector = ReadRecords(item, k.key, k.word);
   r.constraintForces = ReadConstraintForces(item);
+  ReadElementResults(item, r);
   return r;
 }
 
@@ -131,6 +132,7 @@ fmCaseResults ReadCaseResults(const JsonReader& item) {
 void WriteCaseResults(const fmCaseResults& r, OrderedJson& out) {
   for (const VectorKey& k : kVectorKeys)
     if (!(r.*k.vector).empty()) out[k.key] = WriteRecords(r.*k.vector);
+  WriteElementResults(r, out);
   if (r.constraintForces.empty()) return;
   OrderedJson list = OrderedJson::array();
   for (const fmConstraintForce& f : r.constraintForces)
@@ -213,6 +215,8 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
     item.RequireObject();
     fmEigenMode m;
     m.omega2 = item.Double("omega2");
+    m.error = item.Double("error", 0);
+    if (m.error < 0 || !std::isfinite(m.error)) item.Member("error").Fail("an error measure is a finite number not below 0");
     m.shape = ReadRecords(item, "shape");
     return m;
   });
@@ -220,6 +224,11 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
     item.RequireObject();
     fmSpectrumMode m;
     m.omega2 = item.Double("omega2");
+    if (item.Has("participation")) {
+      const JsonReader list = item.Member("participation");
+      if (list.ArraySize() != 3) list.Fail("expected 3 numbers: the participation factors in X, Y and Z");
+      for (size_t d = 0; d < 3; ++d) m.participation[d] = Number(list, d);
+    }
     for (const char* key : {"displacements", "inertialForces"}) {
       if (!item.Has(key)) continue;
       const JsonReader byAxis = item.Member(key);
@@ -232,6 +241,7 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
   RefuseNegativeEigenvalues(section, "eigenModes", s.eigenModes);
   RefuseNegativeEigenvalues(section, "spectrumModes", s.spectrumModes);
   if (section.Has("spectrum")) s.spectrum = ReadCaseResults(section.Member("spectrum"));
+  ReadConcreteDesign(section, s.concreteDesign);
   ReadList(section, "nodalLoads", s.nodalLoads, [](const JsonReader& item) {
     item.RequireObject();
     fmSolution::NodalLoad r;
@@ -269,7 +279,8 @@ void WriteResults(const ModelDocument& doc, OrderedJson& root) {
 
   if (!s.eigenModes.empty()) {
     OrderedJson modes = OrderedJson::array();
-    for (const fmEigenMode& m : s.eigenModes) modes.push_back({{"omega2", m.omega2}, {"shape", WriteRecords(m.shape)}});
+    for (const fmEigenMode& m : s.eigenModes)
+      modes.push_back({{"omega2", m.omega2}, {"error", m.error}, {"shape", WriteRecords(m.shape)}});
     out["eigenModes"] = std::move(modes);
   }
   if (!s.spectrumModes.empty()) {
@@ -280,7 +291,7 @@ void WriteResults(const ModelDocument& doc, OrderedJson& root) {
         displacements[kAxes[axis]] = WriteRecords(m.displacements[axis]);
         forces[kAxes[axis]] = WriteRecords(m.inertialForces[axis]);
       }
-      modes.push_back({{"omega2", m.omega2}, {"displacements", std::move(displacements)},
+      modes.push_back({{"omega2", m.omega2}, {"participation", m.participation}, {"displacements", std::move(displacements)},
                        {"inertialForces", std::move(forces)}});
     }
     out["spectrumModes"] = std::move(modes);
@@ -288,6 +299,7 @@ void WriteResults(const ModelDocument& doc, OrderedJson& root) {
   OrderedJson spectrum = OrderedJson::object();
   WriteCaseResults(s.spectrum, spectrum);
   if (!spectrum.empty()) out["spectrum"] = std::move(spectrum);
+  WriteConcreteDesign(s.concreteDesign, out);
   if (!s.nodalLoads.empty()) {
     OrderedJson list = OrderedJson::array();
     for (const auto& r : s.nodalLoads)

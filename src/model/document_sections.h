@@ -45,6 +45,12 @@ void WriteCaseLoads(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ConvertCaseLoadUnits(std::vector<fmCaseLoad>& caseLoads, const double* factor);
 bool CaseLoadsFinite(const std::vector<fmCaseLoad>& caseLoads);
 void ReadResults(const JsonReader& root, ModelDocument& doc);
+// Member, shell and brick results of one case, and the concrete design records
+// (document_element_results.cpp).
+void ReadElementResults(const JsonReader& item, fmCaseResults& results);
+void WriteElementResults(const fmCaseResults& results, nlohmann::ordered_json& out);
+void ReadConcreteDesign(const JsonReader& section, fmConcreteDesign& design);
+void WriteConcreteDesign(const fmConcreteDesign& design, nlohmann::ordered_json& out);
 void WriteResults(const ModelDocument& doc, nlohmann::ordered_json& root);
 // Rescales materials, sections and thicknesses; factor[q] is 1 for a quantity not converted.
 void ConvertPropertyUnits(ModelDocument& doc, const double* factor);

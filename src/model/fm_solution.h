@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "model/fm_element_results.h"
 #include "model/fm_load.h"
 #include "model/fm_result.h"
 #include "tools/fm_unit.h"
@@ -17,8 +18,19 @@ struct fmCaseResults {
   std::vector<fmResult6Val> lineSpringReactions;     // per member with a line spring
   std::vector<fmResult6Val> surfaceSpringReactions;  // per shell with a surface spring
   std::vector<fmConstraintForce> constraintForces;
+  // Element results. A combination that holds none is formed from its load cases when asked
+  // (CfmStruct::GetElementResults).
+  std::vector<fmBmVMD> memberStations;                // per member
+  std::vector<fmShellForce> shellForces;              // per shell
+  std::vector<fmShellNodalResultant> shellResultants;  // per shell
+  std::array<std::vector<fmShellStress>, 2> shellStresses;  // top (local +z face), bottom
+  std::vector<fmBrickStress> brickStresses;           // per brick
 
   bool operator==(const fmCaseResults&) const = default;
+  bool HasElementResults() const {
+    return !memberStations.empty() || !shellForces.empty() || !shellResultants.empty() ||
+           !shellStresses[0].empty() || !shellStresses[1].empty() || !brickStresses.empty();
+  }
 };
 
 // A mode whose eigenvalue is zero, or below zero by no more than round-off (a millionth of the
@@ -28,6 +40,7 @@ bool IsRigidBodyMode(double omega2, const std::vector<double>& omega2OfAllModes)
 struct fmEigenMode {
   double omega2 = 0;  // eigenvalue: the square of the circular frequency
   std::vector<fmResult6Val> shape;
+  double error = 0;  // ‖Kφ − ω²Mφ‖ / ‖Kφ‖ of the computed pair
 
   bool operator==(const fmEigenMode&) const = default;
 };
@@ -38,6 +51,7 @@ struct fmSpectrumMode {
   double omega2 = 0;
   std::array<std::vector<fmResult6Val>, 3> displacements;
   std::array<std::vector<fmResult6Val>, 3> inertialForces;
+  std::array<double, 3> participation{};  // Γ = φᵀMr / φᵀMφ for excitation along X, Y, Z
 
   bool operator==(const fmSpectrumMode&) const = default;
 };
@@ -70,6 +84,7 @@ struct fmSolution {
   fmCaseResults spectrum;  // the response-spectrum modal combination
   std::vector<NodalLoad> nodalLoads;
   std::vector<NodalMass> nodalMasses;
+  fmConcreteDesign concreteDesign;
 
   bool operator==(const fmSolution&) const = default;
   // Nothing solved and nothing recorded: a document without a results section.

@@ -80,6 +80,11 @@ CfmStruct::CfmStruct(const CfmStruct& other)
       m_MemberThermalLoads(other.m_MemberThermalLoads),
       m_ShellThermalLoads(other.m_ShellThermalLoads),
       m_BrickThermalLoads(other.m_BrickThermalLoads),
+      m_LoadCases(other.m_LoadCases),
+      m_LoadCombs(other.m_LoadCombs),
+      m_CaseLoads(other.m_CaseLoads),
+      m_Counts(other.m_Counts),
+      m_nShellResultLocation(other.m_nShellResultLocation),
       m_Solution(other.m_Solution),
       indexes_(std::make_unique<Indexes>()) {}
 

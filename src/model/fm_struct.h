@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "model/fm_boundary.h"
+#include "model/fm_case_load.h"
 #include "model/fm_element.h"
 #include "model/fm_load.h"
 #include "model/fm_material.h"
@@ -121,6 +122,21 @@ class CfmStruct {
   std::vector<SurfaceLoad> m_SurfaceLoads;
   std::vector<ThermalLoad> m_MemberThermalLoads, m_ShellThermalLoads, m_BrickThermalLoads;
 
+  // The model's own load cases, combinations (their flags, factors and terms) and the loads
+  // of each case, as the statistics and the combinations formed from cases read them.
+  std::vector<fmLoadCase> m_LoadCases;
+  std::vector<fmLoadComb> m_LoadCombs;
+  std::vector<fmCaseLoad> m_CaseLoads;
+  // Counts of model tables the solved structure holds no records of.
+  struct Counts {
+    int beamReleases = 0;
+    int beamRcCriteria = 0, columnRcCriteria = 0, plateRcCriteria = 0, steelCriteria = 0;
+  };
+  Counts m_Counts;
+  // Which points of a shell the shell reports list: 1 its four nodes, 2 the centre then the
+  // nodes, anything else the centre only.
+  int32_t m_nShellResultLocation = 0;
+
   fmSolution m_Solution;
 
   int GetNumLoadCases() const { return static_cast<int>(m_Solution.cases.size()); }
@@ -160,6 +176,32 @@ class CfmStruct {
   // case without results adds nothing; nothing marked gives no records.
   void CalcNodalDisplacementEnvelope(std::vector<fmEnvelopeValue6>& out, const std::vector<bool>& cases) const;
   void CalcSupportReactionEnvelope(std::vector<fmEnvelopeValue6>& out, const std::vector<bool>& cases) const;
+
+  // Element results (fm_struct_elements.cpp).
+  bool IsBrickSelected(int64_t id) const;
+  // The model's combination that result entry `index` is: an entry without a load type whose
+  // label names a combination; null for a load case or outside the list.
+  const fmLoadComb* GetLoadCombination(int index) const;
+  // True for the response-spectrum combination (-1), and for a combination whose response
+  // spectrum load factor is not zero when the solution holds response-spectrum results.
+  bool IsResponseSpectrumLoadCombination(int index) const;
+  // The element results of an entry. A combination stored without element results is formed
+  // in `scratch` as the factored sum of its load cases' results (records matched by number);
+  // throws fmException when a case it needs has no results.
+  const fmCaseResults& GetElementResults(int index, fmCaseResults& scratch) const;
+  // Per member and station, the maxima and minima of the six forces over the entries marked
+  // true, combinations without stored stations formed on the fly, one at a time. Ties go to
+  // the lower index and a value that is not a number never wins, as for the nodes. Members
+  // come in the order of the first marked entry that lists them.
+  void CalcBeamEnvelopVMD(std::vector<fmEnvelopeBmVMD>& out, const std::vector<bool>& cases) const;
+  // Entries whose combination is flagged for concrete design.
+  std::vector<bool> ConcreteDesignCombinations() const;
+  // Over the concrete-design combinations, for members with concrete design criteria that
+  // are not excluded from concrete design.
+  void CalcBeamDesignEnvelope(std::vector<fmBmDesignEnvelope>& out) const;
+  // Over the concrete-design combinations, for shells not excluded from concrete design
+  // (model::WoodArmer gives the rules).
+  void CalcWoodArmerMoments(std::vector<fmWoodArmerMoment>& out) const;
 
  private:
   struct Indexes;

@@ -1,5 +1,6 @@
 #include "model/solved_structure.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "tools/format.h"
@@ -67,6 +68,11 @@ CfmStruct SolvedStructure(const ModelDocument& doc) {
   s.m_DriftNodes = doc.driftNodes;
   s.m_EnvelopeCombinations = doc.envelopeCombinations;
   s.m_Solution = doc.results;
+  s.m_LoadCases = doc.loadCases;
+  s.m_LoadCombs = doc.loadCombs;
+  s.m_CaseLoads = doc.caseLoads;
+  s.m_nShellResultLocation = doc.display.shellResultLocation;
+  s.m_Counts.beamReleases = static_cast<int>(doc.releases.size());
   if (s.m_Solution.cases.empty()) {
     // Never solved: the cases and combinations are listed and their results are missing.
     s.m_Solution.cases = doc.loadCases;
