@@ -69,12 +69,8 @@ CfmStruct::CfmStruct(const CfmStruct& other)
       m_Bricks(other.m_Bricks),
       m_LineSprings(other.m_LineSprings),
       m_SurfaceSprings(other.m_SurfaceSprings),
-      m_PointLoads(other.m_PointLoads),
-      m_LineLoads(other.m_LineLoads),
-      m_SurfaceLoads(other.m_SurfaceLoads),
-      m_MemberThermalLoads(other.m_MemberThermalLoads),
-      m_ShellThermalLoads(other.m_ShellThermalLoads),
-      m_BrickThermalLoads(other.m_BrickThermalLoads),
+      m_LoadCases(other.m_LoadCases),
+      m_CaseLoads(other.m_CaseLoads),
       m_Solution(other.m_Solution),
       indexes_(std::make_unique<Indexes>()) {}
 

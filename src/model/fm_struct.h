@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "model/fm_case_load.h"
 #include "model/fm_element.h"
 #include "model/fm_load.h"
 #include "model/fm_material.h"
@@ -66,37 +67,6 @@ class CfmStruct {
     std::string flag{};
     std::array<double, 3> k{};
   };
-  // Element loads of a load case (by its label). Directions 0 to 2 are X, Y, Z of the
-  // global or, with `local`, the element's system; point and line loads 3 to 5 are moments.
-  struct PointLoad {
-    uint32_t member = 0;
-    std::string caseName{};
-    int32_t direction = 0;
-    bool local = false;
-    double magnitude = 0;
-    double distance = 0;
-  };
-  struct LineLoad {
-    uint32_t member = 0;
-    std::string caseName{};
-    int32_t direction = 0;
-    bool local = false;
-    std::array<double, 2> magnitude{};  // start, end
-    std::array<double, 2> distance{};
-  };
-  struct SurfaceLoad {
-    uint32_t shell = 0;
-    std::string caseName{};
-    int32_t direction = 0;
-    bool local = false;
-    double magnitude = 0;
-  };
-  struct ThermalLoad {
-    uint32_t element = 0;
-    std::string caseName{};
-    double magnitude = 0;
-  };
-
   CfmStruct();
   ~CfmStruct();
   CfmStruct(const CfmStruct&);
@@ -117,10 +87,10 @@ class CfmStruct {
   std::vector<Brick> m_Bricks;
   std::vector<LineSpring> m_LineSprings;
   std::vector<SurfaceSpring> m_SurfaceSprings;
-  std::vector<PointLoad> m_PointLoads;
-  std::vector<LineLoad> m_LineLoads;
-  std::vector<SurfaceLoad> m_SurfaceLoads;
-  std::vector<ThermalLoad> m_MemberThermalLoads, m_ShellThermalLoads, m_BrickThermalLoads;
+  // The model's static load cases and their loads, in the model's units: m_CaseLoads[i]
+  // belongs to m_LoadCases[i]. The information sheets list loads from here.
+  std::vector<fmLoadCase> m_LoadCases;
+  std::vector<fmCaseLoad> m_CaseLoads;
 
   fmSolution m_Solution;
 

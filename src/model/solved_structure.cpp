@@ -59,6 +59,9 @@ CfmStruct SolvedStructure(const ModelDocument& doc) {
     brick.material = e.mat;
     s.m_Bricks.push_back(brick);
   }
+  s.m_LoadCases = doc.loadCases;
+  s.m_CaseLoads = doc.caseLoads;
+  s.m_CaseLoads.resize(doc.loadCases.size());
   s.m_Solution = doc.results;
   if (s.m_Solution.cases.empty()) {
     // Never solved: the cases and combinations are listed and their results are missing.

@@ -138,6 +138,21 @@ TEST(CaseLoads, OlderDocumentsTakeTheirNodalLoadsFromTheResults) {
   EXPECT_EQ(doc.caseLoads[1].nodal, (std::vector<fmNodalLoad>{{2, 1, -3.0}}));
   EXPECT_TRUE(doc.caseLoads[0].nodal.empty());
   EXPECT_EQ(doc.caseLoads[0].nodalMasses, (std::vector<fmNodalMass>{{1, 0, 7.0}}));
+  EXPECT_TRUE(doc.results.nodalLoads.empty() && doc.results.nodalMasses.empty()) << "not kept as a second source";
+  const std::string written = model::SerializeModelDocument(doc);
+  EXPECT_EQ(written.find("\"nodalLoads\""), std::string::npos);
+  EXPECT_EQ(RoundTrip(doc).caseLoads, doc.caseLoads);
+}
+
+TEST(CaseLoads, OlderCopiesAreTakenOverInTheDocumentsUnitsAndIgnoredBesideCaseLoads) {
+  // Results kept in kN and m, the model in kip and ft: 4.4482216 kN is 1 kip.
+  const std::string results = R"(, "results": {"units": {"unit": [4, 0, 18, 46, 30, 62, 78, 0, 101, 103, 71, 86, 5, 71, 39, 108, 72, 88]},
+    "nodalLoads": [{"node": 2, "case": "LL", "direction": "Y", "magnitude": -4.4482216152605}]})";
+  const auto old = Parse(kModel + results);
+  ASSERT_EQ(old.caseLoads[1].nodal.size(), 1u);
+  EXPECT_NEAR(old.caseLoads[1].nodal[0].magnitude, -1.0, 1e-6);  // the unit table's kip of 4.448222 kN
+  const auto both = Parse(kModel + R"(, "caseLoads": [{"case": "DL"}, {"case": "LL"}])" + results);
+  EXPECT_TRUE(both.caseLoads[1].nodal.empty()) << "the case loads are the source";
 }
 
 TEST(CaseLoads, ReorderKeepsLoadsWithTheirCases) {
