@@ -180,3 +180,32 @@ TEST(CaseLoads, ScaleAndAppendCopyEveryKind) {
   EXPECT_DOUBLE_EQ(target.selfWeight.factor, -2.0);
   EXPECT_EQ(target.area.size(), 1u);
 }
+
+TEST(CaseLoads, CopyLoadsAddsEveryKindTimesTheFactorAndDeletesTheTargetsFirstWhenAsked) {
+  std::vector<fmCaseLoad> loads(2);
+  loads[0] = EveryKind();
+  loads[0].massFactor = 0.75;
+  loads[1].nodal = {{1, 0, 9.0}};
+  loads[1].massFactor = 0.5;
+  auto added = loads;
+  ASSERT_TRUE(CopyCaseLoads(added, 0, 1, -2.0, false));
+  EXPECT_EQ(added[1].nodal, (std::vector<fmNodalLoad>{{1, 0, 9.0}, {2, 0, -10.0}, {1, 5, 5.0}}));
+  EXPECT_DOUBLE_EQ(added[1].line[0].magnitude[1], 4.0);
+  EXPECT_DOUBLE_EQ(added[1].selfWeight.factor, 2.0) << "-1 times -2";
+  EXPECT_EQ(added[1].area.size(), 1u);
+  EXPECT_EQ(added[1].nodalMasses.size(), loads[0].nodalMasses.size());
+  EXPECT_EQ(added[1].massFactor, 0.5) << "a setting of the case, not a load";
+  EXPECT_EQ(added[0], loads[0]);
+
+  auto replaced = loads;
+  ASSERT_TRUE(CopyCaseLoads(replaced, 0, 1, 1.0, true));
+  fmCaseLoad expected = loads[0];
+  expected.massFactor = 0.5;
+  EXPECT_EQ(replaced[1], expected);
+
+  for (auto [from, to, factor] : {std::tuple{0, 0, 1.0}, {0, 1, 0.0}, {0, 2, 1.0}, {0, 1, std::nan("")}}) {
+    auto same = loads;
+    EXPECT_FALSE(CopyCaseLoads(same, static_cast<size_t>(from), static_cast<size_t>(to), factor, true));
+    EXPECT_EQ(same, loads);
+  }
+}
