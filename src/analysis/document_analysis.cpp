@@ -150,7 +150,6 @@ DocumentModel ModelFromDocument(const model::ModelDocument& doc) {
   DocumentModel out;
   Model& m = out.model;
   const Scale s{doc.units};
-  const Scale rs{doc.results.units};
   const double fl = s(fmUnit::Length);
 
   for (const fmNd& n : doc.nodes) {
@@ -211,25 +210,51 @@ DocumentModel ModelFromDocument(const model::ModelDocument& doc) {
   }
   if (inactive > 0) out.notes.push_back(Id(static_cast<int64_t>(inactive)) + " inactive elements left out");
 
-  for (const fmSupport& sp : doc.supports) m.supports.push_back({nodes.At(sp.node, "A support"), sp.restrained, {}});
-
-  const fmSolution& r = doc.results;
-  for (const auto& sp : r.nodalSprings) {
+  for (const fmSupport& sp : doc.supports) {
+    Support support{nodes.At(sp.node, "A support"), sp.restrained, {}};
+    for (int d = 0; d < 6; ++d) support.value[static_cast<size_t>(d)] = sp.displacement[static_cast<size_t>(d)] * s.Motion(d);
+    m.supports.push_back(support);
+  }
+  for (const fmNodalSpring& sp : doc.nodalSprings) {
     NodalSpring ns;
     ns.node = nodes.At(sp.node, "A nodal spring");
-    for (int d = 0; d < 6; ++d) ns.k[static_cast<size_t>(d)] = sp.k[static_cast<size_t>(d)] * rs.Spring(d);
+    for (int d = 0; d < 6; ++d) ns.k[static_cast<size_t>(d)] = sp.k[static_cast<size_t>(d)] * s.Spring(d);
     m.nodalSprings.push_back(ns);
   }
-  for (const auto& sp : r.coupledSprings) {
+  for (const fmCoupledSpring& sp : doc.coupledSprings) {
     CoupledSpring cs;
     cs.node = nodes.At(sp.node, "A coupled spring");
-    size_t at = 0;
-    for (int i = 0; i < 6; ++i)
-      for (int j = i; j < 6; ++j, ++at)
-        cs.k[at] = sp.k[at] * (i < 3 && j < 3   ? rs(fmUnit::NodeSpring)
-                               : i >= 3 && j >= 3 ? rs(fmUnit::NodeRotationalSpring)
-                                                  : rs(fmUnit::Force));
+    for (int t = 0; t < fmCoupledSpring::kTermCount; ++t) {
+      const int kind = fmCoupledSpring::TermKind(t);
+      cs.k[static_cast<size_t>(t)] = sp.k[static_cast<size_t>(t)] * s(kind == 0   ? fmUnit::NodeSpring
+                                                                       : kind == 1 ? fmUnit::NodeRotationalSpring
+                                                                                   : fmUnit::Force);
+    }
     m.coupledSprings.push_back(cs);
+  }
+  // Springs and releases of inactive elements go with them.
+  std::unordered_map<uint32_t, size_t> memberAt, shellAt;
+  for (size_t i = 0; i < m.members.size(); ++i) memberAt.emplace(m.members[i].id, i);
+  for (size_t i = 0; i < m.shells.size(); ++i) shellAt.emplace(m.shells[i].id, i);
+  for (const fmLineSpring& sp : doc.lineSprings)
+    if (const auto at = memberAt.find(sp.member); at != memberAt.end())
+      m.lineSprings.push_back({at->second, {sp.k[0] * s(fmUnit::LineSpring), sp.k[1] * s(fmUnit::LineSpring),
+                                            sp.k[2] * s(fmUnit::LineSpring)}});
+  for (const fmSurfaceSpring& sp : doc.surfaceSprings)
+    if (const auto at = shellAt.find(sp.shell); at != shellAt.end())
+      m.surfaceSprings.push_back({at->second, {sp.k[0] * s(fmUnit::AreaSpring), sp.k[1] * s(fmUnit::AreaSpring),
+                                               sp.k[2] * s(fmUnit::AreaSpring)}});
+  for (const fmMemberRelease& r : doc.releases)
+    if (const auto at = memberAt.find(r.member); at != memberAt.end()) m.members[at->second].releases = r.released;
+  for (const fmConstraint& c : doc.constraints) {
+    const std::string owner = "Constraint " + Id(c.id);
+    m.constraints.push_back({c.id, {nodes.At(c.node[0], owner), nodes.At(c.node[1], owner)}, {c.dof[0], c.dof[1]}});
+  }
+  for (const fmDiaphragm& d : doc.diaphragms) {
+    const std::string owner = "Diaphragm " + Id(d.id);
+    Diaphragm diaphragm;
+    for (uint32_t id : DiaphragmNodes(d, doc.nodes)) diaphragm.nodes.push_back(nodes.At(id, owner));
+    if (diaphragm.nodes.size() > 1) m.diaphragms.push_back(std::move(diaphragm));
   }
 
   AddCaseLoads(doc, nodes, out);
@@ -282,16 +307,6 @@ std::vector<fmResult6Val> SupportRecords(const Model& m, const Eigen::VectorXd& 
 void ConvertInputRecords(fmSolution& r, const fmUnit& to) {
   const Scale from{r.units}, dest{to};
   for (auto& l : r.nodalLoads) l.magnitude *= from.Action(l.direction) / dest.Action(l.direction);
-  for (auto& sp : r.nodalSprings)
-    for (int d = 0; d < 6; ++d) sp.k[static_cast<size_t>(d)] *= from.Spring(d) / dest.Spring(d);
-  for (auto& sp : r.coupledSprings) {
-    size_t at = 0;
-    for (int i = 0; i < 6; ++i)
-      for (int j = i; j < 6; ++j, ++at) {
-        const Q q = i < 3 && j < 3 ? fmUnit::NodeSpring : i >= 3 && j >= 3 ? fmUnit::NodeRotationalSpring : fmUnit::Force;
-        sp.k[at] *= from(q) / dest(q);
-      }
-  }
   for (auto& nm : r.nodalMasses) {
     const double f = nm.direction < 3 ? 1 : from(fmUnit::Length) * from(fmUnit::Length) / (dest(fmUnit::Length) * dest(fmUnit::Length));
     nm.magnitude *= f * from(fmUnit::Force) / dest(fmUnit::Force);
@@ -365,14 +380,8 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
   const Scale s{doc.units};
   fmSolution kept = old;
   ConvertInputRecords(kept, doc.units);
-  out.envelopeCombinations = kept.envelopeCombinations;
-  out.driftNodes = kept.driftNodes;
-  out.nodalSprings = kept.nodalSprings;
-  out.coupledSprings = kept.coupledSprings;
   out.nodalLoads = kept.nodalLoads;
   out.nodalMasses = kept.nodalMasses;
-  for (const fmSupport& sp : doc.supports)
-    out.supports.push_back({static_cast<int32_t>(sp.node), sp.RestraintText(), {}});
 
   for (size_t i = 0; i < st.results.size(); ++i) {
     const StaticResult& r = st.results[i];
@@ -385,6 +394,10 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
       cr.nodalSpringReactions.push_back(Record(static_cast<int32_t>(m.nodes[m.nodalSprings[k].node].id), r.nodalSprings[k], s));
     for (size_t k = 0; k < m.coupledSprings.size(); ++k)
       cr.coupledSpringReactions.push_back(Record(static_cast<int32_t>(m.nodes[m.coupledSprings[k].node].id), r.coupledSprings[k], s));
+    for (size_t k = 0; k < m.lineSprings.size() && k < r.lineSprings.size(); ++k)
+      cr.lineSpringReactions.push_back(Record(static_cast<int32_t>(m.members[m.lineSprings[k].member].id), r.lineSprings[k], s));
+    for (size_t k = 0; k < m.surfaceSprings.size() && k < r.surfaceSprings.size(); ++k)
+      cr.surfaceSpringReactions.push_back(Record(static_cast<int32_t>(m.shells[m.surfaceSprings[k].shell].id), r.surfaceSprings[k], s));
     out.results.push_back(std::move(cr));
   }
   for (const Mode& mode : modal.modes) {

@@ -61,6 +61,7 @@ ModelDocument ReadDocument(const nlohmann::json& root, const std::string& fileNa
     ReadSupports(r, doc);
     ReadSpectrumSettings(r, doc);
     ReadResults(r, doc);
+    ReadBoundaries(r, doc);
     ReadCaseLoads(r, doc);
   } catch (const DocumentError& e) {
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
@@ -123,6 +124,7 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   WriteThicknesses(doc, root);
   WriteElements(doc, root);
   WriteSupports(doc, root);
+  WriteBoundaries(doc, root);
   WriteSpectrumSettings(doc, root);
   WriteResults(doc, root);
   if (const std::string place = FirstNonFiniteNumber(root, ""); !place.empty())

@@ -1,5 +1,6 @@
 #include "model/solved_structure.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "tools/format.h"
@@ -59,10 +60,19 @@ CfmStruct SolvedStructure(const ModelDocument& doc) {
     brick.material = e.mat;
     s.m_Bricks.push_back(brick);
   }
-  s.m_LoadCases = doc.loadCases;
-  s.m_CaseLoads = doc.caseLoads;
-  s.m_CaseLoads.resize(doc.loadCases.size());
+  s.m_Supports = doc.supports;
+  s.m_NodalSprings = doc.nodalSprings;
+  s.m_CoupledSprings = doc.coupledSprings;
+  s.m_LineSprings = doc.lineSprings;
+  s.m_SurfaceSprings = doc.surfaceSprings;
+  s.m_DriftNodes = doc.driftNodes;
+  s.m_EnvelopeCombinations = doc.envelopeCombinations;
   s.m_Solution = doc.results;
+  s.m_LoadCases = doc.loadCases;
+  s.m_LoadCombs = doc.loadCombs;
+  s.m_CaseLoads = doc.caseLoads;
+  s.m_nShellResultLocation = doc.display.shellResultLocation;
+  s.m_Counts.beamReleases = static_cast<int>(doc.releases.size());
   if (s.m_Solution.cases.empty()) {
     // Never solved: the cases and combinations are listed and their results are missing.
     s.m_Solution.cases = doc.loadCases;
@@ -131,8 +141,6 @@ std::vector<std::string> CheckSolution(const ModelDocument& doc, size_t limit) {
   for (size_t m = 0; m < s.eigenModes.size(); ++m)
     checkNodes(tools::Format("mode %zu", m + 1), "the mode shape's records", s.eigenModes[m].shape);
   checkCase("response spectrum combination", s.spectrum);
-  for (int32_t id : s.driftNodes)
-    if (!nodes.count(id)) add(tools::Format("drift node %d is not a node of the model", id));
   if (more > 0) lines.push_back(tools::Format("... and %zu more", more));
   return lines;
 }

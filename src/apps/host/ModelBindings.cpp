@@ -44,6 +44,10 @@ void RegisterModelBindings() {
           m.status = tools::Format("Removed %zu support%s at nodes no longer in the model (%s)", removed.size(),
                                    removed.size() == 1 ? "" : "s", ids.c_str());
         }
+        if (const size_t others = model::RemoveBoundariesAtMissingObjects(m.doc); others > 0)
+          m.status += tools::Format("%sRemoved or changed %zu spring, constraint, diaphragm or drift record%s naming "
+                                    "nodes no longer in the model",
+                                    m.status.empty() ? "" : "; ", others, others == 1 ? "" : "s");
         return true;
       });
   BindDialog<CBeamDataDlg>(

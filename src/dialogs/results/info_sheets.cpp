@@ -228,61 +228,58 @@ bool GetNodeInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) {
     return false;
   }
   const size_t guess = static_cast<size_t>(node - m.m_Nodes.data());
-  const fmSolution& sol = m.m_Solution;
   const double disp = m.ResultFactor(fmUnit::Displacement), rot = m.ResultFactor(fmUnit::Rotation);
 
   s.Add("**COORDINATES");
   s.Values("  x = %%.%d%c;  y = %%.%d%c;  z = %%.%d%c (%s)", fmUnit::Length, s.Label(fmUnit::Length), node->x, node->y,
            node->z);
 
+  // The model's own records, in its units: shown as they are.
   s.Add("**SUPPORT");
-  const auto supports = Of(sol.supports, [](const fmSolution::Support& r) { return r.node; }, id);
+  const auto supports = Of(m.m_Supports, [](const fmSupport& r) { return r.node; }, id);
   if (supports.empty()) s.Add("  None");
-  for (const auto& r : supports) {
-    s.Add(tools::Format("  Flag: %s", r.flag.c_str()));
+  for (const fmSupport& r : supports) {
+    const auto& d = r.displacement;
+    s.Add(tools::Format("  Flag: %s", r.RestraintText().c_str()));
     s.Values("  Dx = %%.%d%c;  Dy = %%.%d%c;  Dz = %%.%d%c (%s)", fmUnit::Displacement, s.Label(fmUnit::Displacement),
-             r.value[0] * disp, r.value[1] * disp, r.value[2] * disp);
+             d[0], d[1], d[2]);
     // Prescribed rotations always with three decimals.
-    s.Add(tools::Format("  Dox = %.3f;  Doy = %.3f;  Doz = %.3f (%s)", r.value[3] * rot, r.value[4] * rot,
-                        r.value[5] * rot, s.Label(fmUnit::Rotation).c_str()));
+    s.Add(tools::Format("  Dox = %.3f;  Doy = %.3f;  Doz = %.3f (%s)", d[3], d[4], d[5],
+                        s.Label(fmUnit::Rotation).c_str()));
   }
 
   s.Add("**NODAL SPRING");
-  const auto springs = Of(sol.nodalSprings, [](const fmSolution::NodalSpring& r) { return r.node; }, id);
+  const auto springs = Of(m.m_NodalSprings, [](const fmNodalSpring& r) { return r.node; }, id);
   if (springs.empty()) s.Add("  None");
-  const double kt = m.ResultFactor(fmUnit::NodeSpring), kr = m.ResultFactor(fmUnit::NodeRotationalSpring);
-  for (const auto& r : springs) {
-    s.Add(tools::Format("  Flag: %s", r.flag.c_str()));
+  for (const fmNodalSpring& r : springs) {
+    s.Add(tools::Format("  Flag: %s", r.Flag().c_str()));
     s.Values("  Kx = %%.%d%c;  Ky = %%.%d%c;  Kz = %%.%d%c (%s)", fmUnit::NodeSpring, s.Label(fmUnit::NodeSpring),
-             r.k[0] * kt, r.k[1] * kt, r.k[2] * kt);
+             r.k[0], r.k[1], r.k[2]);
     s.Values("  Kox = %%.%d%c;  Koy = %%.%d%c;  Koz = %%.%d%c (%s)", fmUnit::NodeRotationalSpring,
-             s.Label(fmUnit::NodeRotationalSpring), r.k[3] * kr, r.k[4] * kr, r.k[5] * kr);
+             s.Label(fmUnit::NodeRotationalSpring), r.k[3], r.k[4], r.k[5]);
   }
 
   s.Add("**NODAL COUPLED SPRING");
-  const auto coupled = Of(sol.coupledSprings, [](const fmSolution::CoupledSpring& r) { return r.node; }, id);
+  const auto coupled = Of(m.m_CoupledSprings, [](const fmCoupledSpring& r) { return r.node; }, id);
   if (coupled.empty()) s.Add("  None");
   // Terms coupling a translation with a rotation are forces per radian.
-  const double kc = m.ResultFactor(fmUnit::Force);
   const std::string couplingUnit = s.Label(fmUnit::Force) + "/rad";
-  for (const auto& r : coupled) {
+  for (const fmCoupledSpring& r : coupled) {
     const auto& k = r.k;  // upper triangle, row by row
     const std::string& t = s.Label(fmUnit::NodeSpring);
     const std::string& o = s.Label(fmUnit::NodeRotationalSpring);
-    s.Values("  Kx_Kx = %%.%d%c;  Kx_Ky = %%.%d%c;  Kx_Kz = %%.%d%c; (%s)", fmUnit::NodeSpring, t, k[0] * kt,
-             k[1] * kt, k[2] * kt);
-    s.Values("  Ky_Ky = %%.%d%c;  Ky_Kz = %%.%d%c;  Kz_Kz = %%.%d%c (%s)", fmUnit::NodeSpring, t, k[6] * kt,
-             k[7] * kt, k[11] * kt);
-    s.Values("  Kx_Kox = %%.%d%c;  Kx_Koy = %%.%d%c;  Kx_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit,
-             k[3] * kc, k[4] * kc, k[5] * kc);
-    s.Values("  Ky_Kox = %%.%d%c;  Ky_Koy = %%.%d%c;  Ky_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit,
-             k[8] * kc, k[9] * kc, k[10] * kc);
-    s.Values("  Kz_Kox = %%.%d%c;  Kz_Koy = %%.%d%c;  Kz_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit,
-             k[12] * kc, k[13] * kc, k[14] * kc);
+    s.Values("  Kx_Kx = %%.%d%c;  Kx_Ky = %%.%d%c;  Kx_Kz = %%.%d%c; (%s)", fmUnit::NodeSpring, t, k[0], k[1], k[2]);
+    s.Values("  Ky_Ky = %%.%d%c;  Ky_Kz = %%.%d%c;  Kz_Kz = %%.%d%c (%s)", fmUnit::NodeSpring, t, k[6], k[7], k[11]);
+    s.Values("  Kx_Kox = %%.%d%c;  Kx_Koy = %%.%d%c;  Kx_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit, k[3],
+             k[4], k[5]);
+    s.Values("  Ky_Kox = %%.%d%c;  Ky_Koy = %%.%d%c;  Ky_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit, k[8],
+             k[9], k[10]);
+    s.Values("  Kz_Kox = %%.%d%c;  Kz_Koy = %%.%d%c;  Kz_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit, k[12],
+             k[13], k[14]);
     s.Values("  Kox_Kox = %%.%d%c;  Kox_Koy = %%.%d%c;  Kox_Koz = %%.%d%c; (%s)", fmUnit::NodeRotationalSpring, o,
-             k[15] * kr, k[16] * kr, k[17] * kr);
+             k[15], k[16], k[17]);
     s.Values("  Koy_Koy = %%.%d%c;  Koy_Koz = %%.%d%c;  Koz_Koz = %%.%d%c (%s)", fmUnit::NodeRotationalSpring, o,
-             k[18] * kr, k[19] * kr, k[20] * kr);
+             k[18], k[19], k[20]);
   }
 
   // Loads and masses are in the model's units, which the sheets show.
@@ -377,10 +374,10 @@ bool GetBeamInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) {
   s.Add(tools::Format("  Steel Design Exclusion: %s", YesNo(member->steelExcluded)));
 
   s.Add("**LINE SPRING");
-  const auto springs = Of(m.m_LineSprings, [](const CfmStruct::LineSpring& r) { return r.member; }, id);
+  const auto springs = Of(m.m_LineSprings, [](const fmLineSpring& r) { return r.member; }, id);
   if (springs.empty()) s.Add("  None");
-  for (const auto& r : springs) {
-    s.Add(tools::Format("  Flag: %s", r.flag.c_str()));
+  for (const fmLineSpring& r : springs) {
+    s.Add(tools::Format("  Flag: %s", r.Flag().c_str()));
     s.Values("  Kx = %%.%d%c;  Ky = %%.%d%c;  Kz = %%.%d%c (%s)", fmUnit::LineSpring, s.Label(fmUnit::LineSpring),
              r.k[0], r.k[1], r.k[2]);
   }
@@ -459,10 +456,10 @@ bool GetShell4Info(const CfmStruct& m, std::vector<std::string>& lines, long id)
   s.Add(tools::Format("  Concrete Design Exclusion: %s", YesNo(shell->rcExcluded)));
 
   s.Add("**SURFACE SPRING");
-  const auto springs = Of(m.m_SurfaceSprings, [](const CfmStruct::SurfaceSpring& r) { return r.shell; }, id);
+  const auto springs = Of(m.m_SurfaceSprings, [](const fmSurfaceSpring& r) { return r.shell; }, id);
   if (springs.empty()) s.Add("  None");
-  for (const auto& r : springs) {
-    s.Add(tools::Format("  Flag: %s", r.flag.c_str()));
+  for (const fmSurfaceSpring& r : springs) {
+    s.Add(tools::Format("  Flag: %s", r.Flag().c_str()));
     s.Values("  Kx = %%.%d%c;  Ky = %%.%d%c;  Kz = %%.%d%c (%s)", fmUnit::AreaSpring, s.Label(fmUnit::AreaSpring),
              r.k[0], r.k[1], r.k[2]);
   }

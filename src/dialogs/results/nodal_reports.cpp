@@ -20,7 +20,7 @@ void ResetReportGrid(const ReportContext& ctx) {
 }
 
 std::vector<bool> EnvelopeLoadCombs(const CfmStruct& model) {
-  const auto& names = model.m_Solution.envelopeCombinations;
+  const auto& names = model.m_EnvelopeCombinations;
   std::vector<bool> marked(static_cast<size_t>(model.GetNumLoadCases()), false);
   for (size_t i = 0; i < marked.size(); ++i)
     marked[i] = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
@@ -265,12 +265,12 @@ void Multi_DOF_Constraint_Forces(const ReportContext& ctx, int caseIndex) {
 
 void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<fmResult6Val>& displacements) {
   const CfmStruct& m = ctx.model;
-  const std::vector<int32_t>& driftNodes = m.m_Solution.driftNodes;
+  const std::vector<uint32_t>& driftNodes = m.m_DriftNodes;
   const bool nothing = driftNodes.empty() || displacements.empty();
   const bool selectedOnly = ShowSelected(ctx);
   const int rows = nothing        ? 0
                    : selectedOnly ? static_cast<int>(std::count_if(driftNodes.begin(), driftNodes.end(),
-                                                                   [&](int32_t id) { return m.IsNodeSelected(id); }))
+                                                                   [&](uint32_t id) { return m.IsNodeSelected(id); }))
                                   : static_cast<int>(driftNodes.size());
   const std::string length = m.m_Units.Label(fmUnit::Length);
   SetUpGrid(ctx, rows,
@@ -294,7 +294,7 @@ void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<
   // The base does not move.
   double belowY = m.BaseLevel(), belowDx = 0, belowDz = 0;
   int row = 0;
-  for (int32_t id : driftNodes) {
+  for (uint32_t id : driftNodes) {
     const bool shown = !selectedOnly || m.IsNodeSelected(id);
     if (shown) ++row;
     const fmNd* node = m.FindNode(id);

@@ -44,7 +44,7 @@ CfmStruct Described() {
   // Weights: 64.3481 kip is a mass of 2 kip-sec^2/ft (g = 32.1740 ft/s^2); 3 kip-ft^2 about
   // X is 0.0932 kip-sec^2-ft.
   dead.nodalMasses = {{3, 0, 64.348097113}, {3, 3, 3.0}};
-  s.m_Solution.nodalSprings = {{3, "111000", {100, 200, 300, 4, 5, 6}}};
+  s.m_NodalSprings = {{3, {100, 200, 300, 4, 5, 6}}};
   return s;
 }
 
@@ -97,10 +97,10 @@ TEST(NodeInfo, ASupportedNodeWithItsResultsInEachCase) {
 
 TEST(NodeInfo, SpringsLoadsGroupedByCaseAndMasses) {
   CfmStruct s = Described();
-  fmSolution::CoupledSpring coupled;
+  fmCoupledSpring coupled;
   coupled.node = 3;
   for (int i = 0; i < 21; ++i) coupled.k[static_cast<size_t>(i)] = i + 1;
-  s.m_Solution.coupledSprings = {coupled};
+  s.m_CoupledSprings = {coupled};
   s.m_Solution.results[0].nodalSpringReactions = {{3, {1, 2, 3, 4, 5, 6}}};
   s.m_DisplayFormat.fill(0);
   Lines lines;
