@@ -14,13 +14,9 @@ constexpr int kSide = -2;
 const StringEntry kStrings[] = {
     {kStrSectionCaption, "Member Sections"},
     {kStrThickCaption, "Shell Thickness"},
-    {kStrRegularCaption, "Regular Section"},
-    {kStrAiscCaption, "AISC Steel Shapes"},
-    {kStrNdsCaption, "NDS Sawn Lumber"},
     {kStrMaterialCaption, "Material"},
     {kStrMaterialRcCaption, "Concrete Material Strengths"},
     {kStrMaterialSteelCaption, "Steel Material Strengths"},
-    {kStrStandardCaption, "Standard Material"},
     {kStrSecRegular, "Regular Section..."},
     {kStrSecAisc, "AISC Table..."},
     {kStrSecNds, "NDS Table..."},
@@ -31,14 +27,6 @@ const StringEntry kStrings[] = {
     {kStrApply, "Apply"},
     {kStrMatStandard, "Std Material..."},
     {kStrMatAssign, "Assign active material to currently selected elements"},
-    {kStrStdMaterialLabel, "Material:"},
-    {kStrStdDensityLabel, "Unit density:"},
-    {kStrStdOk, "Ok"},
-    {kStrRegTypeLabel, "Section Type:"},
-    {kStrRegTypeNames + 0, "Rectangle"},
-    {kStrRegTypeNames + 1, "Round"},
-    {kStrRegTypeNames + 2, "Wide Flange"},
-    {kStrRegTypeNames + 3, "Tee"},
     {kStrRegWidth, "Width"},
     {kStrRegDepth, "Depth"},
     {kStrRegDiameter, "Diameter"},
@@ -46,9 +34,6 @@ const StringEntry kStrings[] = {
     {kStrRegFlangeThickness, "Flange Thickness"},
     {kStrRegWebThickness, "Web Thickness"},
     {kStrRegPictureHint, "Enter positive dimensions to see the shape to scale."},
-    {kStrShapeTypeLabel, "Shape type:"},
-    {kStrShapeFindLabel, "Find:"},
-    {kStrShapeProperties, "Property\tValue\tUnit"},
     {kStrShapeAllTypes, "All types"},
     {kStrLumberBoards, "Boards"},
     {kStrLumberDimension, "Dimension lumber"},
@@ -88,49 +73,6 @@ const DialogTemplate kThick = {
     },
     480, 360};
 
-const DialogTemplate kRegular = {
-    kIddRegularSection, kStrRegularCaption, "Regular Section",
-    {
-        {kCtlRegTypeLabel, K::Static, kStrRegTypeLabel, "Section Type:", 0, 0},
-        {kCtlRegType, K::DropList, 0, "", 0, 1},
-        {kCtlRegCaption1 + 0, K::Static, 0, "Width", 1, 0},
-        {kCtlRegDim1 + 0, K::Edit, 0, "", 1, 1},
-        {kCtlRegCaption1 + 1, K::Static, 0, "Depth", 2, 0},
-        {kCtlRegDim1 + 1, K::Edit, 0, "", 2, 1},
-        {kCtlRegCaption1 + 2, K::Static, 0, "Flange Thickness", 3, 0},
-        {kCtlRegDim1 + 2, K::Edit, 0, "", 3, 1},
-        {kCtlRegCaption1 + 3, K::Static, 0, "Web Thickness", 4, 0},
-        {kCtlRegDim1 + 3, K::Edit, 0, "", 4, 1},
-        {kCtlRegUnit, K::Static, 0, "in", 5, 1},
-        {kCtlRegPicture, K::Placeholder, 0, "", 0, 2, 7, 1, 0, kStretchCol},
-        {0, K::Static, 0, "", 6, 0, 1, 2, 0, kStretchRow},
-        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
-    },
-    560, 300};
-
-// The shape browsers: type filter and search above the list of labels, the chosen shape's
-// properties and its outline beside it.
-DialogTemplate BrowserTemplate(int id, int caption, const char* text) {
-  return {id, caption, text,
-          {
-              {kCtlShapeTypeLabel, K::Static, kStrShapeTypeLabel, "Shape type:", 0, 0},
-              {kCtlShapeType, K::DropList, 0, "", 0, 1},
-              {kCtlShapeFindLabel, K::Static, kStrShapeFindLabel, "Find:", 1, 0},
-              {kCtlShapeFind, K::Edit, 0, "", 1, 1},
-              {kCtlShapeList, K::List, 0, "", 2, 0, 1, 2, 0, kStretchRow},
-              {kCtlShapeCount, K::Static, 0, "", 3, 0, 1, 2},
-              {kCtlShapeProperties, K::ReportList, kStrShapeProperties, "Property\tValue\tUnit", 0, 2, 4, 1, 0,
-               kStretchCol},
-              {kCtlShapePicture, K::Placeholder, 0, "", 0, 3, 4, 1},
-              {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
-              {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
-          },
-          860, 480};
-}
-const DialogTemplate kAisc = BrowserTemplate(kIddAiscData, kStrAiscCaption, "AISC Steel Shapes");
-const DialogTemplate kNds = BrowserTemplate(kIddNdsData, kStrNdsCaption, "NDS Sawn Lumber");
-
 const DialogTemplate kMaterial = {
     kIddMaterial, kStrMaterialCaption, "Material",
     {
@@ -162,21 +104,7 @@ const DialogTemplate kMaterialRc =
 const DialogTemplate kMaterialSteel =
     StrengthTemplate(kIddMaterialSteel, kStrMaterialSteelCaption, "Steel Material Strengths");
 
-const DialogTemplate kStandard = {
-    kIddStandardMaterial, kStrStandardCaption, "Standard Material",
-    {
-        {kCtlStdMaterialLabel, K::Static, kStrStdMaterialLabel, "Material:", 0, 0},
-        {kCtlStdMaterial, K::DropList, 0, "", 0, 1, 1, 2},
-        {kCtlStdDensityLabel, K::Static, kStrStdDensityLabel, "Unit density:", 1, 0},
-        {kCtlStdDensity, K::Edit, 0, "", 1, 1},
-        {kCtlStdDensityUnit, K::Static, 0, "lb/ft^3", 1, 2},
-        {IDOK_, K::Button, kStrStdOk, "Ok", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
-    },
-    360, 0};
-
-const DialogTemplate* const kTemplates[] = {&kSection,    &kThick,       &kRegular,       &kAisc,    &kNds,
-                                            &kMaterial,   &kMaterialRc,  &kMaterialSteel, &kStandard};
+const DialogTemplate* const kTemplates[] = {&kSection, &kThick, &kMaterial, &kMaterialRc, &kMaterialSteel};
 
 }  // namespace
 

@@ -12,31 +12,13 @@ constexpr int kBar = -1;
 constexpr int kSide = -2;
 
 const StringEntry kStrings[] = {
-    {kStrGenerateSpectrumCaption, "Generate Response Spectrum"},
     {kStrSpectraCaption, "Response Spectra"},
     {kStrSpectrumDataCaption, "Response Spectrum Data"},
     {kStrSpectrumAnalysisCaption, "Response Spectrum Analysis"},
-    {kStrSpecCode, "Design code:"},
-    {kStrSpecCodeFirst, "UBC 97"},
-    {kStrSpecCodeFirst + 1, "IBC 2000"},
-    {kStrSpecCodeFirst + 2, "ASCE 2005"},
-    {kStrSpecCodeFirst + 3, "ASCE 2010"},
-    {kStrSpecCodeFirst + 4, "ASCE 7-16"},
-    {kStrSpecCodeFirst + 5, "Eurocode 8"},
     {kStrSpecCa, "Ca:"},
     {kStrSpecCv, "Cv:"},
     {kStrSpecSds, "SDS:"},
     {kStrSpecSd1, "SD1:"},
-    {kStrSpecTl, "TL:"},
-    {kStrSpecEc8, "Eurocode 8 (EN 1998-1, horizontal elastic spectrum)"},
-    {kStrSpecType, "Spectrum type:"},
-    {kStrSpecGround, "Ground type:"},
-    {kStrSpecAg, "agR [g]:"},
-    {kStrSpecImportance, "Importance factor:"},
-    {kStrSpecDamping, "Viscous damping:"},
-    {kStrSpecLogScale, "Logarithmic period axis"},
-    {kStrSpecSeconds, "sec"},
-    {kStrSpecPercent, "%"},
     {kStrChartPeriod, "Period [sec]"},
     {kStrChartAcceleration, "Sa [g]"},
     {kStrSpectraHeadings, "Spectrum Name\tNumber of Points"},
@@ -58,46 +40,7 @@ const StringEntry kStrings[] = {
     {kStrRsaCombination, "Modal combination:"},
     {kStrRsaDamping, "Critical damping ratio:"},
     {kStrRsaSpectra, "Spectra..."},
-    {kStrSpecTypeFirst, "Type 1"},
-    {kStrSpecTypeFirst + 1, "Type 2"},
 };
-
-// The inputs on the left, the curve on the right; the line under the curve says why there
-// is none while the values are not usable.
-const DialogTemplate kGenerateResponseSpectrum = {
-    kIddGenerateResponseSpectrum, kStrGenerateSpectrumCaption, "Generate Response Spectrum",
-    {
-        {kCtlSpecCodeText, K::Static, kStrSpecCode, "Design code:", 0, 0},
-        {kCtlSpecCode, K::DropList, 0, "", 0, 1, 1, 2},
-        {kCtlSpecValue1Text, K::Static, kStrSpecSds, "SDS:", 1, 0},
-        {kCtlSpecValue1, K::Edit, 0, "", 1, 1, 1, 1, 0, kNarrow},
-        {kCtlSpecValue2Text, K::Static, kStrSpecSd1, "SD1:", 2, 0},
-        {kCtlSpecValue2, K::Edit, 0, "", 2, 1, 1, 1, 0, kNarrow},
-        {kCtlSpecTlText, K::Static, kStrSpecTl, "TL:", 3, 0},
-        {kCtlSpecTl, K::Edit, 0, "", 3, 1, 1, 1, 0, kNarrow},
-        {kCtlSpecTlUnit, K::Static, kStrSpecSeconds, "sec", 3, 2},
-
-        {kCtlSpecEc8Group, K::Group, kStrSpecEc8, "Eurocode 8", 4, 0, 1, 3},
-        {kCtlSpecTypeText, K::Static, kStrSpecType, "Spectrum type:", 0, 0, 1, 1, kCtlSpecEc8Group},
-        {kCtlSpecType, K::DropList, 0, "", 0, 1, 1, 2, kCtlSpecEc8Group},
-        {kCtlSpecGroundText, K::Static, kStrSpecGround, "Ground type:", 1, 0, 1, 1, kCtlSpecEc8Group},
-        {kCtlSpecGround, K::DropList, 0, "", 1, 1, 1, 2, kCtlSpecEc8Group},
-        {kCtlSpecAgText, K::Static, kStrSpecAg, "agR [g]:", 2, 0, 1, 1, kCtlSpecEc8Group},
-        {kCtlSpecAg, K::Edit, 0, "", 2, 1, 1, 1, kCtlSpecEc8Group, kNarrow},
-        {kCtlSpecImportanceText, K::Static, kStrSpecImportance, "Importance factor:", 3, 0, 1, 1, kCtlSpecEc8Group},
-        {kCtlSpecImportance, K::Edit, 0, "", 3, 1, 1, 1, kCtlSpecEc8Group, kNarrow},
-        {kCtlSpecDampingText, K::Static, kStrSpecDamping, "Viscous damping:", 4, 0, 1, 1, kCtlSpecEc8Group},
-        {kCtlSpecDamping, K::Edit, 0, "", 4, 1, 1, 1, kCtlSpecEc8Group, kNarrow},
-        {kCtlSpecDampingUnit, K::Static, kStrSpecPercent, "%", 4, 2, 1, 1, kCtlSpecEc8Group},
-
-        {kCtlSpecLogScale, K::Check, kStrSpecLogScale, "Logarithmic period axis", 5, 0, 1, 3},
-        {0, K::Static, 0, "", 6, 0, 1, 3, 0, kStretchRow},
-        {kCtlSpecChart, K::Placeholder, 0, "", 0, 3, 7, 1, 0, kStretchCol},
-        {kCtlSpecStatus, K::Static, 0, "", 7, 0, 1, 4},
-        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
-    },
-    900, 470};
 
 const DialogTemplate kResponseSpectra = {
     kIddResponseSpectra, kStrSpectraCaption, "Response Spectra",
@@ -159,8 +102,7 @@ const DialogTemplate kResponseSpectrumAnalysis = {
     },
     620, 0};
 
-const DialogTemplate* const kTemplates[] = {&kGenerateResponseSpectrum, &kResponseSpectra, &kResponseSpectrumData,
-                                            &kResponseSpectrumAnalysis};
+const DialogTemplate* const kTemplates[] = {&kResponseSpectra, &kResponseSpectrumData, &kResponseSpectrumAnalysis};
 
 }  // namespace
 

@@ -7,10 +7,26 @@
 #include <QTreeWidget>
 
 #include "dialogs/design/SectionPicture.h"
+#include "dialogs/frame/Form.h"
 #include "resources/sections_ids.h"
 #include "tools/format.h"
 
-CShapeBrowserDlg::CShapeBrowserDlg(int templateId, QWidget* pParent) : CDialog(templateId, pParent) {
+frame::Form<CShapeBrowserDlg> CShapeBrowserDlg::BrowserForm(int templateId, const char* caption) {
+  using F = frame::Field<CShapeBrowserDlg>;
+  using namespace res;
+  return frame::Form<CShapeBrowserDlg>(
+      {.templateId = templateId, .caption = caption, .minWidth = 860, .minHeight = 480, .stretchColumn = false},
+      {
+          F::Drop("Shape type:").Id(kCtlShapeType),
+          F::Text("Find:", &CShapeBrowserDlg::m_strFind).Id(kCtlShapeFind),
+          F::List("").Id(kCtlShapeList).Span(2).Stretch(kStretchRow),
+          F::Static("").Id(kCtlShapeCount).Span(2),
+          F::Report("Property\tValue\tUnit").Id(kCtlShapeProperties).At(0, 2, 4, 1).Stretch(kStretchCol),
+          F::Grid().Id(kCtlShapePicture).At(0, 3, 4, 1).Stretch(0),
+      });
+}
+
+CShapeBrowserDlg::CShapeBrowserDlg(const frame::FormBase& form, QWidget* pParent) : CDialog(form, pParent) {
   OnSelChange(res::kCtlShapeType, [this] { RefillList(); });
   OnEditChange(res::kCtlShapeFind, [this] { RefillList(); });
   OnSelChange(res::kCtlShapeList, [this] { ShowShape(CurrentShape()); });

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <string_view>
 
 #include "dialogs/frame/TemplateBuilder.h"
 #include "resources/ids.h"
@@ -70,6 +71,7 @@ void FormBase::AssignIds() {
     if (id == 0 && text && *text) id = nextString++;
   };
   string(frame_.captionStringId, frame_.caption);
+  if (std::string_view(frame_.okText) != "OK") string(frame_.okStringId, frame_.okText);
   for (FieldLayout& f : layouts_) {
     if (f.kind == FK::EndGroup) continue;
     control(f.id);
@@ -106,6 +108,7 @@ void FormBase::Publish() const {
     if (id != 0 && text && *text) res::AddGeneratedString(id, text);
   };
   addString(frame_.captionStringId, frame_.caption);
+  addString(frame_.okStringId, frame_.okText);
 
   std::map<int, Container> containers;  // by group id; 0 is the dialog body
   int group = 0, sideButtons = 0;
@@ -142,7 +145,7 @@ void FormBase::Publish() const {
     uint32_t flags = f.flags;
     if (IsNumber(f.kind)) flags |= frame_.numberFlags;
     if (f.kind == FK::Result) flags |= res::kReadOnly;
-    if (Stretches(f.kind)) flags |= res::kStretchRow | res::kStretchCol;
+    if (Stretches(f.kind) && f.autoStretch) flags |= res::kStretchRow | res::kStretchCol;
     if (f.kind == FK::Radio) {
       for (size_t i = 0; i < f.items.size(); ++i) {
         out.push_back({f.itemIds[i], res::Kind::Radio, f.itemStringIds[i], f.items[i], row + static_cast<int>(i), f.col,
@@ -188,7 +191,8 @@ void FormBase::Publish() const {
 
   using B = FormFrame::Buttons;
   if (frame_.buttons == B::OkCancel || frame_.buttons == B::Ok)
-    out.push_back({res::IDOK_, res::Kind::Button, res::kStrOk, "OK", kButtonBar, 0, 1, 1, 0, res::kDefault});
+    out.push_back({res::IDOK_, res::Kind::Button, frame_.okStringId ? frame_.okStringId : res::kStrOk, frame_.okText,
+                   kButtonBar, 0, 1, 1, 0, res::kDefault});
   if (frame_.buttons == B::OkCancel)
     out.push_back({res::IDCANCEL_, res::Kind::Button, res::kStrCancel, "Cancel", kButtonBar, 1});
   if (frame_.buttons == B::Close)

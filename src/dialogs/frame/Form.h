@@ -44,6 +44,7 @@ struct FieldLayout {
   int row = kNextRow, col = 0, rowSpan = 1, colSpan = 0;
   uint32_t flags = 0, labelFlags = 0;
   bool labelAbove = false;
+  bool autoStretch = true;  // grids, lists and reports take the spare room unless placed otherwise
 };
 
 // The caption and frame of a form.
@@ -57,6 +58,9 @@ struct FormFrame {
   // The rightmost column of labelled fields in each group takes the spare width; a form laid
   // out as a table keeps its columns as wide as their contents.
   bool stretchColumn = true;
+  // OK's own text where a dialog names it otherwise ("Apply", "Ok").
+  const char* okText = "OK";
+  int okStringId = 0;
 };
 
 // The untyped part of a form: ids, the template and its strings.
@@ -162,8 +166,19 @@ class Field {
   }
   Field& Span(int colSpan) { return layout.colSpan = colSpan, *this; }
   Field& Flags(uint32_t flags) { return layout.flags |= flags, *this; }
+  // Only these stretch flags, for a grid or list that shares its rows with other fields.
+  Field& Stretch(uint32_t flags) { return layout.autoStretch = false, layout.flags |= flags, *this; }
   Field& LabelFlags(uint32_t flags) { return layout.labelFlags |= flags, *this; }
   Field& LabelAbove() { return layout.labelAbove = true, *this; }
+  // Read back only while the condition holds (the fields of another choice keep their
+  // values and their texts are not checked); always shown.
+  Field& ReadWhen(std::function<bool(const Dlg&)> when) {
+    if (exchange)
+      exchange = [inner = exchange, when](Dlg& d, CDataExchange* pDX, int id) {
+        if (!pDX->m_bSaveAndValidate || when(d)) inner(d, pDX, id);
+      };
+    return *this;
+  }
   // A drop-down's fixed entries (string-table texts) or the dialog's own list of them.
   Field& Items(std::initializer_list<const char*> items) { return layout.items = items, *this; }
   Field& Items(std::function<std::vector<std::string>(const Dlg&)> source) { return items = std::move(source), *this; }

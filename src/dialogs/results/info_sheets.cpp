@@ -5,6 +5,7 @@
 
 #include "dialogs/grid/grid_ops.h"
 #include "dialogs/results/display_format.h"
+#include "tools/fm_exception.h"
 #include "tools/format.h"
 #include "tools/labels.h"
 
@@ -135,14 +136,93 @@ void ResultSection(Lines& s, long id, const char* word, size_t guess,
   }
 }
 
-// Results this version does not hold for elements (member forces, shell forces, brick
-// stresses): each case names the object as not found.
-void MissingResultSection(Lines& s, long id, const char* word) {
+// Per load case or combination, the element's result lines, or the error line when the
+// case has no record of it (or its results cannot be formed).
+template <class Record, class Find, class Write>
+void ElementSection(Lines& s, long id, const char* word, Find find, Write write) {
   const CfmStruct& m = s.model();
   if (m.GetNumLoadCases() == 0) s.Add("  None");
+  fmCaseResults scratch;
   for (int c = 0; c < m.GetNumLoadCases(); ++c) {
     s.Add(tools::Format("*Load Combination [%s]", m.GetCaseName(c).c_str()));
-    s.Add(ErrorFinding(word, id));
+    const Record* record = nullptr;
+    try {
+      if (m.GetCaseResults(c)) record = find(m.GetElementResults(c, scratch));
+    } catch (const fmException&) {
+      record = nullptr;
+    }
+    if (record)
+      write(*record);
+    else
+      s.Add(ErrorFinding(word, id));
+  }
+}
+
+template <class Record>
+const Record* ById(const std::vector<Record>& records, long id) {
+  for (const Record& r : records)
+    if (r.number == id) return &r;
+  return nullptr;
+}
+
+void MemberResultLines(Lines& s, const fmBmVMD& b) {
+  const CfmStruct& m = s.model();
+  const double f = m.ResultFactor(fmUnit::Force), mm = m.ResultFactor(fmUnit::Moment);
+  const double d = m.ResultFactor(fmUnit::Displacement), l = m.ResultFactor(fmUnit::Length);
+  if (b.m_VMD.empty()) return;
+  const char* ends[2] = {"  @Start: Fx = %%.%d%c;  Fy = %%.%d%c;  Fz = %%.%d%c (%s)",
+                         "  @End: Fx = %%.%d%c;  Fy = %%.%d%c;  Fz = %%.%d%c (%s)"};
+  const fmBmStation* stations[2] = {&b.m_VMD.front(), &b.m_VMD.back()};
+  for (int e = 0; e < 2; ++e) {
+    const auto& v = stations[e]->force;
+    s.Values(ends[e], fmUnit::Force, s.Label(fmUnit::Force), v[0] * f, v[1] * f, v[2] * f);
+    s.Values("        Mx = %%.%d%c;  My = %%.%d%c;  Mz = %%.%d%c (%s)", fmUnit::Moment, s.Label(fmUnit::Moment),
+             v[3] * mm, v[4] * mm, v[5] * mm);
+  }
+  // The largest moment and deflection by size, shown with their signs.
+  const fmBmStation* maxMz = stations[0];
+  const fmBmStation* maxDy = stations[0];
+  for (const fmBmStation& st : b.m_VMD) {
+    if (std::fabs(st.force[5]) > std::fabs(maxMz->force[5])) maxMz = &st;
+    if (std::fabs(st.Dy) > std::fabs(maxDy->Dy)) maxDy = &st;
+  }
+  const std::string& length = s.Label(fmUnit::Length);
+  // One value in its display format, then the distance with three decimals.
+  auto at = [&](const char* pattern, Q q, double value, double distance) {
+    const DisplayFormatSpec spec = GetDisplayFormat(m.DisplayFormat(q));
+    const std::string format = tools::Format(pattern, spec.precision, spec.letter, s.Label(q).c_str());
+    s.Add(tools::Format(format.c_str(), value, distance, length.c_str()));
+  };
+  at("  Max Mz = %%.%d%c (%s) @ Distance = %%.3f (%%s)", fmUnit::Moment, maxMz->force[5] * mm, maxMz->distance * l);
+  at("  Absolute Max Dy = %%.%d%c (%s) @ Distance = %%.3f (%%s)", fmUnit::Displacement, maxDy->Dy * d,
+     maxDy->distance * l);
+}
+
+void ShellResultLines(Lines& s, const fmShellForce& r) {
+  const CfmStruct& m = s.model();
+  const double f = m.ResultFactor(fmUnit::LinearForce), mm = m.ResultFactor(fmUnit::LinearMoment);
+  // The nodes, then the centre (point 0).
+  for (size_t p : {1, 2, 3, 4, 0}) {
+    s.Add(p == 0 ? std::string("  @Center") : tools::Format("  @Node-%d", static_cast<int>(p)));
+    const auto& v = r.point[p];
+    s.Values("  Fxx = %%.%d%c;  Fyy = %%.%d%c;  Fxy = %%.%d%c (%s)", fmUnit::LinearForce, s.Label(fmUnit::LinearForce),
+             v[0] * f, v[1] * f, v[2] * f);
+    s.Values("  Mxx = %%.%d%c;  Myy = %%.%d%c;  Mxy = %%.%d%c (%s)", fmUnit::LinearMoment,
+             s.Label(fmUnit::LinearMoment), v[3] * mm, v[4] * mm, v[5] * mm);
+    s.Values("  Vxx = %%.%d%c;  Vyy = %%.%d%c (%s)", fmUnit::LinearForce, s.Label(fmUnit::LinearForce), v[6] * f,
+             v[7] * f);
+  }
+}
+
+void BrickResultLines(Lines& s, const fmBrickStress& r) {
+  const double f = s.model().ResultFactor(fmUnit::Stress);
+  for (size_t p : {1, 2, 3, 4, 5, 6, 7, 8, 0}) {
+    s.Add(p == 0 ? std::string("  @Center") : tools::Format("  @Node-%d", static_cast<int>(p)));
+    const auto& v = r.point[p];
+    s.Values("  Sx = %%.%d%c;  Sy = %%.%d%c;  Sz = %%.%d%c (%s)", fmUnit::Stress, s.Label(fmUnit::Stress), v[0] * f,
+             v[1] * f, v[2] * f);
+    s.Values("  Sxy = %%.%d%c;  Syz = %%.%d%c;  Sxz = %%.%d%c (%s)", fmUnit::Stress, s.Label(fmUnit::Stress),
+             v[3] * f, v[4] * f, v[5] * f);
   }
 }
 
@@ -414,7 +494,8 @@ bool GetBeamInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) {
   ThermalSection(s, &fmCaseLoad::memberThermal, id);
 
   s.Add("**INTERNAL FORCES AND MOMENTS");
-  MissingResultSection(s, id, "member");
+  ElementSection<fmBmVMD>(s, id, "member", [id](const fmCaseResults& r) { return ById(r.memberStations, id); },
+                          [&](const fmBmVMD& b) { MemberResultLines(s, b); });
 
   s.Add("**LINE SPRING REACTIONS");
   if (springs.empty() && !AnyRecord(m, id, &fmCaseResults::lineSpringReactions))
@@ -477,7 +558,8 @@ bool GetShell4Info(const CfmStruct& m, std::vector<std::string>& lines, long id)
   ThermalSection(s, &fmCaseLoad::shellThermal, id);
 
   s.Add("**INTERNAL FORCES AND MOMENTS");
-  MissingResultSection(s, id, "shell4");
+  ElementSection<fmShellForce>(s, id, "shell4", [id](const fmCaseResults& r) { return ById(r.shellForces, id); },
+                               [&](const fmShellForce& f) { ShellResultLines(s, f); });
 
   s.Add("**SURFACE SPRING REACTIONS");
   if (springs.empty() && !AnyRecord(m, id, &fmCaseResults::surfaceSpringReactions))
@@ -507,7 +589,8 @@ bool GetBrickInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) 
   s.Add("**Brick Thermal Loads");
   ThermalSection(s, &fmCaseLoad::brickThermal, id);
   s.Add("**BRICK STRESSES");
-  MissingResultSection(s, id, "brick");
+  ElementSection<fmBrickStress>(s, id, "brick", [id](const fmCaseResults& r) { return ById(r.brickStresses, id); },
+                                [&](const fmBrickStress& b) { BrickResultLines(s, b); });
   return true;
 }
 

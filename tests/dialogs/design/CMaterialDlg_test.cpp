@@ -5,7 +5,9 @@
 
 #include "dialogs/design/CMaterialStrengthDlg.h"
 #include "dialogs/design/SectionsDialogTest.h"
+#include "dialogs/design/CStandardMaterialDlg.h"
 #include "dialogs/design/material_grid.h"
+#include "dialogs/frame/Form.h"
 #include "resources/grid_ids.h"
 #include "resources/sections_ids.h"
 
@@ -33,8 +35,8 @@ class MaterialDialogTest : public SectionsDialogTest {
   // Picks a standard material and a unit density, then OK.
   std::function<void(CDialog&)> Choose(int index, const char* density) {
     return [index, density](CDialog& d) {
-      d.ChooseItem(res::kCtlStdMaterial, index);
-      if (density) d.Item<QLineEdit>(res::kCtlStdDensity)->setText(density);
+      d.ChooseItem(frame::IdOf(&CStandardMaterialDlg::m_nMaterial), index);
+      if (density) d.Item<QLineEdit>(frame::IdOf(&CStandardMaterialDlg::m_dUnitDensity))->setText(density);
       d.PressButton(IDOK);
     };
   }

@@ -5,6 +5,7 @@
 #include <QTableView>
 
 #include "dialogs/design/CAiscDataDlg.h"
+#include "dialogs/frame/Form.h"
 #include "dialogs/design/CRegularSectionDlg.h"
 #include "dialogs/design/CThickDlg.h"
 #include "dialogs/design/SectionsDialogTest.h"
@@ -60,9 +61,9 @@ class SectionDialogTest : public SectionsDialogTest {
 std::function<void(CDialog&)> Regular(int type, std::vector<const char*> dims) {
   return [type, dims](CDialog& d) {
     auto& reg = static_cast<CRegularSectionDlg&>(d);
-    reg.ChooseItem(res::kCtlRegType, type);
+    reg.ChooseItem(frame::IdOf(&CRegularSectionDlg::m_nType), type);
     for (size_t i = 0; i < dims.size(); ++i)
-      reg.Item<QLineEdit>(res::kCtlRegDim1 + static_cast<int>(i))->setText(dims[i]);
+      reg.Item<QLineEdit>(CRegularSectionDlg::DimensionId(static_cast<int>(i)))->setText(dims[i]);
     reg.PressButton(IDOK);
   };
 }

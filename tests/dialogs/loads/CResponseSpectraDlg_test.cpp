@@ -4,6 +4,7 @@
 #include <QTreeWidget>
 #include <csignal>
 
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/CGenerateResponseSpectrumDlg.h"
 #include "dialogs/loads/CResponseSpectraDlg.h"
 #include "dialogs/loads/CResponseSpectrumDataDlg.h"
@@ -14,6 +15,12 @@
 using namespace res;
 
 namespace {
+
+// The generator's controls, found by the members they show.
+using Gen = CGenerateResponseSpectrumDlg;
+const int kCtlSpecCode = frame::IdOf(&Gen::m_nCode);
+const int kCtlSpecValue1 = frame::IdOf(&Gen::m_dValue1);
+const int kCtlSpecValue2 = frame::IdOf(&Gen::m_dValue2);
 
 const char* const kModify =
     "Modifying an existing response spectrum may affect other Norvane models.\nAre you sure to proceed?";
