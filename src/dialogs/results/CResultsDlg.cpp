@@ -87,21 +87,25 @@ BOOL CResultsDlg::OnInitDialog() {
 results::ReportContext CResultsDlg::Context() {
   static const CfmStruct kNoModel;
   return results::ReportContext{m_Spread.sheet(), m_pStruct ? *m_pStruct : kNoModel, m_nReportType, m_nQueryId,
-                                m_crAlternateRowColor};
+                                m_crAlternateRowColor, &messages_};
 }
 
 void CResultsDlg::Refresh() {
   if (!UpdateData(1)) return;
   TSpread::RedrawGuard guard(m_Spread);
   results::ResetReportGrid(Context());
-  // The information sheets do not depend on a case: they show for a model without any.
-  const bool needsCase = m_nReportType < 29 || m_nReportType > 32;
+  // The statistics and information sheets do not depend on a case: they show for a model
+  // without any.
+  const bool needsCase = m_nReportType < 28 || m_nReportType > 32;
   if (!m_pStruct || (needsCase && m_nCombination == -1)) return;
   try {
     const std::string title =
         results::ReportTitle(m_nReportType, m_pStruct->GetCaseName(m_nCombination), m_nCombination + 1);
     if (!title.empty()) setWindowTitle(QString::fromStdString(title));
+    messages_.clear();
     BuildReport();
+    // A report that refuses says why; the grid stays empty and the dialog open.
+    for (const std::string& message : messages_) MessageBox(message);
   } catch (const fmException& e) {
     MessageBox(e.GetMessage());
     EndDialog(IDCANCEL);

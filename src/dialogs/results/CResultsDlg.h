@@ -69,5 +69,6 @@ class CResultsDlg : public CDialog {
 
   TSpread m_Spread;
   QIcon m_hIcon;
+  std::vector<std::string> messages_;  // what the last report had to tell the user
   QSize initialSize_;  // the smaller window of the statistics and information sheets
 };

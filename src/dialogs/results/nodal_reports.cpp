@@ -7,6 +7,7 @@
 
 #include "dialogs/grid/grid_ops.h"
 #include "dialogs/results/display_format.h"
+#include "dialogs/results/report_cells.h"
 #include "model/id_index.h"
 #include "tools/format.h"
 #include "tools/labels.h"
@@ -29,50 +30,23 @@ std::vector<bool> EnvelopeLoadCombs(const CfmStruct& model) {
   return marked;
 }
 
-namespace {
-
-constexpr fmUnit::Quantity kDisplacement = fmUnit::Displacement;
-constexpr fmUnit::Quantity kRotation = fmUnit::Rotation;
-constexpr fmUnit::Quantity kForce = fmUnit::Force;
-constexpr fmUnit::Quantity kMoment = fmUnit::Moment;
-
-// One quantity as a report shows it: the factor into the display unit and the format index.
-struct Shown {
-  double factor;
-  int format;
-};
-
-Shown ShownAs(const CfmStruct& model, fmUnit::Quantity q) { return {model.ResultFactor(q), model.DisplayFormat(q)}; }
-
-// Writes cells without building a string per number: millions of cells go through here.
-class CellWriter {
- public:
-  explicit CellWriter(grid::Sheet& sheet) : sheet_(sheet) {}
-
-  void Text(int col, int row, std::string_view text) { sheet_.SetData(col, row, text); }
-  void Id(int col, int row, int64_t value) {
-    const auto [end, ec] = std::to_chars(buffer_, buffer_ + sizeof buffer_, value);
-    sheet_.SetNumber(col, row, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
-  }
-  // The value already in display units.
-  void Value(int col, int row, double value, int format) {
-    sheet_.SetNumber(col, row, std::string_view(buffer_, FormatDisplayTo(buffer_, value, format)));
-  }
-  void Value(int col, int row, double value, const Shown& s) { Value(col, row, value * s.factor, s.format); }
-
- private:
-  grid::Sheet& sheet_;
-  char buffer_[kDisplayBufferSize];
-};
-
-// Each report starts from a new grid: nothing of an earlier report (a red sum) stays.
 void SetUpGrid(const ReportContext& ctx, int rows, const std::vector<std::string>& headers, double width) {
   ctx.sheet = grid::Sheet();
   grid::InitializeGrid(ctx.sheet, ctx.alternateRowColor, rows, static_cast<int>(headers.size()), headers,
                        std::vector<double>(headers.size(), width), true);
 }
 
-bool ShowSelected(const ReportContext& ctx) { return ctx.model.m_nShowSelected != 0; }
+void CellWriter::Fixed3(int col, int row, double value) {
+  const auto [end, ec] = std::to_chars(buffer_, buffer_ + sizeof buffer_, value, std::chars_format::fixed, 3);
+  sheet_.SetNumber(col, row, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
+}
+
+namespace {
+
+constexpr fmUnit::Quantity kDisplacement = fmUnit::Displacement;
+constexpr fmUnit::Quantity kRotation = fmUnit::Rotation;
+constexpr fmUnit::Quantity kForce = fmUnit::Force;
+constexpr fmUnit::Quantity kMoment = fmUnit::Moment;
 
 // Every nodal report names a record it cannot match to a node of the model, and shows (and
 // sums) none of its values.

@@ -2,8 +2,12 @@
 
 #include <cmath>
 
+#include "dialogs/results/concrete_reports.h"
 #include "dialogs/results/info_sheets.h"
+#include "dialogs/results/member_reports.h"
+#include "dialogs/results/modal_reports.h"
 #include "dialogs/results/nodal_reports.h"
+#include "dialogs/results/plate_reports.h"
 #include "tools/format.h"
 
 namespace results {
@@ -154,10 +158,7 @@ ComboUse ComboUseOf(int kind) {
   return ComboUse::Nothing;
 }
 
-bool IsReportBuilt(int kind) {
-  return (kind >= 0 && kind <= 5) || kind == 21 || (kind >= 29 && kind <= 33) || (kind >= 35 && kind <= 46) ||
-         (kind >= 51 && kind <= 56);
-}
+bool IsReportBuilt(int kind) { return kind >= 0 && kind <= kLastReportKind && !(kind >= 8 && kind <= 11); }
 
 void BuildReport(const ReportContext& ctx, int comboIndex) {
   const CfmStruct& m = ctx.model;
@@ -166,6 +167,28 @@ void BuildReport(const ReportContext& ctx, int comboIndex) {
     case 0: Node_Displacements(ctx, Displacements(m, comboIndex)); break;
     case 1: Support_Reactions(ctx, comboIndex); break;
     case 2: case 3: case 4: case 5: case 53: Spring_Reactions(ctx, comboIndex); break;
+    case 6: case 7: Beam_VMD(ctx, comboIndex); break;
+    case 12: Shell4_ForceMoments(ctx, comboIndex); break;
+    case 13: Shell4_Nodal_Resultants(ctx, comboIndex); break;
+    case 14: Shell4_Principal_ForceMoments(ctx, comboIndex); break;
+    case 15: Shell4_Stresses(ctx, comboIndex, 0); break;
+    case 16: Shell4_Stresses(ctx, comboIndex, 1); break;
+    case 17: Shell4_Principal_Stresses(ctx, comboIndex); break;
+    case 18: Brick_Stresses(ctx, comboIndex); break;
+    case 19: Brick_Principal_Stresses(ctx, comboIndex); break;
+    case 20: Eigen_Values(ctx); break;
+    case 22: Beam_Envelop(ctx); break;
+    case 23: Shell4_WoodArmerMoments(ctx); break;
+    case 24: Beam_Concrete_Design(ctx); break;
+    case 25: Column_Concrete_Design(ctx); break;
+    case 26: Concrete_Shear_Design(ctx); break;
+    case 27: Plate_Concrete_Design(ctx); break;
+    case 28: Statistics(ctx); break;
+    case 34: Mode_Participation_Factors(ctx); break;
+    case 47: case 48: Beam_Mode_Combination_VMD(ctx); break;
+    case 49: Shell4_ForceMoments(ctx, -1); break;
+    case 50: Brick_Stresses(ctx, -1); break;
+    case 57: Beam_VMD_Envelope(ctx); break;
     case 21: {
       const auto& modes = m.m_Solution.eigenModes;
       if (comboIndex >= 0 && static_cast<size_t>(comboIndex) < modes.size())

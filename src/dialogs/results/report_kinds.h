@@ -40,8 +40,7 @@ bool IgnoresComboChange(int kind);
 enum class ComboUse { LoadCase, Mode, Nothing };
 ComboUse ComboUseOf(int kind);
 
-// Whether this version builds the report of a kind (the beam, shell, brick, modal and
-// concrete reports are not built yet).
+// Whether this version builds the report of a kind: every kind of 0 to 57 but 8 to 11.
 bool IsReportBuilt(int kind);
 
 // Fills the grid with the report of ctx.reportType for the combo choice (a case or mode
