@@ -53,13 +53,104 @@ size_t Reference(int32_t ref, size_t count, const std::string& owner, const char
   return static_cast<size_t>(ref - 1);
 }
 
+// The loads of every load case, from the document's case loads (its one source of loads),
+// in the analysis' units. Loads on inactive elements have nothing to act on and are left out.
+void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, DocumentModel& out) {
+  Model& m = out.model;
+  const Scale s{doc.units};
+  const auto indexOf = [](const auto& elements) {
+    std::unordered_map<uint32_t, size_t> at;
+    for (size_t i = 0; i < elements.size(); ++i) at.emplace(static_cast<uint32_t>(elements[i].id), i);
+    return at;
+  };
+  const auto memberAt = indexOf(m.members), shellAt = indexOf(m.shells), brickAt = indexOf(m.bricks);
+  const auto find = [](const std::unordered_map<uint32_t, size_t>& at, uint32_t id) -> const size_t* {
+    const auto it = at.find(id);
+    return it == at.end() ? nullptr : &it->second;
+  };
+  const auto memberLength = [&](size_t k) {
+    const Node& a = m.nodes[m.members[k].nodes[0]];
+    const Node& b = m.nodes[m.members[k].nodes[1]];
+    return std::hypot(b.x - a.x, b.y - a.y, b.z - a.z);
+  };
+  size_t skipped = 0, areas = 0, sideways = 0;
+  bool combinationMass = false;
+  for (size_t i = 0; i < doc.loadCases.size(); ++i) {
+    LoadCase c;
+    c.name = doc.loadCases[i].name;
+    if (i >= doc.caseLoads.size()) {
+      m.cases.push_back(std::move(c));
+      continue;
+    }
+    const fmCaseLoad& cl = doc.caseLoads[i];
+    if (cl.selfWeight.factor != 0) {
+      // The analysis applies self weight along -Y: a factor along Y of -1 is the weight itself.
+      if (cl.selfWeight.direction == 1)
+        c.selfWeight = -cl.selfWeight.factor;
+      else
+        ++sideways;
+    }
+    for (const fmNodalLoad& l : cl.nodal)
+      c.nodal.push_back({nodes.At(l.node, "A nodal load"), l.direction, l.magnitude * s.Action(l.direction)});
+    for (const fmPtLoad& l : cl.point) {
+      const size_t* k = find(memberAt, l.member);
+      if (!k) {
+        ++skipped;
+        continue;
+      }
+      c.memberPoint.push_back({*k, l.direction, l.local, l.magnitude * s.Action(l.direction), l.ratio * memberLength(*k)});
+    }
+    for (const fmLineLoad& l : cl.line) {
+      const size_t* k = find(memberAt, l.member);
+      if (!k) {
+        ++skipped;
+        continue;
+      }
+      const double f = l.direction < 3 ? s(fmUnit::LinearForce) : s(fmUnit::LinearMoment);
+      const double length = memberLength(*k);
+      c.memberLine.push_back({*k, l.direction, l.local, {l.magnitude[0] * f, l.magnitude[1] * f},
+                              {l.ratio[0] * length, l.ratio[1] * length}});
+    }
+    for (const fmSurfaceLoad& l : cl.surface) {
+      const size_t* k = find(shellAt, l.shell);
+      if (!k) {
+        ++skipped;
+        continue;
+      }
+      c.surface.push_back({*k, l.direction, l.local, l.magnitude * s(fmUnit::SurfaceForce)});
+    }
+    const auto thermal = [&](const std::vector<fmThermalLoad>& list, const std::unordered_map<uint32_t, size_t>& at,
+                             ThermalLoad::Kind kind) {
+      for (const fmThermalLoad& l : list) {
+        if (const size_t* k = find(at, l.element))
+          c.thermal.push_back({kind, *k, l.temperature * s(fmUnit::Temperature)});
+        else
+          ++skipped;
+      }
+    };
+    thermal(cl.memberThermal, memberAt, ThermalLoad::Kind::Member);
+    thermal(cl.shellThermal, shellAt, ThermalLoad::Kind::Shell);
+    thermal(cl.brickThermal, brickAt, ThermalLoad::Kind::Brick);
+    areas += cl.area.size();
+    combinationMass = combinationMass || cl.massFactor != 0;
+    for (const fmNodalMass& nm : cl.nodalMasses) {
+      const double weight = nm.weight * s(fmUnit::Force) * (nm.direction < 3 ? 1 : s(fmUnit::Length) * s(fmUnit::Length));
+      m.masses.push_back({nodes.At(nm.node, "A nodal mass"), nm.direction, weight / m.g});
+    }
+    m.cases.push_back(std::move(c));
+  }
+  if (skipped > 0) out.notes.push_back(Id(static_cast<int64_t>(skipped)) + " loads on inactive elements left out");
+  if (areas > 0) out.notes.push_back(Id(static_cast<int64_t>(areas)) + " area loads not analysed");
+  if (sideways > 0) out.notes.push_back(Id(static_cast<int64_t>(sideways)) + " self weights along X or Z not analysed");
+  if (combinationMass) out.notes.push_back("combination masses not analysed");
+}
+
 }  // namespace
 
 DocumentModel ModelFromDocument(const model::ModelDocument& doc) {
   DocumentModel out;
   Model& m = out.model;
   const Scale s{doc.units};
-  const Scale rs{doc.results.units};
   const double fl = s(fmUnit::Length);
 
   for (const fmNd& n : doc.nodes) {
@@ -167,28 +258,7 @@ DocumentModel ModelFromDocument(const model::ModelDocument& doc) {
     if (diaphragm.nodes.size() > 1) m.diaphragms.push_back(std::move(diaphragm));
   }
 
-  const fmSolution& r = doc.results;
-  for (const auto& nm : r.nodalMasses) {
-    const double weight = nm.magnitude * rs(fmUnit::Force) * (nm.direction < 3 ? 1 : rs(fmUnit::Length) * rs(fmUnit::Length));
-    m.masses.push_back({nodes.At(nm.node, "A nodal mass"), nm.direction, weight / m.g});
-  }
-
-  for (const fmLoadCase& lc : doc.loadCases) {
-    LoadCase c;
-    c.name = lc.name;
-    m.cases.push_back(std::move(c));
-  }
-  size_t orphanLoads = 0;
-  for (const auto& l : r.nodalLoads) {
-    const int c = FindCaseIndex(doc.loadCases, l.caseName);
-    if (c < 0) {
-      ++orphanLoads;
-      continue;
-    }
-    m.cases[static_cast<size_t>(c)].nodal.push_back({nodes.At(l.node, "A nodal load"), l.direction, l.magnitude * rs.Action(l.direction)});
-  }
-  if (orphanLoads > 0)
-    out.notes.push_back(Id(static_cast<int64_t>(orphanLoads)) + " nodal loads of load cases the model does not have left out");
+  AddCaseLoads(doc, nodes, out);
   for (const fmLoadComb& comb : doc.loadCombs) {
     Combination c;
     c.name = comb.name;

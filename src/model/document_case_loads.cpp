@@ -3,6 +3,7 @@
 
 #include "model/document_sections.h"
 #include "tools/format.h"
+#include "tools/fm_unit.h"
 
 // The "caseLoads" section: one entry per load case, in case order, each naming its case so a
 // hand-edited file cannot shift loads onto the wrong case unnoticed. Optional: documents
@@ -153,32 +154,40 @@ void WriteList(nlohmann::ordered_json& entry, const char* key, const std::vector
 }
 
 // Documents written before loads had their own section carried nodal loads and masses only
-// as copies in the results. Those at a node of the model and (for loads) of a case of the
-// model become its loads; masses, which named no case, go to the first case. The copies
-// themselves stay in the results as they were read.
+// as copies in the results, in the results' units. Those at a node of the model and (for
+// loads) of a case of the model become its loads, in the document's units; masses, which
+// named no case, go to the first case.
 void TakeOverResultCopies(ModelDocument& doc) {
   const std::unordered_set<uint32_t> nodes = Ids(doc.nodes);
   const auto known = [&](int32_t node) { return node > 0 && nodes.count(static_cast<uint32_t>(node)); };
+  double f[fmUnit::QuantityCount];
+  GetConversionFactors(f, doc.results.units, doc.units);
   for (const auto& l : doc.results.nodalLoads) {
     const int c = FindCaseIndex(doc.loadCases, l.caseName);
     if (c >= 0 && known(l.node) && l.direction >= 0 && l.direction < 6)
       doc.caseLoads[static_cast<size_t>(c)].nodal.push_back(
-          {static_cast<uint32_t>(l.node), l.direction, l.magnitude});
+          {static_cast<uint32_t>(l.node), l.direction, l.magnitude * f[l.direction < 3 ? fmUnit::Force : fmUnit::Moment]});
   }
   if (doc.caseLoads.empty()) return;
   for (const auto& m : doc.results.nodalMasses)
     if (known(m.node) && m.direction >= 0 && m.direction < 6)
-      doc.caseLoads[0].nodalMasses.push_back({static_cast<uint32_t>(m.node), m.direction, m.magnitude});
+      doc.caseLoads[0].nodalMasses.push_back(
+          {static_cast<uint32_t>(m.node), m.direction,
+           m.magnitude * f[fmUnit::Force] * (m.direction < 3 ? 1.0 : f[fmUnit::Length] * f[fmUnit::Length])});
 }
 
 }  // namespace
 
 void ReadCaseLoads(const JsonReader& root, ModelDocument& doc) {
   doc.caseLoads.assign(doc.loadCases.size(), fmCaseLoad{});
-  if (!root.Has("caseLoads")) {
-    TakeOverResultCopies(doc);
-    return;
-  }
+  // The case loads are the one source of loads: copies in the results are taken over by a
+  // document that has no case loads yet, and are dropped either way, so they are never
+  // written again.
+  const bool hasSection = root.Has("caseLoads");
+  if (!hasSection) TakeOverResultCopies(doc);
+  doc.results.nodalLoads.clear();
+  doc.results.nodalMasses.clear();
+  if (!hasSection) return;
   const JsonReader list = root.Member("caseLoads");
   const size_t n = list.ArraySize();
   if (n != doc.loadCases.size())

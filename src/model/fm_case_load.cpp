@@ -1,6 +1,7 @@
 #include "model/fm_case_load.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "tools/labels.h"
 
@@ -76,4 +77,20 @@ void ReorderCaseLoads(std::vector<fmCaseLoad>& caseLoads, const std::vector<int>
     if (origin[i] >= 0 && static_cast<size_t>(origin[i]) < caseLoads.size())
       out[i] = caseLoads[static_cast<size_t>(origin[i])];
   caseLoads = std::move(out);
+}
+
+bool CopyCaseLoads(std::vector<fmCaseLoad>& caseLoads, size_t from, size_t to, double factor, bool deleteExisting) {
+  if (from >= caseLoads.size() || to >= caseLoads.size() || from == to || factor == 0 || !std::isfinite(factor))
+    return false;
+  fmCaseLoad copy = caseLoads[from];
+  copy.Scale(factor);
+  copy.massFactor = 0;
+  fmCaseLoad& target = caseLoads[to];
+  if (deleteExisting) {
+    const double massFactor = target.massFactor;
+    target = fmCaseLoad{};
+    target.massFactor = massFactor;
+  }
+  target.Append(copy);
+  return true;
 }

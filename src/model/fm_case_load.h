@@ -124,6 +124,12 @@ void SortLineLoads(std::vector<fmLineLoad>& loads);
 const std::array<const char*, 6>& LoadDirectionNames();
 int LoadDirectionIndex(const std::string& name);
 
+// "Copy Loads": every load of case `from`, times `factor`, is added to case `to`; with
+// deleteExisting the loads of `to` are removed first. The combination mass factor is a setting
+// of the case, not a load, and stays as it was. False, with nothing changed, when a case is
+// outside the list, the cases are the same or the factor is 0 or not finite.
+bool CopyCaseLoads(std::vector<fmCaseLoad>& caseLoads, size_t from, size_t to, double factor, bool deleteExisting);
+
 // Keeps caseLoads in step with a changed list of load cases: origin[i] is the former index
 // of new case i, or -1 for a new case (which gets no loads). Loads of cases no longer listed
 // are dropped.

@@ -59,37 +59,6 @@ class CfmStruct {
     std::array<uint32_t, 8> node{};
     int32_t material = 0;
   };
-  // Element loads of a load case (by its label). Directions 0 to 2 are X, Y, Z of the
-  // global or, with `local`, the element's system; point and line loads 3 to 5 are moments.
-  struct PointLoad {
-    uint32_t member = 0;
-    std::string caseName{};
-    int32_t direction = 0;
-    bool local = false;
-    double magnitude = 0;
-    double distance = 0;
-  };
-  struct LineLoad {
-    uint32_t member = 0;
-    std::string caseName{};
-    int32_t direction = 0;
-    bool local = false;
-    std::array<double, 2> magnitude{};  // start, end
-    std::array<double, 2> distance{};
-  };
-  struct SurfaceLoad {
-    uint32_t shell = 0;
-    std::string caseName{};
-    int32_t direction = 0;
-    bool local = false;
-    double magnitude = 0;
-  };
-  struct ThermalLoad {
-    uint32_t element = 0;
-    std::string caseName{};
-    double magnitude = 0;
-  };
-
   CfmStruct();
   ~CfmStruct();
   CfmStruct(const CfmStruct&);
@@ -117,13 +86,10 @@ class CfmStruct {
   std::vector<uint32_t> m_DriftNodes;  // the drift stack, from the bottom up
   // Labels of the load cases and combinations that take part in envelopes.
   std::vector<std::string> m_EnvelopeCombinations;
-  std::vector<PointLoad> m_PointLoads;
-  std::vector<LineLoad> m_LineLoads;
-  std::vector<SurfaceLoad> m_SurfaceLoads;
-  std::vector<ThermalLoad> m_MemberThermalLoads, m_ShellThermalLoads, m_BrickThermalLoads;
 
   // The model's own load cases, combinations (their flags, factors and terms) and the loads
-  // of each case, as the statistics and the combinations formed from cases read them.
+  // of each case (m_CaseLoads[i] belongs to m_LoadCases[i], in the model's units), as the
+  // statistics, the combinations formed from cases and the information sheets read them.
   std::vector<fmLoadCase> m_LoadCases;
   std::vector<fmLoadComb> m_LoadCombs;
   std::vector<fmCaseLoad> m_CaseLoads;

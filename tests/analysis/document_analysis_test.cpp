@@ -23,6 +23,12 @@ std::array<double, 3> ForceSum(const std::vector<fmResult6Val>& records) {
 // modes and the response spectrum land in their records.
 TEST(DocumentAnalysis, ExampleReactionsBalanceItsLoadsAndModesAreWritten) {
   model::ModelDocument doc = Example();
+  // Only the nodal loads, whose sum is plain to add up here.
+  for (fmCaseLoad& cl : doc.caseLoads) {
+    fmCaseLoad nodalOnly;
+    nodalOnly.nodal = cl.nodal;
+    cl = std::move(nodalOnly);
+  }
   analysis::AnalysisRequest request;
   request.modes = 6;
   request.spectra = model::DefaultSpectra();
@@ -32,8 +38,8 @@ TEST(DocumentAnalysis, ExampleReactionsBalanceItsLoadsAndModesAreWritten) {
   for (size_t i = 0; i < s.cases.size(); ++i) {
     std::array<double, 3> applied{};
     auto addCase = [&](const std::string& name, double factor) {
-      for (const auto& l : s.nodalLoads)
-        if (l.caseName == name && l.direction < 3) applied[static_cast<size_t>(l.direction)] += factor * l.magnitude;
+      for (const auto& l : doc.caseLoads[static_cast<size_t>(FindCaseIndex(doc.loadCases, name))].nodal)
+        if (l.direction < 3) applied[static_cast<size_t>(l.direction)] += factor * l.magnitude;
     };
     if (i < doc.loadCases.size())
       addCase(doc.loadCases[i].name, 1);
@@ -72,11 +78,24 @@ TEST(DocumentAnalysis, UnitsOfTheDocumentAreHonoured) {
     "members": [{"id": 1, "nodes": [1, 2], "material": 1, "section": 1}],
     "supports": [{"node": 1, "restraints": "111111"}],
     "results": {"cases": [], "nodalLoads": [{"node": 2, "case": "P", "direction": "Y", "magnitude": -1}]})";
-  model::ModelDocument doc = Parse(text);
+  model::ModelDocument doc = Parse(text);  // an older document: its nodal load is in the results
   analysis::AnalyseDocument(doc, {});
   const fmResult6Val& tip = doc.results.results[0].displacements[1];
   EXPECT_NEAR(tip.v[1], -1.0 * 120 * 120 * 120 / (3 * 29000 * 0.0481771 * 20736), 1e-9);
   EXPECT_NEAR(doc.results.results[0].reactions[0].v[5], 10.0, 1e-9);  // kip-ft
+
+  // The same cantilever loaded through its case loads: the 1 kip as a point load at the tip
+  // (ratio 1), then 0.1 kip/ft along the whole member, whose tip moves w L^4 / 8EI.
+  const double EI = 29000 * 0.0481771 * 20736;  // kip-in^2
+  doc.caseLoads[0] = fmCaseLoad{};
+  doc.caseLoads[0].point = {{1, 1.0, 1, false, -1.0}};
+  analysis::AnalyseDocument(doc, {});
+  EXPECT_NEAR(doc.results.results[0].displacements[1].v[1], -1.0 * 120 * 120 * 120 / (3 * EI), 1e-9);
+  doc.caseLoads[0] = fmCaseLoad{};
+  doc.caseLoads[0].line = {{1, {0, 1}, {-0.1, -0.1}, 1, false}};
+  analysis::AnalyseDocument(doc, {});
+  EXPECT_NEAR(doc.results.results[0].displacements[1].v[1], -(0.1 / 12) * std::pow(120.0, 4) / (8 * EI), 1e-9);
+  EXPECT_NEAR(doc.results.results[0].reactions[0].v[1], 1.0, 1e-9);  // 0.1 kip/ft over 10 ft
 }
 
 // A refused analysis names what is wrong and leaves the document as it was.

@@ -10,6 +10,7 @@
 #include "dialogs/frame/CDialog.h"
 #include "dialogs/frame/CPreferencesDlg.h"
 #include "dialogs/grid/CDataGridDlg.h"
+#include "dialogs/loads/CCopyCaseLoadDlg.h"
 #include "resources/units_ids.h"
 #include "support/DialogTest.h"
 #include "support/run_program.h"
@@ -204,4 +205,29 @@ TEST_F(HostWindowTest, PreferencesOpenWithTheGridSettingsTheGridsUse) {
   QSettings().setValue("Preferences/SpreadRowHeight", 20);
   EXPECT_EQ(static_cast<CPreferencesDlg&>(*CreateBoundDialog("CPreferencesDlg", window.model(), &window)).m_nRowHeight,
             20u);
+}
+
+TEST_F(HostWindowTest, CopyLoadsCopiesEveryKindOfTheSourceCaseTimesTheFactor) {
+  model::ModelDocument& doc = window.model().doc;
+  doc.caseLoads[0].point = {{doc.members[0].id, 0.5, 1, false, -3.0}};
+  doc.caseLoads[0].selfWeight = {1, -1.0};
+  const fmCaseLoad source = doc.caseLoads[0];
+  ASSERT_FALSE(source.nodal.empty());
+  auto dlg = CreateBoundDialog("CCopyCaseLoadDlg", window.model(), &window);
+  auto& copy = static_cast<CCopyCaseLoadDlg&>(*dlg);
+  copy.m_nFrom = 0;
+  copy.m_nTo = 2;
+  copy.m_dFactor = 1.5;
+  copy.m_bDeleteExisting = 1;
+  dlg->InitDialogForTest();
+  EXPECT_EQ(dlg->windowTitle().toStdString(), "Copy Loads");
+  ASSERT_TRUE(dlg->PressButton(IDOK));
+  ASSERT_EQ(dlg->ModalResult(), IDOK);
+  EXPECT_TRUE(TakeBackDialogResult("CCopyCaseLoadDlg", *dlg, IDOK, window.model()));
+  fmCaseLoad expected = source;
+  expected.Scale(1.5);
+  expected.massFactor = doc.caseLoads[2].massFactor;
+  EXPECT_EQ(doc.caseLoads[2], expected);
+  EXPECT_EQ(doc.caseLoads[0], source);
+  EXPECT_TRUE(window.model().modified);
 }

@@ -138,6 +138,21 @@ TEST(CaseLoads, OlderDocumentsTakeTheirNodalLoadsFromTheResults) {
   EXPECT_EQ(doc.caseLoads[1].nodal, (std::vector<fmNodalLoad>{{2, 1, -3.0}}));
   EXPECT_TRUE(doc.caseLoads[0].nodal.empty());
   EXPECT_EQ(doc.caseLoads[0].nodalMasses, (std::vector<fmNodalMass>{{1, 0, 7.0}}));
+  EXPECT_TRUE(doc.results.nodalLoads.empty() && doc.results.nodalMasses.empty()) << "not kept as a second source";
+  const std::string written = model::SerializeModelDocument(doc);
+  EXPECT_EQ(written.find("\"nodalLoads\""), std::string::npos);
+  EXPECT_EQ(RoundTrip(doc).caseLoads, doc.caseLoads);
+}
+
+TEST(CaseLoads, OlderCopiesAreTakenOverInTheDocumentsUnitsAndIgnoredBesideCaseLoads) {
+  // Results kept in kN and m, the model in kip and ft: 4.4482216 kN is 1 kip.
+  const std::string results = R"(, "results": {"units": {"unit": [4, 0, 18, 46, 30, 62, 78, 0, 101, 103, 71, 86, 5, 71, 39, 108, 72, 88]},
+    "nodalLoads": [{"node": 2, "case": "LL", "direction": "Y", "magnitude": -4.4482216152605}]})";
+  const auto old = Parse(kModel + results);
+  ASSERT_EQ(old.caseLoads[1].nodal.size(), 1u);
+  EXPECT_NEAR(old.caseLoads[1].nodal[0].magnitude, -1.0, 1e-6);  // the unit table's kip of 4.448222 kN
+  const auto both = Parse(kModel + R"(, "caseLoads": [{"case": "DL"}, {"case": "LL"}])" + results);
+  EXPECT_TRUE(both.caseLoads[1].nodal.empty()) << "the case loads are the source";
 }
 
 TEST(CaseLoads, ReorderKeepsLoadsWithTheirCases) {
@@ -164,4 +179,33 @@ TEST(CaseLoads, ScaleAndAppendCopyEveryKind) {
   EXPECT_DOUBLE_EQ(target.point[2].ratio, 0.9);
   EXPECT_DOUBLE_EQ(target.selfWeight.factor, -2.0);
   EXPECT_EQ(target.area.size(), 1u);
+}
+
+TEST(CaseLoads, CopyLoadsAddsEveryKindTimesTheFactorAndDeletesTheTargetsFirstWhenAsked) {
+  std::vector<fmCaseLoad> loads(2);
+  loads[0] = EveryKind();
+  loads[0].massFactor = 0.75;
+  loads[1].nodal = {{1, 0, 9.0}};
+  loads[1].massFactor = 0.5;
+  auto added = loads;
+  ASSERT_TRUE(CopyCaseLoads(added, 0, 1, -2.0, false));
+  EXPECT_EQ(added[1].nodal, (std::vector<fmNodalLoad>{{1, 0, 9.0}, {2, 0, -10.0}, {1, 5, 5.0}}));
+  EXPECT_DOUBLE_EQ(added[1].line[0].magnitude[1], 4.0);
+  EXPECT_DOUBLE_EQ(added[1].selfWeight.factor, 2.0) << "-1 times -2";
+  EXPECT_EQ(added[1].area.size(), 1u);
+  EXPECT_EQ(added[1].nodalMasses.size(), loads[0].nodalMasses.size());
+  EXPECT_EQ(added[1].massFactor, 0.5) << "a setting of the case, not a load";
+  EXPECT_EQ(added[0], loads[0]);
+
+  auto replaced = loads;
+  ASSERT_TRUE(CopyCaseLoads(replaced, 0, 1, 1.0, true));
+  fmCaseLoad expected = loads[0];
+  expected.massFactor = 0.5;
+  EXPECT_EQ(replaced[1], expected);
+
+  for (auto [from, to, factor] : {std::tuple{0, 0, 1.0}, {0, 1, 0.0}, {0, 2, 1.0}, {0, 1, std::nan("")}}) {
+    auto same = loads;
+    EXPECT_FALSE(CopyCaseLoads(same, static_cast<size_t>(from), static_cast<size_t>(to), factor, true));
+    EXPECT_EQ(same, loads);
+  }
 }

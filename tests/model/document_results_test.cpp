@@ -39,8 +39,6 @@ TEST(DocumentResults, EverySolutionTableSurvivesWritingAndReading) {
   sol.results[1].surfaceSpringReactions = {{8, {0, 1, 0, 0, 0, 0}}};
   sol.results[2].constraintForces = {{5, {3, 4}, {0, 5}, {1.25, -2.5}}};
   sol.spectrum.constraintForces = {{6, {1, 2}, {2, 3}, {1, 2}}};
-  sol.nodalLoads = {{3, "Wind X", 0, 4.5}, {4, "Dead", 4, -1}};
-  sol.nodalMasses = {{3, 5, 0.25}};
   EXPECT_EQ(RoundTrip(doc).results, doc.results);
 }
 

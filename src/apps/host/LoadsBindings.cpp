@@ -6,6 +6,8 @@
 #include "dialogs/loads/CLoadComboDlg.h"
 #include "dialogs/loads/CLoadComboItemDlg.h"
 #include "dialogs/loads/CStdLoadCombinationDlg.h"
+#include "model/fm_case_load.h"
+#include "tools/format.h"
 
 namespace {
 
@@ -20,6 +22,8 @@ void RegisterLoadsBindings() {
         dlg.m_bModelLocked = m.doc.display.modelLocked;
         dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
         dlg.m_pLoadCases = &m.doc.loadCases;
+        m.doc.caseLoads.resize(m.doc.loadCases.size());
+        dlg.m_pCaseLoads = &m.doc.caseLoads;
       },
       WroteThrough);
 
@@ -56,12 +60,21 @@ void RegisterLoadsBindings() {
   // On its own the code dialog only chooses; the list dialog generates from the choice.
   BindDialog<CStdLoadCombinationDlg>(nullptr, nullptr);
 
-  // The demo host holds no loads to copy; the dialog shows the choice it offers.
+  // The host copies every kind of load of the source case into the target case.
   BindDialog<CCopyCaseLoadDlg>(
       [](CCopyCaseLoadDlg& dlg, HostModel& m) {
         dlg.m_pLoadCases = &m.doc.loadCases;
-        dlg.m_strCaption = "Copy Nodal Loads";
         dlg.m_nTo = m.doc.loadCases.size() > 1 ? 1 : 0;
       },
-      nullptr);
+      [](CCopyCaseLoadDlg& dlg, HostModel& m) {
+        m.doc.caseLoads.resize(m.doc.loadCases.size());
+        if (dlg.m_nFrom < 0 || dlg.m_nTo < 0 ||
+            !CopyCaseLoads(m.doc.caseLoads, static_cast<size_t>(dlg.m_nFrom), static_cast<size_t>(dlg.m_nTo),
+                           dlg.m_dFactor, dlg.m_bDeleteExisting != 0))
+          return false;
+        m.status = tools::Format("Copied the loads of \"%s\" to \"%s\" times %g",
+                                 m.doc.loadCases[static_cast<size_t>(dlg.m_nFrom)].name.c_str(),
+                                 m.doc.loadCases[static_cast<size_t>(dlg.m_nTo)].name.c_str(), dlg.m_dFactor);
+        return true;
+      });
 }

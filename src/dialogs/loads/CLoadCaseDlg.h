@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "dialogs/grid/CDataGridDlg.h"
+#include "model/fm_case_load.h"
 #include "model/fm_load.h"
 
 // The load case table: number, label and load type of every static load case. OK replaces
@@ -11,6 +12,9 @@ class CLoadCaseDlg : public CDataGridDlg {
   explicit CLoadCaseDlg(QWidget* pParent = nullptr);
 
   std::vector<fmLoadCase>* m_pLoadCases = nullptr;
+  // The loads of the cases, one per case in case order; kept in step with the cases on OK
+  // (the loads of a deleted case go with it, a new case starts without loads). Optional.
+  std::vector<fmCaseLoad>* m_pCaseLoads = nullptr;
 
  protected:
   BOOL OnInitDialog() override;
@@ -23,4 +27,5 @@ class CLoadCaseDlg : public CDataGridDlg {
 
  private:
   int filledRows_ = 0;  // rows filled from the host's cases and still in the grid
+  std::vector<int> origins_;  // per row, the case it was filled from; rows past its end are new
 };

@@ -93,30 +93,22 @@ std::string MaterialName(const CfmStruct& m, int32_t reference) {
   return mat ? mat->label : "None";
 }
 
-// Loads of one object grouped by load case, cases in the model's order; loads naming a case
-// the model does not have follow in their own order. "  None" without any.
-template <class Load, class Write>
-void LoadSection(Lines& s, const std::vector<Load>& loads, Write write) {
-  if (loads.empty()) {
-    s.Add("  None");
-    return;
-  }
-  std::vector<bool> done(loads.size(), false);
-  auto group = [&](const std::string& name, auto matches) {
-    bool headed = false;
-    for (size_t i = 0; i < loads.size(); ++i) {
-      if (done[i] || !matches(loads[i])) continue;
-      if (!headed) s.Add(tools::Format("*load case [%s]", name.c_str()));
-      headed = true;
-      done[i] = true;
-      write(loads[i]);
-    }
-  };
+// The loads of one object, case by case in the model's order under "*load case [%s]";
+// "  None" when no case has one. `list` picks the kind from a case's loads.
+template <class List, class Mine, class Write>
+void LoadSection(Lines& s, List list, Mine mine, Write write) {
   const CfmStruct& m = s.model();
-  for (int c = 0; c < m.GetNumLoadCases(); ++c)
-    group(m.GetCaseName(c), [&](const Load& l) { return tools::LabelsEqual(l.caseName, m.GetCaseName(c)); });
-  for (size_t i = 0; i < loads.size(); ++i)
-    if (!done[i]) group(loads[i].caseName, [&](const Load& l) { return tools::LabelsEqual(l.caseName, loads[i].caseName); });
+  bool any = false;
+  for (size_t c = 0; c < m.m_CaseLoads.size() && c < m.m_LoadCases.size(); ++c) {
+    bool headed = false;
+    for (const auto& load : list(m.m_CaseLoads[c])) {
+      if (!mine(load)) continue;
+      if (!headed) s.Add(tools::Format("*load case [%s]", m.m_LoadCases[c].name.c_str()));
+      headed = any = true;
+      write(load);
+    }
+  }
+  if (!any) s.Add("  None");
 }
 
 template <class Record, class Key>
@@ -295,13 +287,16 @@ void AxisLines(Lines& s, const std::array<Vec3, 3>& axes) {
                         clean(axes[i][2])));
 }
 
-void ThermalSection(Lines& s, const std::vector<CfmStruct::ThermalLoad>& all, long id) {
+void ThermalSection(Lines& s, std::vector<fmThermalLoad> fmCaseLoad::*kind, long id) {
   const std::string unit = s.Label(fmUnit::Temperature);
-  LoadSection(s, Of(all, [](const CfmStruct::ThermalLoad& l) { return l.element; }, id),
-              [&](const CfmStruct::ThermalLoad& l) {
-                s.Add(tools::Format("  Magnitude = %.3f (%s)", l.magnitude, unit.c_str()));
-              });
+  LoadSection(
+      s, [&](const fmCaseLoad& cl) -> const std::vector<fmThermalLoad>& { return cl.*kind; },
+      [&](const fmThermalLoad& l) { return l.element == id; },
+      [&](const fmThermalLoad& l) { s.Add(tools::Format("  Magnitude = %.3f (%s)", l.temperature, unit.c_str())); });
 }
+
+// Standard gravity in the model's length unit per second squared: a weight over it is a mass.
+double Gravity(const fmUnit& units) { return 386.08858267716535 / units.Factor(fmUnit::Length); }
 
 }  // namespace
 
@@ -313,7 +308,6 @@ bool GetNodeInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) {
     return false;
   }
   const size_t guess = static_cast<size_t>(node - m.m_Nodes.data());
-  const fmSolution& sol = m.m_Solution;
   const double disp = m.ResultFactor(fmUnit::Displacement), rot = m.ResultFactor(fmUnit::Rotation);
 
   s.Add("**COORDINATES");
@@ -368,28 +362,28 @@ bool GetNodeInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) {
              k[18], k[19], k[20]);
   }
 
+  // Loads and masses are in the model's units, which the sheets show.
   s.Add("**NODAL LOADS");
-  const double force = m.ResultFactor(fmUnit::Force), moment = m.ResultFactor(fmUnit::Moment);
-  LoadSection(s, Of(sol.nodalLoads, [](const fmSolution::NodalLoad& r) { return r.node; }, id),
-              [&](const fmSolution::NodalLoad& l) {
-                const bool isMoment = l.direction >= 3;
-                const Q q = isMoment ? fmUnit::Moment : fmUnit::Force;
-                s.DirectionAndMagnitude(DirectionName(l.direction), q, s.Label(q),
-                                        l.magnitude * (isMoment ? moment : force));
-              });
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmNodalLoad>& { return cl.nodal; },
+      [&](const fmNodalLoad& l) { return l.node == id; },
+      [&](const fmNodalLoad& l) {
+        const Q q = l.direction >= 3 ? fmUnit::Moment : fmUnit::Force;
+        s.DirectionAndMagnitude(DirectionName(l.direction), q, s.Label(q), l.magnitude);
+      });
 
+  // The tables give a mass as its weight (times length squared for a rotational mass).
   s.Add("**ADDITIONAL NODAL MASS");
-  const auto masses = Of(sol.nodalMasses, [](const fmSolution::NodalMass& r) { return r.node; }, id);
-  if (masses.empty()) s.Add("  None");
-  const double length = m.ResultFactor(fmUnit::Length);
-  for (const auto& r : masses) {
-    const bool rotational = r.direction >= 3;
-    const std::string unit =
-        tools::Format(rotational ? "%s-sec^2-%s" : "%s-sec^2/%s", s.Label(fmUnit::Force).c_str(),
-                      s.Label(fmUnit::Length).c_str());
-    const double factor = rotational ? force * length : force / length;
-    s.DirectionAndMagnitude(DirectionName(r.direction), fmUnit::Force, unit, r.magnitude * factor);
-  }
+  const double g = Gravity(m.m_Units);
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmNodalMass>& { return cl.nodalMasses; },
+      [&](const fmNodalMass& r) { return r.node == id; },
+      [&](const fmNodalMass& r) {
+        const bool rotational = r.direction >= 3;
+        const std::string unit = tools::Format(rotational ? "%s-sec^2-%s" : "%s-sec^2/%s",
+                                               s.Label(fmUnit::Force).c_str(), s.Label(fmUnit::Length).c_str());
+        s.DirectionAndMagnitude(DirectionName(r.direction), fmUnit::Force, unit, r.weight / g);
+      });
 
   s.Add("**DISPLACEMENTS");
   ResultSection(s, id, "node", guess, &fmCaseResults::displacements, [&](const fmResult6Val& r) {
@@ -469,32 +463,35 @@ bool GetBeamInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) {
   }
 
   const std::string& length = s.Label(fmUnit::Length);
+  // Positions are kept as ratios of the member's length; the sheet gives distances.
+  const double memberLength = a && b ? std::sqrt(Dot(Minus(At(*b), At(*a)), Minus(At(*b), At(*a)))) : 0.0;
   s.Add("**POINT LOADS");
-  LoadSection(s, Of(m.m_PointLoads, [](const CfmStruct::PointLoad& l) { return l.member; }, id),
-              [&](const CfmStruct::PointLoad& l) {
-                const Q q = l.direction >= 3 ? fmUnit::Moment : fmUnit::Force;
-                s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction),
-                                    l.local ? "local" : "global"));
-                const DisplayFormatSpec f = GetDisplayFormat(m.DisplayFormat(q));
-                const std::string format = tools::Format("  Magnitude = %%.%d%c (%s);  Distance = %%.3f (%%s)",
-                                                         f.precision, f.letter, s.Label(q).c_str());
-                s.Add(tools::Format(format.c_str(), l.magnitude, l.distance, length.c_str()));
-              });
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmPtLoad>& { return cl.point; },
+      [&](const fmPtLoad& l) { return l.member == id; },
+      [&](const fmPtLoad& l) {
+        const Q q = l.direction >= 3 ? fmUnit::Moment : fmUnit::Force;
+        s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction), l.local ? "local" : "global"));
+        const DisplayFormatSpec f = GetDisplayFormat(m.DisplayFormat(q));
+        const std::string format = tools::Format("  Magnitude = %%.%d%c (%s);  Distance = %%.3f (%%s)", f.precision,
+                                                 f.letter, s.Label(q).c_str());
+        s.Add(tools::Format(format.c_str(), l.magnitude, l.ratio * memberLength, length.c_str()));
+      });
 
   s.Add("**LINE LOADS");
-  LoadSection(s, Of(m.m_LineLoads, [](const CfmStruct::LineLoad& l) { return l.member; }, id),
-              [&](const CfmStruct::LineLoad& l) {
-                const Q q = l.direction >= 3 ? fmUnit::LinearMoment : fmUnit::LinearForce;
-                s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction),
-                                    l.local ? "local" : "global"));
-                s.Values("  Magnitude: Start = %%.%d%c;  End = %%.%d%c (%s)", q, s.Label(q), l.magnitude[0],
-                         l.magnitude[1]);
-                s.Add(tools::Format("  Distances: Start = %.3f;  End = %.3f (%s)", l.distance[0], l.distance[1],
-                                    length.c_str()));
-              });
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmLineLoad>& { return cl.line; },
+      [&](const fmLineLoad& l) { return l.member == id; },
+      [&](const fmLineLoad& l) {
+        const Q q = l.direction >= 3 ? fmUnit::LinearMoment : fmUnit::LinearForce;
+        s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction), l.local ? "local" : "global"));
+        s.Values("  Magnitude: Start = %%.%d%c;  End = %%.%d%c (%s)", q, s.Label(q), l.magnitude[0], l.magnitude[1]);
+        s.Add(tools::Format("  Distances: Start = %.3f;  End = %.3f (%s)", l.ratio[0] * memberLength,
+                            l.ratio[1] * memberLength, length.c_str()));
+      });
 
   s.Add("**Member Thermal Loads");
-  ThermalSection(s, m.m_MemberThermalLoads, id);
+  ThermalSection(s, &fmCaseLoad::memberThermal, id);
 
   s.Add("**INTERNAL FORCES AND MOMENTS");
   ElementSection<fmBmVMD>(s, id, "member", [id](const fmCaseResults& r) { return ById(r.memberStations, id); },
@@ -549,16 +546,16 @@ bool GetShell4Info(const CfmStruct& m, std::vector<std::string>& lines, long id)
   }
 
   s.Add("**SURFACE LOADS");
-  LoadSection(s, Of(m.m_SurfaceLoads, [](const CfmStruct::SurfaceLoad& l) { return l.shell; }, id),
-              [&](const CfmStruct::SurfaceLoad& l) {
-                s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction),
-                                    l.local ? "local" : "global"));
-                s.Values("  Magnitude = %%.%d%c (%s)", fmUnit::SurfaceForce, s.Label(fmUnit::SurfaceForce),
-                         l.magnitude);
-              });
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmSurfaceLoad>& { return cl.surface; },
+      [&](const fmSurfaceLoad& l) { return l.shell == id; },
+      [&](const fmSurfaceLoad& l) {
+        s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction), l.local ? "local" : "global"));
+        s.Values("  Magnitude = %%.%d%c (%s)", fmUnit::SurfaceForce, s.Label(fmUnit::SurfaceForce), l.magnitude);
+      });
 
   s.Add("**Shell4 Thermal Loads");
-  ThermalSection(s, m.m_ShellThermalLoads, id);
+  ThermalSection(s, &fmCaseLoad::shellThermal, id);
 
   s.Add("**INTERNAL FORCES AND MOMENTS");
   ElementSection<fmShellForce>(s, id, "shell4", [id](const fmCaseResults& r) { return ById(r.shellForces, id); },
@@ -590,7 +587,7 @@ bool GetBrickInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) 
   s.Add(tools::Format("  Self Weight: %s", SelfWeight(brick->flags)));
   s.Add(tools::Format("  Activation: %s", Activation(brick->flags)));
   s.Add("**Brick Thermal Loads");
-  ThermalSection(s, m.m_BrickThermalLoads, id);
+  ThermalSection(s, &fmCaseLoad::brickThermal, id);
   s.Add("**BRICK STRESSES");
   ElementSection<fmBrickStress>(s, id, "brick", [id](const fmCaseResults& r) { return ById(r.brickStresses, id); },
                                 [&](const fmBrickStress& b) { BrickResultLines(s, b); });
