@@ -272,6 +272,12 @@ GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& acti
         k.coeffRef(static_cast<Eigen::Index>(GlobalDof(sh.nodes[a], d)), static_cast<Eigen::Index>(GlobalDof(sh.nodes[a], d))) += share[a] * s.k[static_cast<size_t>(d)];
   }
 
+  std::vector<double> untied;
+  if (!model.constraints.empty() || !model.diaphragms.empty()) {
+    untied.resize(6 * model.nodes.size());
+    for (size_t dof = 0; dof < untied.size(); ++dof)
+      untied[dof] = k.coeff(static_cast<Eigen::Index>(dof), static_cast<Eigen::Index>(dof));
+  }
   // Constraints and diaphragms as stiff penalties on rigid-body relations, so they pass
   // forces without taking any from outside.
   if (!model.constraints.empty() || !model.diaphragms.empty()) {
@@ -322,6 +328,10 @@ GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& acti
 
   // The free block keeps the full matrix's column order, so it stays upper triangular.
   const auto nf = static_cast<Eigen::Index>(num.freeDofs.size());
+  if (!untied.empty()) {
+    out.freeUntied.resize(nf);
+    for (Eigen::Index c = 0; c < nf; ++c) out.freeUntied[c] = untied[num.freeDofs[static_cast<size_t>(c)]];
+  }
   SparseMatrix& f = out.free;
   f.resize(nf, nf);
   std::vector<int> outer(static_cast<size_t>(nf) + 1, 0);

@@ -34,7 +34,9 @@ struct Solver {
   StiffnessFactor factor;
 
   Solver(const Model& m, const MemberActivity& active) : model(m), k(AssembleStiffness(m, active)) {
-    factor.Factor(k.free, [&](Eigen::Index eq) { return DofLabel(model, k.numbering.freeDofs[static_cast<size_t>(eq)]); });
+    factor.Factor(
+        k.free, [&](Eigen::Index eq) { return DofLabel(model, k.numbering.freeDofs[static_cast<size_t>(eq)]); },
+        k.freeUntied);
   }
 
   // Displacements of several load vectors (columns) at once.

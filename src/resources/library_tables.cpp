@@ -6,6 +6,7 @@ namespace res {
 extern const ResourceTable kFrameResources;
 extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
+extern const ResourceTable kBoundaryResources;
 extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kGeometryResources;
@@ -19,6 +20,7 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kFrameResources,
       &kGridResources,
       &kModelResources,
+      &kBoundaryResources,
       &kDesignResources,
       &kGeometryResources,
       &kSectionsResources,

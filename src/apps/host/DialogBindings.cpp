@@ -31,6 +31,7 @@ void RegisterAllBindings() {
   RegisterFrameBindings();
   RegisterUnitsBindings();
   RegisterModelBindings();
+  RegisterBoundaryBindings();
   RegisterLoadsBindings();
   RegisterConcreteDesignBindings();
   RegisterGeometryBindings();

@@ -51,6 +51,7 @@ void BindDialog(std::function<void(Dlg&, HostModel&)> prepare, std::function<boo
 void RegisterFrameBindings();
 void RegisterUnitsBindings();
 void RegisterModelBindings();
+void RegisterBoundaryBindings();
 void RegisterLoadsBindings();
 void RegisterConcreteDesignBindings();
 void RegisterGeometryBindings();
