@@ -4,6 +4,7 @@
 #include <cmath>
 #include <unordered_map>
 
+#include "analysis/element_results.h"
 #include "analysis/linear_static.h"
 #include "analysis/modal.h"
 #include "model/response_spectrum_settings.h"
@@ -382,6 +383,11 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
   ConvertInputRecords(kept, doc.units);
   out.nodalLoads = kept.nodalLoads;
   out.nodalMasses = kept.nodalMasses;
+  // Element results of a combination are formed from its cases when asked, unless members
+  // that switch off make the combination a problem of its own.
+  const bool superposes = std::none_of(m.members.begin(), m.members.end(),
+                                       [](const Member& b) { return b.axial != AxialBehaviour::Linear; });
+  const int stations = std::max(request.memberStations, 2);
 
   for (size_t i = 0; i < st.results.size(); ++i) {
     const StaticResult& r = st.results[i];
@@ -398,11 +404,13 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
       cr.lineSpringReactions.push_back(Record(static_cast<int32_t>(m.members[m.lineSprings[k].member].id), r.lineSprings[k], s));
     for (size_t k = 0; k < m.surfaceSprings.size() && k < r.surfaceSprings.size(); ++k)
       cr.surfaceSpringReactions.push_back(Record(static_cast<int32_t>(m.shells[m.surfaceSprings[k].shell].id), r.surfaceSprings[k], s));
+    if (isCase || !superposes) WriteElementResults(m, r.displacement, r.terms, r.activeMembers, doc.units, stations, cr);
     out.results.push_back(std::move(cr));
   }
   for (const Mode& mode : modal.modes) {
     fmEigenMode em;
     em.omega2 = mode.omega2;
+    em.error = mode.error;
     em.shape = NodeRecords(m, mode.shape, s, false);
     double largest = 0;
     for (const auto& rec : em.shape)
@@ -416,6 +424,7 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
     for (const SpectrumMode& sm : sr.modes) {
       fmSpectrumMode rec;
       rec.omega2 = sm.omega2;
+      rec.participation = sm.participation;
       for (size_t d = 0; d < 3; ++d) {
         rec.displacements[d] = NodeRecords(m, sm.displacement[d], s, false);
         rec.inertialForces[d] = NodeRecords(m, sm.inertialForce[d], s, true);
@@ -424,6 +433,10 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
     }
     out.spectrum.displacements = NodeRecords(m, sr.displacement, s, false);
     out.spectrum.reactions = SupportRecords(m, sr.reaction, s);
+    std::vector<std::array<Eigen::VectorXd, 3>> modalDisplacements;
+    for (const SpectrumMode& sm : sr.modes) modalDisplacements.push_back(sm.displacement);
+    WriteSpectrumElementResults(m, modalDisplacements, settings.factor, settings.absoluteSum, doc.units, stations,
+                                out.spectrum);
   }
   doc.results = std::move(out);
   return summary;
