@@ -60,7 +60,7 @@ DialogTemplate LoadData(int id, int captionId, const char* caption, int noteId =
                        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
                        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
                    },
-                   820,
+                   1020,
                    420};
   if (noteId) t.controls.push_back({kCtlLoadNote, K::Static, noteId, note, 1, 0, 1, 1, 0, kMultiline});
   return t;

@@ -29,15 +29,7 @@ inline constexpr int kCtlStdClearAll = 24145;
 
 // Strings.
 inline constexpr int kStrLoadCasesCaption = 24000;
-inline constexpr int kStrLoadCombosCaption = 24001;
 inline constexpr int kStrCaseNote = 24010;
 inline constexpr int kStrCaseDeleteRows = 24011;
-inline constexpr int kStrComboListHeadings = 24020;
-inline constexpr int kStrComboAdd = 24021;
-inline constexpr int kStrComboModify = 24022;
-inline constexpr int kStrComboCopy = 24023;
-inline constexpr int kStrComboDelete = 24024;
-inline constexpr int kStrComboUnitCases = 24025;
-inline constexpr int kStrComboGenerateStd = 24026;
 
 }  // namespace res

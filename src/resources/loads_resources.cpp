@@ -13,16 +13,8 @@ constexpr int kSide = -2;
 
 const StringEntry kStrings[] = {
     {kStrLoadCasesCaption, "Load Cases"},
-    {kStrLoadCombosCaption, "Load Combinations"},
     {kStrCaseNote, "The optional load types are used in forming standard load combinations"},
     {kStrCaseDeleteRows, "Delete Rows"},
-    {kStrComboListHeadings, "Combinations\tP-Delta\tSteel Design\tConcrete Design\tTotal Load Defl.\tLive Load Defl."},
-    {kStrComboAdd, "Add"},
-    {kStrComboModify, "Modify"},
-    {kStrComboCopy, "Copy"},
-    {kStrComboDelete, "Delete"},
-    {kStrComboUnitCases, "Unit Cases"},
-    {kStrComboGenerateStd, "Generate Std"},
 };
 
 // The load case table: the grid with the data-grid buttons on the right and the note on
@@ -42,22 +34,7 @@ const DialogTemplate kLoadCase = {
     },
     560, 380};
 
-const DialogTemplate kLoadCombo = {
-    kIddLoadCombo, kStrLoadCombosCaption, "Load Combinations",
-    {
-        {kCtlComboList, K::ReportList, kStrComboListHeadings, "Combinations", 0, 0, 1, 1, 0, kStretchRow | kStretchCol},
-        {kCtlComboAdd, K::Button, kStrComboAdd, "Add", kSide, 0},
-        {kCtlComboModify, K::Button, kStrComboModify, "Modify", kSide, 1},
-        {kCtlComboCopy, K::Button, kStrComboCopy, "Copy", kSide, 2},
-        {kCtlComboDelete, K::Button, kStrComboDelete, "Delete", kSide, 3},
-        {kCtlComboUnitCases, K::Button, kStrComboUnitCases, "Unit Cases", kSide, 4},
-        {kCtlComboGenerateStd, K::Button, kStrComboGenerateStd, "Generate Std", kSide, 5},
-        {IDOK_, K::Button, kStrOk, "OK", kBar, 0, 1, 1, 0, kDefault},
-        {IDCANCEL_, K::Button, kStrCancel, "Cancel", kBar, 1},
-    },
-    920, 420};
-
-const DialogTemplate* const kTemplates[] = {&kLoadCase, &kLoadCombo};
+const DialogTemplate* const kTemplates[] = {&kLoadCase};
 
 }  // namespace
 

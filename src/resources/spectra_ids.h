@@ -31,44 +31,21 @@ inline constexpr int kCtlSpecDeleteRows = 24554;
 
 // CResponseSpectrumAnalysisDlg
 inline constexpr int kCtlRsaPerform = 24560;
-inline constexpr int kCtlRsaDirectionGroup = 24561;
-inline constexpr int kCtlRsaSpectrumHead = 24562;
-inline constexpr int kCtlRsaFactorHead = 24563;
-inline constexpr int kCtlRsaXText = 24564;  // then Y and Z
 inline constexpr int kCtlRsaSpectrumX = 24567;  // then Y and Z
 inline constexpr int kCtlRsaFactorX = 24570;  // then Y and Z
-inline constexpr int kCtlRsaCombinationText = 24573;
 inline constexpr int kCtlRsaCombination = 24574;
-inline constexpr int kCtlRsaDampingText = 24575;
 inline constexpr int kCtlRsaDamping = 24576;
 inline constexpr int kCtlRsaSpectra = 24577;
 
 // Strings
-inline constexpr int kStrSpectraCaption = 24601;
 inline constexpr int kStrSpectrumDataCaption = 24602;
-inline constexpr int kStrSpectrumAnalysisCaption = 24603;
 inline constexpr int kStrSpecCa = 24611;
 inline constexpr int kStrSpecCv = 24612;
 inline constexpr int kStrSpecSds = 24613;
 inline constexpr int kStrSpecSd1 = 24614;
 inline constexpr int kStrChartPeriod = 24625;
 inline constexpr int kStrChartAcceleration = 24626;
-inline constexpr int kStrSpectraHeadings = 24627;
-inline constexpr int kStrSpectraGenerate = 24628;
-inline constexpr int kStrSpectraImport = 24629;
-inline constexpr int kStrSpectraModify = 24630;
-inline constexpr int kStrSpectraDelete = 24631;
-inline constexpr int kStrSpectraExport = 24632;
 inline constexpr int kStrSpecName = 24633;
 inline constexpr int kStrSpecDeleteRows = 24634;
-inline constexpr int kStrRsaPerform = 24635;
-inline constexpr int kStrRsaDirections = 24636;
-inline constexpr int kStrRsaSpectrum = 24637;
-inline constexpr int kStrRsaFactor = 24638;
-inline constexpr int kStrRsaX = 24639;  // then Y and Z
-inline constexpr int kStrRsaCombination = 24642;
-inline constexpr int kStrRsaDamping = 24643;
-inline constexpr int kStrRsaSpectra = 24644;
-inline constexpr int kStrSpectraClose = 24647;
 
 }  // namespace res

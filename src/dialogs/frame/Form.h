@@ -123,6 +123,10 @@ class Field {
   static Field DropIndex(const char* label, int32_t Dlg::* m) {
     return Bound(FieldKind::DropIndex, label, m, DDX_CBIndexOrFirst);
   }
+  // A drop-down bound by index where -1, no entry chosen, is a value of its own.
+  static Field DropIndexOrNone(const char* label, int32_t Dlg::* m) {
+    return Bound(FieldKind::DropIndex, label, m, DDX_CBIndex);
+  }
   // Bound through an accessor, for what a pointer to member cannot name (an element of a
   // member array); the drop-down shows the value less the offset.
   static Field DropIndex(const char* label, std::function<int32_t&(Dlg&)> ref, int32_t offset = 0) {

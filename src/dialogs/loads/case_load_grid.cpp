@@ -48,14 +48,14 @@ struct ColumnSpec {
   UnitOf unit = UnitOf::None;
 };
 
-ColumnSpec Ref(const char* heading, Reference r) { return {heading, Cell::Reference, 9, r}; }
+ColumnSpec Ref(const char* heading, Reference r) { return {heading, Cell::Reference, 8, r}; }
 ColumnSpec Choice(const char* heading, const std::vector<std::string>& items, int defaultItem) {
-  return {heading, Cell::Choice, 9, Reference::Node, &items, defaultItem};
+  return {heading, Cell::Choice, 8, Reference::Node, &items, defaultItem};
 }
-ColumnSpec Value(const char* heading, UnitOf unit, double width = 18) {
+ColumnSpec Value(const char* heading, UnitOf unit, double width = 17) {
   return {heading, Cell::Real, width, Reference::Node, nullptr, 0, unit};
 }
-ColumnSpec RatioColumn(const char* heading) { return {heading, Cell::Ratio, 11}; }
+ColumnSpec RatioColumn(const char* heading) { return {heading, Cell::Ratio, 9}; }
 
 std::string UnitHeading(const ColumnSpec& c, const fmUnit& u) {
   const auto either = [&](fmUnit::Quantity a, fmUnit::Quantity b) {
@@ -458,7 +458,7 @@ class Table final : public LoadTable {
       for (Record& r : Collect<K>(caseLoads[c])) filled_.push_back({static_cast<int>(c), std::move(r)});
     }
     const int rows = static_cast<int>(filled_.size());
-    std::vector<double> widths = {7, 24};
+    std::vector<double> widths = {7, 18};
     for (const ColumnSpec& c : columns_) widths.push_back(c.width);
     grid::InitializeGrid(sheet, alternateRowColor, rows, ColumnCount(), Headers(units), widths, lockAll);
     SetUp(sheet, lists);

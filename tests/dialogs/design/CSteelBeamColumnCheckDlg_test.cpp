@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "dialogs/design/SectionsDialogTest.h"
+#include "dialogs/frame/Form.h"
 #include "resources/design_ids.h"
 #include "resources/sections_ids.h"
 #include "support/files.h"
@@ -16,6 +17,18 @@
 namespace {
 
 using namespace res;
+
+// The check's fields, found by the members they show.
+using Check = CSteelBeamColumnCheckDlg;
+const int kCtlSteelSection = frame::IdOf(&Check::m_strSectionName);
+const int kCtlSteelFy = frame::IdOf(&Check::m_dFy);
+const int kCtlSteelLength = frame::IdOf(&Check::m_dLength);
+const int kCtlSteelLux = frame::IdOf(&Check::m_dLux);
+const int kCtlSteelKz = frame::IdOf(&Check::m_dKz);
+const int kCtlSteelLb = frame::IdOf(&Check::m_dLb);
+const int kCtlSteelCb = frame::IdOf(&Check::m_dCb);
+const int kCtlSteelConnector = frame::IdOf(&Check::m_dConnectorDistance);
+const int kCtlSteelMagnify = frame::IdOf(&Check::m_bConsiderMomentMagnification);
 
 // Receives what QDesktopServices::openUrl would hand to the desktop.
 class UrlCatcher : public QObject {
