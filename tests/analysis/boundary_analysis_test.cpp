@@ -44,17 +44,20 @@ constexpr double kSwayMoment = 3.0 * 29000 * 1000 / (120.0 * 120) / 12;
 TEST(BoundaryAnalysis, ARigidDiaphragmCarriesThePushToTheOtherColumn) {
   model::ModelDocument doc = Parse(TwoColumns(R"(, "diaphragms": [{"id": 1, "master": 2, "level": 10}])"));
   analysis::AnalyseDocument(doc, {});
-  EXPECT_NEAR(doc.results.results[0].displacements[3].v[0], 1.0, 1e-9);  // node 4 follows node 2
-  EXPECT_NEAR(ReactionAt(doc, 3).v[0], -kSwayShear, 1e-6 * kSwayShear);
-  EXPECT_NEAR(std::abs(ReactionAt(doc, 3).v[5]), kSwayMoment, 1e-6 * kSwayMoment);
+  // Ties are penalties ten thousand times stiffer than what they tie: rigid to about 1e-4.
+  EXPECT_NEAR(doc.results.results[0].displacements[3].v[0], 1.0, 2e-4);  // node 4 follows node 2
+  EXPECT_NEAR(ReactionAt(doc, 3).v[0], -kSwayShear, 2e-4 * kSwayShear);
+  EXPECT_NEAR(std::abs(ReactionAt(doc, 3).v[5]), kSwayMoment, 2e-4 * kSwayMoment);
+  // What the pushed top takes, the two bases give back.
+  EXPECT_NEAR(ReactionAt(doc, 1).v[0] + ReactionAt(doc, 3).v[0] + ReactionAt(doc, 2).v[0], 0.0, 1e-9 * kSwayShear);
 }
 
 TEST(BoundaryAnalysis, AConstraintTiesTheTwoDegreesOfFreedom) {
   model::ModelDocument doc =
       Parse(TwoColumns(R"(, "constraints": [{"id": 1, "node1": 2, "dof1": "X", "node2": 4, "dof2": "X"}])"));
   analysis::AnalyseDocument(doc, {});
-  EXPECT_NEAR(doc.results.results[0].displacements[3].v[0], 1.0, 1e-9);
-  EXPECT_NEAR(ReactionAt(doc, 3).v[0], -kSwayShear, 1e-6 * kSwayShear);
+  EXPECT_NEAR(doc.results.results[0].displacements[3].v[0], 1.0, 2e-4);
+  EXPECT_NEAR(ReactionAt(doc, 3).v[0], -kSwayShear, 2e-4 * kSwayShear);
 }
 
 TEST(BoundaryAnalysis, WithoutTiesTheOtherColumnStaysAndAPinnedEndCarriesNoMoment) {

@@ -2,7 +2,6 @@
 
 #include <QFrame>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 

@@ -17,7 +17,11 @@ frame::Form<CShapeBrowserDlg> CShapeBrowserDlg::BrowserForm(int templateId, cons
   return frame::Form<CShapeBrowserDlg>(
       {.templateId = templateId, .caption = caption, .minWidth = 860, .minHeight = 480, .stretchColumn = false},
       {
-          F::Drop("Shape type:").Id(kCtlShapeType),
+          F::Drop("Shape type:").Id(kCtlShapeType).Items([](const CShapeBrowserDlg& d) {
+            std::vector<std::string> types{res::LoadStringOr(kStrShapeAllTypes, "All types")};
+            for (std::string& t : d.TypeNames()) types.push_back(std::move(t));
+            return types;
+          }),
           F::Text("Find:", &CShapeBrowserDlg::m_strFind).Id(kCtlShapeFind),
           F::List("").Id(kCtlShapeList).Span(2).Stretch(kStretchRow),
           F::Static("").Id(kCtlShapeCount).Span(2),
@@ -34,8 +38,8 @@ CShapeBrowserDlg::CShapeBrowserDlg(const frame::FormBase& form, QWidget* pParent
 }
 
 BOOL CShapeBrowserDlg::OnInitDialog() {
-  CDialog::OnInitDialog();
   LoadTable();
+  CDialog::OnInitDialog();
   if (!picture_) {
     picture_ = new SectionPicture(this);
     picture_->CreateInPlace(this, res::kCtlShapePicture);
@@ -44,12 +48,6 @@ BOOL CShapeBrowserDlg::OnInitDialog() {
     tree->setColumnCount(3);
     tree->header()->setStretchLastSection(false);
     tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  }
-  if (auto* combo = Item<QComboBox>(res::kCtlShapeType)) {
-    combo->clear();
-    combo->addItem(QString::fromStdString(res::LoadStringOr(res::kStrShapeAllTypes, "All types")));
-    for (const std::string& t : TypeNames()) combo->addItem(QString::fromStdString(t));
-    combo->setCurrentIndex(0);
   }
   if (m_nSelectedShape < 0 || m_nSelectedShape >= TableSize()) m_nSelectedShape = FindLabel(m_strShapeName);
   RefillList();

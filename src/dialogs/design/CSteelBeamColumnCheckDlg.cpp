@@ -1,9 +1,7 @@
 #include "dialogs/design/CSteelBeamColumnCheckDlg.h"
 
 #include <QAbstractItemModel>
-#include <QComboBox>
 #include <QDesktopServices>
-#include <QLineEdit>
 #include <QSettings>
 #include <QTableView>
 #include <QUrl>
@@ -134,19 +132,11 @@ design::SteelMember CSteelBeamColumnCheckDlg::Member() const {
   return m;
 }
 
-void CSteelBeamColumnCheckDlg::Fail(int controlId, const std::string& message) {
-  MessageBox(message);
-  if (auto* edit = Item<QLineEdit>(controlId)) {
-    edit->setFocus();
-    edit->selectAll();
-  }
-}
-
 bool CSteelBeamColumnCheckDlg::CheckGeometryAndMaterial() {
   const auto failure = design::CheckGeometryAndMaterial(Member());
   if (!failure) return true;
   for (const RealField& f : kRealFields)
-    if (f.field == failure->field) Fail(frame::IdOf(f.member), failure->message);
+    if (f.field == failure->field) FailOn(frame::IdOf(f.member), failure->message);
   return false;
 }
 

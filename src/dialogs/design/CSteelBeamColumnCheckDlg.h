@@ -60,7 +60,6 @@ class CSteelBeamColumnCheckDlg : public CDialog {
   // The load sets of the grid (rows 1 to the last used one, at least one); false after a
   // refused cell, whose message was shown.
   bool ReadLoads(std::vector<design::SteelLoadSet>& loads);
-  void Fail(int controlId, const std::string& message);
 
   bool writingResults_ = false;
 };

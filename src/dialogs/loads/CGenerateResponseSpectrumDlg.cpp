@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
-#include <QLineEdit>
 #include <QVBoxLayout>
 #include <optional>
 

@@ -1,7 +1,6 @@
 #include "dialogs/loads/CResponseSpectrumAnalysisDlg.h"
 
 #include <QComboBox>
-#include <QLineEdit>
 
 #include "dialogs/frame/Form.h"
 #include "dialogs/loads/CResponseSpectraDlg.h"
@@ -84,12 +83,11 @@ BOOL CResponseSpectrumAnalysisDlg::OnInitDialog() {
 }
 
 void CResponseSpectrumAnalysisDlg::FillSpectra() {
+  std::vector<std::string> names;
+  for (const fmResponseSpectrum& s : spectra_) names.push_back(s.name);
   for (int d = 0; d < 3; ++d) {
-    auto* combo = Item<QComboBox>(kCtlRsaSpectrumX + d);
-    if (!combo) continue;
-    combo->clear();
-    for (const fmResponseSpectrum& s : spectra_) combo->addItem(QString::fromStdString(s.name));
-    combo->setCurrentIndex(this->*kSpectrum[d]);
+    SetComboItems(kCtlRsaSpectrumX + d, names);
+    if (auto* combo = Item<QComboBox>(kCtlRsaSpectrumX + d)) combo->setCurrentIndex(this->*kSpectrum[d]);
   }
 }
 
