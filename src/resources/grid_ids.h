@@ -9,6 +9,8 @@ inline constexpr int kCtlNewRowCount = 8050;
 inline constexpr int kCtlNewRows = 8006;
 inline constexpr int kCtlPrint = 8005;
 inline constexpr int kCtlSave = 8009;
+// A grid dialog's own editing button that a read-only grid disables with the new-row controls.
+inline constexpr int kCtlGridEditAction = 8082;
 
 // Their texts.
 inline constexpr int kStrPrint = 1138;

@@ -11,13 +11,6 @@
 namespace matgrid {
 namespace {
 
-// A cell still showing a candidate's value keeps that value's full precision.
-std::optional<double> CellValue(const std::string& text, std::initializer_list<const double*> candidates) {
-  for (const double* c : candidates)
-    if (c && std::isfinite(*c) && text == tools::FormatG(*c)) return *c;  // "inf" is no value to keep
-  return tools::ParseDouble(text);
-}
-
 int RowId(const grid::Sheet& sheet, int row) { return static_cast<int>(sheet.GetInt(kId, row).value_or(row)); }
 
 grid::GridFailure Failure(std::string message, int row) { return {std::move(message), {1, row}}; }
@@ -96,7 +89,7 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmMat> old, const std:
       m.fys = chosen->fys;
     }
     const auto value = [&](int col, double fmMat::*field) {
-      return CellValue(sheet.GetData(col, row),
+      return grid::ReadReal(sheet.GetData(col, row),
                        {chosen ? &(chosen->*field) : nullptr, previous ? &(previous->*field) : nullptr});
     };
     const auto E = value(kE, &fmMat::E), nu = value(kNu, &fmMat::nu), density = value(kDensity, &fmMat::density),
@@ -168,7 +161,7 @@ ReadResult ReadStrengths(const grid::Sheet& sheet, StrengthKind kind, std::span<
     const fmMat& before = materials[static_cast<size_t>(row - 1)];
     const int id = RowId(sheet, row);
     const auto cell = [&](int col, double fmMat::*field) {
-      return CellValue(sheet.GetData(col, row), {&(before.*field)});
+      return grid::ReadReal(sheet.GetData(col, row), {&(before.*field)});
     };
     if (kind == kConcrete) {
       const auto fc = cell(3, &fmMat::fc), fy = cell(4, &fmMat::fy), fys = cell(5, &fmMat::fys);

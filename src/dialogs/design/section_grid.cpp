@@ -110,12 +110,10 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmSect> filled) {
     for (const auto& v : kValues) {
       const std::string& text = sheet.GetData(v.col, row);
       std::optional<double> value;
-      if (original && text == tools::FormatG((*original).*v.field))
-        value = (*original).*v.field;  // unchanged: keep the record's full precision
-      else if (MayBeEmpty(v.col) && tools::Trim(text).empty())
+      if (MayBeEmpty(v.col) && tools::Trim(text).empty())
         value = 0.0;
       else
-        value = tools::ParseDouble(text);
+        value = grid::ReadReal(text, original ? &((*original).*v.field) : nullptr);
       if (rigid) {
         if (!value || *value != 0)
           return fail(row, tools::Format("%s section must have zero for every section property.", kRigidLinkLabel));

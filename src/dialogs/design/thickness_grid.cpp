@@ -41,12 +41,8 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmThick> filled) {
     if (const std::string rule = tools::IsValidLabel(label); !rule.empty())
       return fail("Thickness label can only " + rule);
     const std::string& text = sheet.GetData(kThickness, row);
-    std::optional<double> value;
-    if (row <= static_cast<int>(filled.size()) &&
-        text == tools::FormatG(filled[static_cast<size_t>(row - 1)].thickness))
-      value = filled[static_cast<size_t>(row - 1)].thickness;
-    else
-      value = tools::ParseDouble(text);
+    const std::optional<double> value = grid::ReadReal(
+        text, row <= static_cast<int>(filled.size()) ? &filled[static_cast<size_t>(row - 1)].thickness : nullptr);
     if (!value || !(*value > 0))
       return fail(
           tools::Format("Invalid input for thickness %d.", static_cast<int>(sheet.GetInt(kId, row).value_or(row))));

@@ -17,7 +17,7 @@ BOOL CDataGridDlg::OnInitDialog() {
   m_Spread.CreateInPlace(this, res::kCtlGridPlaceholder, res::kCtlGrid);
   if (QWidget* count = GetDlgItem(res::kCtlNewRowCount)) count->installEventFilter(this);
   Refresh();
-  ApplyGridEditLock(m_bShowSelectedOnly, m_bModelLocked);
+  ApplyGridEditLock(m_bShowSelectedOnly, m_bModelLocked, EditLock());
   return 1;
 }
 

@@ -24,8 +24,13 @@ class CDataGridDlg : public CDialog {
  protected:
   CDataGridDlg(int templateId, QWidget* pParent);
 
-  // Order: captions, the grid in place, Refresh, the locked-model guard.
+  // What the tables whose guard says only that the model is locked show.
+  static constexpr const char* kModelLockedShort = "The Model is locked.\nYou can not modify data in the spreadsheet.";
+
+  // Order: captions, the grid in place, Refresh, the locked-model guard with EditLock().
   BOOL OnInitDialog() override;
+  // How this table turns read-only; the standard guard unless a table differs.
+  virtual GridEditLock EditLock() const { return {}; }
   void DoDataExchange(CDataExchange* pDX) override;
   void OnOK() override;
 

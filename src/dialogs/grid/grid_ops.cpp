@@ -202,4 +202,14 @@ std::vector<std::vector<std::string>> ParseTabSeparated(const std::string& text)
   return rows;
 }
 
+std::optional<double> ReadReal(std::string_view text, const double* original) {
+  return ReadReal(text, {original});
+}
+
+std::optional<double> ReadReal(std::string_view text, std::initializer_list<const double*> originals) {
+  for (const double* original : originals)
+    if (original && std::isfinite(*original) && text == tools::FormatG(*original)) return *original;
+  return tools::ParseDouble(text);
+}
+
 }  // namespace grid

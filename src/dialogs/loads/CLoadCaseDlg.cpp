@@ -1,7 +1,6 @@
 #include "dialogs/loads/CLoadCaseDlg.h"
 
 #include "dialogs/loads/load_grids.h"
-#include "dialogs/loads/load_messages.h"
 #include "resources/grid_ids.h"
 #include "resources/ids.h"
 #include "resources/loads_ids.h"
@@ -13,19 +12,14 @@ CLoadCaseDlg::CLoadCaseDlg(QWidget* pParent) : CDataGridDlg(kIddLoadCase, pParen
   OnCommand(kCtlCaseDeleteRows, [this] { OnDeleteRows(); });
 }
 
-BOOL CLoadCaseDlg::OnInitDialog() {
-  // The data-grid set-up without its locked-model guard: this table has its own wording,
-  // and OK itself reads "Close".
-  CDialog::OnInitDialog();
-  m_Spread.CreateInPlace(this, kCtlGridPlaceholder, kCtlGrid);
-  Refresh();
-  if (IsReadOnly()) {
-    for (int id : {kCtlNewRowCount, kCtlNewRows, kCtlCaseDeleteRows}) EnableDlgItem(id, false);
-    SetDlgItemText(IDOK, LoadStringOr(kStrClose, "Close"));
-    ShowDlgItem(IDCANCEL, false);
-    MessageBox(loads::kMsgModelLocked, MessageIcon::Information);
-  }
-  return 1;
+GridEditLock CLoadCaseDlg::EditLock() const {
+  // OK itself reads "Close" here, and Cancel goes.
+  GridEditLock how;
+  how.disable = {kCtlNewRowCount, kCtlNewRows, kCtlCaseDeleteRows};
+  how.closeButton = IDOK;
+  how.hideCancel = true;
+  how.message = kModelLockedShort;
+  return how;
 }
 
 void CLoadCaseDlg::Refresh() {

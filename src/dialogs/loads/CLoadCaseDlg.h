@@ -17,7 +17,7 @@ class CLoadCaseDlg : public CDataGridDlg {
   std::vector<fmCaseLoad>* m_pCaseLoads = nullptr;
 
  protected:
-  BOOL OnInitDialog() override;
+  GridEditLock EditLock() const override;
   void OnOK() override;
   void Refresh() override;
   bool Save() override;

@@ -137,9 +137,7 @@ class ReferenceColumn {
 // the six digits shown.
 std::optional<double> ReadAngle(const std::string& text, const double* original) {
   if (tools::Trim(text).empty()) return 0.0;
-  const auto value = tools::ParseDouble(text);
-  if (original && ((value && *value == *original) || text == tools::FormatG(*original))) return *original;
-  return value;
+  return grid::ReadReal(text, original);
 }
 
 template <size_t N>

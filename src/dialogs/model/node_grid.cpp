@@ -76,15 +76,8 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmNd> filled) {
     double* coords[] = {&nd.x, &nd.y, &nd.z};
     for (int axis = 0; axis < 3; ++axis) {
       const std::string& text = sheet.GetData(kX + axis, row);
-      // A cell left as it was filled keeps the node's full precision, not the six digits shown.
-      if (row <= filledRows) {
-        const double original = axis == 0 ? filled[row - 1].x : axis == 1 ? filled[row - 1].y : filled[row - 1].z;
-        if (std::isfinite(original) && text == tools::FormatG(original)) {
-          *coords[axis] = original;
-          continue;
-        }
-      }
-      const auto v = tools::ParseDouble(text);
+      const fmNd* before = row <= filledRows ? &filled[row - 1] : nullptr;
+      const auto v = grid::ReadReal(text, before ? (axis == 0 ? &before->x : axis == 1 ? &before->y : &before->z) : nullptr);
       if (!v) {
         result.failure = grid::GridFailure{
             tools::Format("Invalid input for node %u.\n%s must be a number, not \"%s\".", nd.id, kAxisNames[axis],

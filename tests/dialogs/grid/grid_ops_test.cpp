@@ -1,5 +1,6 @@
 #include "dialogs/grid/grid_ops.h"
 
+#include <limits>
 #include <gtest/gtest.h>
 
 #include "dialogs/grid/grid_edit.h"
@@ -144,4 +145,18 @@ TEST(CopyPaste, BlockRoundTripsThroughTabSeparatedText) {
   EXPECT_EQ(grid::ApplyWrites(target, plan.writes), 5);
   EXPECT_EQ(Column(target, 2), (std::vector<std::string>{"", "plain", "tab\tinside"}));
   EXPECT_EQ(target.GetData(3, 2), "locked") << "locked cells are skipped";
+}
+
+TEST(ReadReal, ACellLeftAsFilledKeepsFullPrecisionAnEditedOneIsParsed) {
+  const double stored = 512345.678;
+  EXPECT_EQ(grid::ReadReal("512346", &stored), stored);  // the six digits the grid shows
+  EXPECT_EQ(grid::ReadReal("512346.5", &stored), 512346.5);
+  EXPECT_EQ(grid::ReadReal("512346", nullptr), 512346.0);  // a new row has no original
+  const double third = 1.0 / 3.0, other = 2.0;
+  EXPECT_EQ(grid::ReadReal("0.333333", {&other, &third}), third);
+  EXPECT_FALSE(grid::ReadReal("", &stored));
+  EXPECT_FALSE(grid::ReadReal("abc", &stored));
+  // An infinite original left in place is no value to keep.
+  const double inf = std::numeric_limits<double>::infinity();
+  EXPECT_FALSE(grid::ReadReal("inf", &inf));
 }
