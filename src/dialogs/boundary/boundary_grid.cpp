@@ -109,9 +109,7 @@ class RowIn {
   bool Empty(int col) const { return Text(col).empty(); }
   // A text left as it was shown for the original value keeps that value's full precision.
   double Real(int col, const double* original) const {
-    const std::string& text = sheet_.GetData(col, row_);
-    if (original && std::isfinite(*original) && text == tools::FormatG(*original)) return *original;
-    const auto v = tools::ParseDouble(text);
+    const auto v = grid::ReadReal(sheet_.GetData(col, row_), original);
     if (!v) throw Refusal{col, tools::Format("%s must be a number, not \"%s\".", Name(col).c_str(), Text(col).c_str())};
     return *v;
   }
