@@ -216,7 +216,13 @@ void ReadCurrent(const JsonReader& root, ModelDocument& doc, const Known& known)
   }
 }
 
-// The copies an older "results" section kept; see the top of this file.
+template <size_t N>
+bool Finite(const std::array<double, N>& values) {
+  return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+}
+
+// The copies an older "results" section kept; see the top of this file. A copy too large for
+// the model's units is left out like one that does not fit.
 void TakeOverResultCopies(const JsonReader& root, ModelDocument& doc, const Known& known) {
   if (!root.Has("results")) return;
   const JsonReader results = root.Member("results");
@@ -251,7 +257,7 @@ void TakeOverResultCopies(const JsonReader& root, ModelDocument& doc, const Know
       if (!s.RestrainsAnything()) return;
       for (size_t k = 0; k < 6; ++k)
         if (s.restrained[k]) s.displacement[k] = values[k] * f[k < 3 ? fmUnit::Displacement : fmUnit::Rotation];
-      doc.supports.push_back(s);
+      if (Finite(s.displacement)) doc.supports.push_back(s);
     });
   }
   if (!root.Has("nodalSprings")) {
@@ -264,7 +270,7 @@ void TakeOverResultCopies(const JsonReader& root, ModelDocument& doc, const Know
       if (!at || !done.insert(*at).second) return;
       s.node = *at;
       for (size_t k = 0; k < 6; ++k) s.k[k] *= f[k < 3 ? fmUnit::NodeSpring : fmUnit::NodeRotationalSpring];
-      doc.nodalSprings.push_back(s);
+      if (Finite(s.k)) doc.nodalSprings.push_back(s);
     });
   }
   if (!root.Has("coupledSprings")) {
@@ -277,7 +283,7 @@ void TakeOverResultCopies(const JsonReader& root, ModelDocument& doc, const Know
       if (!at || !done.insert(*at).second) return;
       s.node = *at;
       for (int t = 0; t < fmCoupledSpring::kTermCount; ++t) s.k[static_cast<size_t>(t)] *= CoupledTermFactor(t, f);
-      doc.coupledSprings.push_back(s);
+      if (Finite(s.k)) doc.coupledSprings.push_back(s);
     });
   }
   if (!root.Has("driftNodes")) {
