@@ -9,7 +9,6 @@ extern const ResourceTable kModelResources;
 extern const ResourceTable kBoundaryResources;
 extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
-extern const ResourceTable kGeometryResources;
 extern const ResourceTable kSectionsResources;
 extern const ResourceTable kResultsResources;
 extern const ResourceTable kSpectraResources;
@@ -22,7 +21,6 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kModelResources,
       &kBoundaryResources,
       &kDesignResources,
-      &kGeometryResources,
       &kSectionsResources,
       &kLoadsResources,
       &kResultsResources,

@@ -112,6 +112,7 @@ void FormBase::Publish() const {
 
   std::map<int, Container> containers;  // by group id; 0 is the dialog body
   int group = 0, sideButtons = 0;
+  std::vector<int> outerGroups;  // a group box may hold another
   // One row of the template; labelled fields note their columns for the stretch.
   auto add = [&](res::Control c, bool labelled) {
     out.push_back(c);
@@ -121,16 +122,19 @@ void FormBase::Publish() const {
 
   for (const FieldLayout& f : layouts_) {
     if (f.kind == FK::EndGroup) {
-      group = 0;
+      group = outerGroups.empty() ? 0 : outerGroups.back();
+      if (!outerGroups.empty()) outerGroups.pop_back();
       continue;
     }
     const int span = f.colSpan;
     if (f.kind == FK::Group) {
-      Container& body = containers[0];
-      const int row = f.row == kNextRow ? body.nextRow : f.row;
-      out.push_back({f.id, res::Kind::Group, f.stringId, f.text, row, f.col, f.rowSpan, std::max(span, 1), 0, f.flags});
-      body.nextRow = std::max(body.nextRow, row + f.rowSpan);
+      Container& outer = containers[group];
+      const int row = f.row == kNextRow ? outer.nextRow : f.row;
+      out.push_back(
+          {f.id, res::Kind::Group, f.stringId, f.text, row, f.col, f.rowSpan, std::max(span, 1), group, f.flags});
+      outer.nextRow = std::max(outer.nextRow, row + f.rowSpan);
       addString(f.stringId, f.text);
+      outerGroups.push_back(group);
       group = f.id;
       continue;
     }

@@ -23,7 +23,7 @@ enum class FieldKind : uint8_t {
   DropIndex, DropText,    // drop-down bound by index or by text
   CheckList, List, Report,
   Folder, Font, Progress, Grid, Button, Static,
-  Group, EndGroup,        // the fields between them are laid out inside the group box
+  Group, EndGroup,        // the fields between them are laid out inside the group box (which may hold another)
 };
 
 // A field without a row of its own goes below the previous one in its group; a button
