@@ -292,12 +292,15 @@ GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& acti
       double own = 0;
       for (const auto& [dof, coefficient] : c)
         if (coefficient != 0) own = std::max(own, std::abs(untied[dof]) / (coefficient * coefficient));
-      AddPenalty(k, c, kPenaltyFactor * (own > 0 ? own : std::max(largest, 1.0)));
+      const double alpha = kPenaltyFactor * (own > 0 ? own : std::max(largest, 1.0));
+      AddPenalty(k, c, alpha);
+      return alpha;
     };
     for (const Constraint& c : model.constraints) {
       CheckNode(model, c.nodes[0], "A constraint");
       CheckNode(model, c.nodes[1], "A constraint");
-      tie({{GlobalDof(c.nodes[0], c.dofs[0]), 1.0}, {GlobalDof(c.nodes[1], c.dofs[1]), -1.0}});
+      out.constraintPenalty.push_back(
+          tie({{GlobalDof(c.nodes[0], c.dofs[0]), 1.0}, {GlobalDof(c.nodes[1], c.dofs[1]), -1.0}}));
     }
     for (const Diaphragm& d : model.diaphragms) {
       if (d.nodes.empty()) continue;

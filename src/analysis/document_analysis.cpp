@@ -404,6 +404,17 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
       cr.lineSpringReactions.push_back(Record(static_cast<int32_t>(m.members[m.lineSprings[k].member].id), r.lineSprings[k], s));
     for (size_t k = 0; k < m.surfaceSprings.size() && k < r.surfaceSprings.size(); ++k)
       cr.surfaceSpringReactions.push_back(Record(static_cast<int32_t>(m.shells[m.surfaceSprings[k].shell].id), r.surfaceSprings[k], s));
+    for (size_t k = 0; k < m.constraints.size() && k < r.constraints.size(); ++k) {
+      const Constraint& c = m.constraints[k];
+      fmConstraintForce f;
+      f.id = static_cast<int32_t>(c.id);
+      for (size_t end = 0; end < 2; ++end) {
+        f.node[end] = static_cast<int32_t>(m.nodes[c.nodes[end]].id);
+        f.dof[end] = c.dofs[end];
+        f.value[end] = r.constraints[k][end] / s.Action(c.dofs[end]);
+      }
+      cr.constraintForces.push_back(f);
+    }
     if (isCase || !superposes) WriteElementResults(m, r.displacement, r.terms, r.activeMembers, doc.units, stations, cr);
     out.results.push_back(std::move(cr));
   }

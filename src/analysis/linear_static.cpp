@@ -98,6 +98,14 @@ void Recover(const Model& model, const GlobalStiffness& k, StaticResult& r) {
       for (int d = 0; d < 3; ++d) f[static_cast<size_t>(d)] -= half * s.k[static_cast<size_t>(d)] * u[static_cast<Eigen::Index>(GlobalDof(node, d))];
     r.lineSprings.push_back(f);
   }
+  r.constraints.clear();
+  for (size_t i = 0; i < model.constraints.size() && i < k.constraintPenalty.size(); ++i) {
+    const Constraint& c = model.constraints[i];
+    const double stretch = u[static_cast<Eigen::Index>(GlobalDof(c.nodes[0], c.dofs[0]))] -
+                           u[static_cast<Eigen::Index>(GlobalDof(c.nodes[1], c.dofs[1]))];
+    const double force = k.constraintPenalty[i] * stretch;
+    r.constraints.push_back({-force, force});
+  }
   r.surfaceSprings.clear();
   for (const SurfaceSpring& s : model.surfaceSprings) {
     const Shell& sh = model.shells.at(s.shell);

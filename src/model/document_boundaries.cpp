@@ -99,43 +99,31 @@ std::string FlagText(const std::array<bool, 6>& flags) {
   return text;
 }
 
+// A spring section: the object it stands at (one spring of the kind per object) and its
+// stiffnesses `k`.
+template <class Spring>
+void ReadSprings(const JsonReader& root, const char* key, std::vector<Spring>& out, uint32_t Spring::*object,
+                 const char* objectKey, const std::unordered_set<uint32_t>& ids, const char* table, const char* what) {
+  OnePerObject seen(key, objectKey);
+  ReadSection(root, key, out, [&](const JsonReader& item) {
+    item.RequireObject();
+    Spring s;
+    s.*object = Reference(item, objectKey, ids, table);
+    seen.Take(item, objectKey, s.*object, out.size());
+    Numbers(item, "k", s.k, what);
+    return s;
+  });
+}
+
 void ReadCurrent(const JsonReader& root, ModelDocument& doc, const Known& known) {
-  OnePerObject springNodes("nodalSprings", "node");
-  ReadSection(root, "nodalSprings", doc.nodalSprings, [&](const JsonReader& item) {
-    item.RequireObject();
-    fmNodalSpring s;
-    s.node = Reference(item, "node", known.nodes, "nodes");
-    springNodes.Take(item, "node", s.node, doc.nodalSprings.size());
-    Numbers(item, "k", s.k, "Kx, Ky, Kz, Kox, Koy, Koz");
-    return s;
-  });
-  OnePerObject coupledNodes("coupledSprings", "node");
-  ReadSection(root, "coupledSprings", doc.coupledSprings, [&](const JsonReader& item) {
-    item.RequireObject();
-    fmCoupledSpring s;
-    s.node = Reference(item, "node", known.nodes, "nodes");
-    coupledNodes.Take(item, "node", s.node, doc.coupledSprings.size());
-    Numbers(item, "k", s.k, "the upper triangle of the 6x6 stiffness, row by row");
-    return s;
-  });
-  OnePerObject springMembers("lineSprings", "member");
-  ReadSection(root, "lineSprings", doc.lineSprings, [&](const JsonReader& item) {
-    item.RequireObject();
-    fmLineSpring s;
-    s.member = Reference(item, "member", known.members, "members");
-    springMembers.Take(item, "member", s.member, doc.lineSprings.size());
-    Numbers(item, "k", s.k, "Kx, Ky, Kz");
-    return s;
-  });
-  OnePerObject springShells("surfaceSprings", "shell");
-  ReadSection(root, "surfaceSprings", doc.surfaceSprings, [&](const JsonReader& item) {
-    item.RequireObject();
-    fmSurfaceSpring s;
-    s.shell = Reference(item, "shell", known.shells, "shells");
-    springShells.Take(item, "shell", s.shell, doc.surfaceSprings.size());
-    Numbers(item, "k", s.k, "Kx, Ky, Kz");
-    return s;
-  });
+  ReadSprings(root, "nodalSprings", doc.nodalSprings, &fmNodalSpring::node, "node", known.nodes, "nodes",
+              "Kx, Ky, Kz, Kox, Koy, Koz");
+  ReadSprings(root, "coupledSprings", doc.coupledSprings, &fmCoupledSpring::node, "node", known.nodes, "nodes",
+              "the upper triangle of the 6x6 stiffness, row by row");
+  ReadSprings(root, "lineSprings", doc.lineSprings, &fmLineSpring::member, "member", known.members, "members",
+              "Kx, Ky, Kz");
+  ReadSprings(root, "surfaceSprings", doc.surfaceSprings, &fmSurfaceSpring::shell, "shell", known.shells, "shells",
+              "Kx, Ky, Kz");
   OnePerObject releasedMembers("releases", "member");
   ReadSection(root, "releases", doc.releases, [&](const JsonReader& item) {
     item.RequireObject();
@@ -216,7 +204,13 @@ void ReadCurrent(const JsonReader& root, ModelDocument& doc, const Known& known)
   }
 }
 
-// The copies an older "results" section kept; see the top of this file.
+template <size_t N>
+bool Finite(const std::array<double, N>& values) {
+  return std::all_of(values.begin(), values.end(), [](double v) { return std::isfinite(v); });
+}
+
+// The copies an older "results" section kept; see the top of this file. A copy too large for
+// the model's units is left out like one that does not fit.
 void TakeOverResultCopies(const JsonReader& root, ModelDocument& doc, const Known& known) {
   if (!root.Has("results")) return;
   const JsonReader results = root.Member("results");
@@ -251,7 +245,7 @@ void TakeOverResultCopies(const JsonReader& root, ModelDocument& doc, const Know
       if (!s.RestrainsAnything()) return;
       for (size_t k = 0; k < 6; ++k)
         if (s.restrained[k]) s.displacement[k] = values[k] * f[k < 3 ? fmUnit::Displacement : fmUnit::Rotation];
-      doc.supports.push_back(s);
+      if (Finite(s.displacement)) doc.supports.push_back(s);
     });
   }
   if (!root.Has("nodalSprings")) {
@@ -264,7 +258,7 @@ void TakeOverResultCopies(const JsonReader& root, ModelDocument& doc, const Know
       if (!at || !done.insert(*at).second) return;
       s.node = *at;
       for (size_t k = 0; k < 6; ++k) s.k[k] *= f[k < 3 ? fmUnit::NodeSpring : fmUnit::NodeRotationalSpring];
-      doc.nodalSprings.push_back(s);
+      if (Finite(s.k)) doc.nodalSprings.push_back(s);
     });
   }
   if (!root.Has("coupledSprings")) {
@@ -277,7 +271,7 @@ void TakeOverResultCopies(const JsonReader& root, ModelDocument& doc, const Know
       if (!at || !done.insert(*at).second) return;
       s.node = *at;
       for (int t = 0; t < fmCoupledSpring::kTermCount; ++t) s.k[static_cast<size_t>(t)] *= CoupledTermFactor(t, f);
-      doc.coupledSprings.push_back(s);
+      if (Finite(s.k)) doc.coupledSprings.push_back(s);
     });
   }
   if (!root.Has("driftNodes")) {

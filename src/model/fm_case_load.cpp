@@ -47,16 +47,19 @@ void fmCaseLoad::Append(const fmCaseLoad& other) {
   SortLineLoads(line);
 }
 
+// Generated loads mostly come in order already: a check is cheaper than a sort.
 void SortPointLoads(std::vector<fmPtLoad>& loads) {
-  std::stable_sort(loads.begin(), loads.end(), [](const fmPtLoad& a, const fmPtLoad& b) {
+  const auto before = [](const fmPtLoad& a, const fmPtLoad& b) {
     return a.member != b.member ? a.member < b.member : a.ratio < b.ratio;
-  });
+  };
+  if (!std::is_sorted(loads.begin(), loads.end(), before)) std::stable_sort(loads.begin(), loads.end(), before);
 }
 
 void SortLineLoads(std::vector<fmLineLoad>& loads) {
-  std::stable_sort(loads.begin(), loads.end(), [](const fmLineLoad& a, const fmLineLoad& b) {
+  const auto before = [](const fmLineLoad& a, const fmLineLoad& b) {
     return a.member != b.member ? a.member < b.member : a.ratio[0] < b.ratio[0];
-  });
+  };
+  if (!std::is_sorted(loads.begin(), loads.end(), before)) std::stable_sort(loads.begin(), loads.end(), before);
 }
 
 const std::array<const char*, 6>& LoadDirectionNames() {

@@ -211,22 +211,30 @@ void CfmStruct::CalcBeamEnvelopVMD(std::vector<fmEnvelopeBmVMD>& out, const std:
   }
   if (sources.empty()) return;
 
-  // The members in the order of the first source that lists them; per source and term, the
-  // position of each member in that term's list (-1: not there).
-  std::vector<const fmBmVMD*> members;
-  {
-    std::unordered_map<int32_t, size_t> seen;
-    for (const Source& s : sources)
-      for (const auto& [list, factor] : s.terms)
-        for (const fmBmVMD& m : *list)
-          if (seen.emplace(m.number, members.size()).second) members.push_back(&m);
-  }
-  std::vector<std::vector<int32_t>> position;  // per distinct list
+  // The distinct member lists the sources read, and the members in the order of the first
+  // list that names them; per list, the position of each member in it (-1: not there).
   std::vector<const std::vector<fmBmVMD>*> lists;
   for (const Source& s : sources)
     for (const auto& [list, factor] : s.terms)
       if (std::find(lists.begin(), lists.end(), list) == lists.end()) lists.push_back(list);
-  position.resize(lists.size());
+  std::vector<const fmBmVMD*> members;
+  {
+    std::unordered_map<int32_t, size_t> seen;
+    bool indexed = false;
+    for (const std::vector<fmBmVMD>* list : lists) {
+      // Lists of one run name the same members in the same order: nothing to look up.
+      bool lined = list->size() == members.size();
+      for (size_t i = 0; lined && i < members.size(); ++i) lined = (*list)[i].number == members[i]->number;
+      if (lined) continue;
+      if (!indexed) {
+        for (size_t i = 0; i < members.size(); ++i) seen.emplace(members[i]->number, i);
+        indexed = true;
+      }
+      for (const fmBmVMD& m : *list)
+        if (seen.emplace(m.number, members.size()).second) members.push_back(&m);
+    }
+  }
+  std::vector<std::vector<int32_t>> position(lists.size());
   for (size_t l = 0; l < lists.size(); ++l) {
     const std::vector<fmBmVMD>& list = *lists[l];
     std::vector<int32_t>& pos = position[l];
@@ -243,29 +251,30 @@ void CfmStruct::CalcBeamEnvelopVMD(std::vector<fmEnvelopeBmVMD>& out, const std:
     for (size_t i = 0; i < members.size(); ++i)
       if (const auto it = at.find(members[i]->number); it != at.end()) pos[i] = it->second;
   }
-  struct Term {
-    const fmBmVMD* data;
-    const int32_t* pos;
-    double factor;
-  };
-  std::vector<std::vector<Term>> sourceTerms(sources.size());
+  // Per source, its terms as (list, factor).
+  std::vector<std::vector<std::pair<size_t, double>>> sourceTerms(sources.size());
   for (size_t s = 0; s < sources.size(); ++s)
-    for (const auto& [list, factor] : sources[s].terms) {
-      const size_t l = static_cast<size_t>(std::find(lists.begin(), lists.end(), list) - lists.begin());
-      sourceTerms[s].push_back({list->data(), position[l].data(), factor});
-    }
+    for (const auto& [list, factor] : sources[s].terms)
+      sourceTerms[s].emplace_back(static_cast<size_t>(std::find(lists.begin(), lists.end(), list) - lists.begin()),
+                                  factor);
 
   out.resize(members.size());
-  // A block of members at a time goes through every source, so the block's stations of all
-  // cases stay in the cache while the combinations are formed from them.
+  // A block of members at a time: their forces in every list are copied into one dense
+  // buffer, then every source forms its values from it while it stays in the cache.
   tools::ParallelRanges(members.size(), 2048, [&](size_t rangeBegin, size_t rangeEnd) {
-    constexpr size_t kBlock = 64;
+    constexpr size_t kBlock = 16;
+    std::vector<size_t> offset;
+    std::vector<double> buffer, value;
+    std::vector<char> present;
     for (size_t begin = rangeBegin; begin < rangeEnd; begin += kBlock) {
       const size_t end = std::min(begin + kBlock, rangeEnd);
+      const size_t count = end - begin;
+      offset.assign(count + 1, 0);
       for (size_t i = begin; i < end; ++i) {
         fmEnvelopeBmVMD& e = out[i];
         e.number = members[i]->number;
         const size_t stations = members[i]->m_VMD.size();
+        offset[i - begin + 1] = offset[i - begin] + 6 * stations;
         e.distance.resize(stations);
         e.station.resize(stations);
         for (size_t k = 0; k < stations; ++k) {
@@ -278,36 +287,44 @@ void CfmStruct::CalcBeamEnvelopVMD(std::vector<fmEnvelopeBmVMD>& out, const std:
           v.minCase.fill(kNoCase);
         }
       }
+      const size_t width = offset[count];
+      buffer.assign(lists.size() * width, 0.0);
+      present.assign(lists.size() * count, 0);
+      for (size_t l = 0; l < lists.size(); ++l)
+        for (size_t i = 0; i < count; ++i) {
+          const int32_t p = position[l][begin + i];
+          if (p < 0) continue;
+          present[l * count + i] = 1;
+          const std::vector<fmBmStation>& st = (*lists[l])[static_cast<size_t>(p)].m_VMD;
+          double* to = buffer.data() + l * width + offset[i];
+          const size_t n = std::min(st.size(), (offset[i + 1] - offset[i]) / 6);
+          for (size_t k = 0; k < n; ++k)
+            for (size_t f = 0; f < 6; ++f) to[6 * k + f] = st[k].force[f];
+        }
+      value.resize(width);
       for (size_t s = 0; s < sources.size(); ++s) {
         const int32_t c = sources[s].entry;
-        const std::vector<Term>& terms = sourceTerms[s];
-        for (size_t i = begin; i < end; ++i) {
-          fmEnvelopeBmVMD& e = out[i];
-          const size_t stations = e.station.size();
-          double value[64][6];
-          size_t done = 0;
-          // Stations in chunks, the combination's values summed term by term.
-          while (done < stations) {
-            const size_t n = std::min<size_t>(64, stations - done);
-            bool any = false;
-            for (size_t k = 0; k < n; ++k)
-              for (int f = 0; f < 6; ++f) value[k][f] = 0;
-            for (const Term& t : terms) {
-              const int32_t p = t.pos[i];
-              if (p < 0) continue;
-              const std::vector<fmBmStation>& st = t.data[p].m_VMD;
-              const size_t m = std::min(n, st.size() > done ? st.size() - done : 0);
-              any = any || m > 0;
-              for (size_t k = 0; k < m; ++k)
-                for (int f = 0; f < 6; ++f) value[k][f] += t.factor * st[done + k].force[static_cast<size_t>(f)];
-            }
-            if (any)
-              for (size_t k = 0; k < n; ++k) {
-                fmEnvelopeValue6& v = e.station[done + k];
-                for (size_t f = 0; f < 6; ++f)
-                  TakeValue(value[k][f], c, v.max[f], v.maxCase[f], v.min[f], v.minCase[f]);
-              }
-            done += n;
+        const auto& terms = sourceTerms[s];
+        std::fill(value.begin(), value.end(), 0.0);
+        for (const auto& [l, factor] : terms) {
+          const double* from = buffer.data() + l * width;
+          double* to = value.data();
+          for (size_t j = 0; j < width; ++j) to[j] += factor * from[j];
+        }
+        for (size_t i = 0; i < count; ++i) {
+          bool any = false;
+          for (const auto& [l, factor] : terms) any = any || present[l * count + i];
+          if (!any) continue;
+          fmEnvelopeBmVMD& e = out[begin + i];
+          const double* v0 = value.data() + offset[i];
+          for (size_t k = 0; k < e.station.size(); ++k) {
+            const double* val = v0 + 6 * k;
+            fmEnvelopeValue6& v = e.station[k];
+            // Most stations change nothing once a few entries are in: find that out first.
+            int reaches = 0;
+            for (size_t f = 0; f < 6; ++f) reaches |= int(val[f] >= v.max[f]) | int(val[f] <= v.min[f]);
+            if (!reaches) continue;
+            for (size_t f = 0; f < 6; ++f) TakeValue(val[f], c, v.max[f], v.maxCase[f], v.min[f], v.minCase[f]);
           }
         }
       }

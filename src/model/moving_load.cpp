@@ -73,12 +73,12 @@ bool MovingLoadGenerator::Process(const std::vector<uint32_t>& path, double step
     return false;
 
   const std::vector<bool> forward = ForwardFlags(path, direction);
-  const fmCaseLoad& caseLoad = (*m_pCaseLoads)[static_cast<size_t>(m_nCase)];
+  const Prepared prepared = Prepare((*m_pCaseLoads)[static_cast<size_t>(m_nCase)], path, lengths);
   std::vector<fmCaseLoad> loads;
   std::vector<std::string> suffixes;
   for (int i = 1; i <= static_cast<int>(count); ++i) {
     fmCaseLoad out;
-    if (!ProcessMoving(out, caseLoad, path, forward, lengths, i * step)) break;
+    if (!ProcessMoving(out, prepared, path, forward, lengths, i * step)) break;
     loads.push_back(std::move(out));
     suffixes.push_back(tools::Format("Step%d", i));
   }
@@ -87,29 +87,45 @@ bool MovingLoadGenerator::Process(const std::vector<uint32_t>& path, double step
   return true;
 }
 
-bool MovingLoadGenerator::ProcessMoving(fmCaseLoad& outCaseLoad, const fmCaseLoad& caseLoad,
-                                        const std::vector<uint32_t>& path, const std::vector<bool>& forward,
-                                        const std::vector<double>& lengths, double distance) const {
+MovingLoadGenerator::Prepared MovingLoadGenerator::Prepare(const fmCaseLoad& caseLoad,
+                                                           const std::vector<uint32_t>& path,
+                                                           const std::vector<double>& lengths) {
   std::unordered_map<uint32_t, size_t> at;  // member to its first place in the path
   at.reserve(path.size());
   for (size_t k = 0; k < path.size(); ++k) at.emplace(path[k], k);
 
-  outCaseLoad = caseLoad;
-  outCaseLoad.point.clear();
-  std::vector<std::pair<size_t, const fmPtLoad*>> onPath;
+  Prepared p;
+  p.offPath = caseLoad;
+  p.offPath.point.clear();
   for (const fmPtLoad& l : caseLoad.point) {
     const auto it = at.find(l.member);
     if (it == at.end())
-      outCaseLoad.point.push_back(l);
+      p.offPath.point.push_back(l);
     else
-      onPath.emplace_back(it->second, &l);
+      p.onPath.emplace_back(it->second, l);
   }
   // In path order, as the loads of each path member are taken in turn.
-  std::stable_sort(onPath.begin(), onPath.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  std::stable_sort(p.onPath.begin(), p.onPath.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
+  p.start.resize(path.size() + 1);
+  for (size_t k = 0; k < path.size(); ++k) p.start[k + 1] = p.start[k] + lengths[k];
+  return p;
+}
+
+bool MovingLoadGenerator::ProcessMoving(fmCaseLoad& outCaseLoad, const fmCaseLoad& caseLoad,
+                                        const std::vector<uint32_t>& path, const std::vector<bool>& forward,
+                                        const std::vector<double>& lengths, double distance) const {
+  return ProcessMoving(outCaseLoad, Prepare(caseLoad, path, lengths), path, forward, lengths, distance);
+}
+
+bool MovingLoadGenerator::ProcessMoving(fmCaseLoad& outCaseLoad, const Prepared& prepared,
+                                        const std::vector<uint32_t>& path, const std::vector<bool>& forward,
+                                        const std::vector<double>& lengths, double distance) {
+  outCaseLoad = prepared.offPath;
+  outCaseLoad.point.reserve(outCaseLoad.point.size() + prepared.onPath.size());
   bool any = false;
-  for (const auto& [k, load] : onPath) {
-    fmPtLoad moved = *load;
-    if (MoveLoadFrom(moved, k, path, forward, lengths, distance)) {
+  for (const auto& [k, load] : prepared.onPath) {
+    fmPtLoad moved = load;
+    if (MoveLoadFrom(moved, k, path, forward, lengths, distance, &prepared.start)) {
       outCaseLoad.point.push_back(moved);
       any = true;
     }
@@ -128,11 +144,11 @@ bool MovingLoadGenerator::MoveLoad(fmPtLoad& ptLoad, const std::vector<uint32_t>
 
 bool MovingLoadGenerator::MoveLoadFrom(fmPtLoad& ptLoad, size_t k, const std::vector<uint32_t>& path,
                                        const std::vector<bool>& forward, const std::vector<double>& lengths,
-                                       double distance) {
+                                       double distance, const std::vector<double>* start) {
   if (path.empty()) return false;
   double r = ptLoad.ratio;
   double d = distance;
-  for (;;) {
+  for (int walked = 0;; ++walked) {
     const double length = lengths[k];
     const double ahead = forward[k] ? (1 - r) * length : r * length;
     if (ahead >= d) {
@@ -145,6 +161,17 @@ bool MovingLoadGenerator::MoveLoadFrom(fmPtLoad& ptLoad, size_t k, const std::ve
     d -= ahead;
     ++k;
     r = forward[k] ? 0.0 : 1.0;
+    // A load travelling far passes whole members: the first member whose end lies at least d
+    // beyond the start of member k is found by halving.
+    if (start && walked >= 4) {
+      const double target = (*start)[k] + d;
+      if (target > start->back()) return false;
+      const auto end = std::lower_bound(start->begin() + static_cast<std::ptrdiff_t>(k) + 1, start->end(), target);
+      const size_t j = static_cast<size_t>(end - start->begin()) - 1;
+      d = target - (*start)[j];
+      k = j;
+      r = forward[k] ? 0.0 : 1.0;
+    }
   }
 }
 

@@ -24,9 +24,23 @@ class MovingLoadGenerator : public LoadGenerator {
   // Moves one load by `distance` along the path; false when it runs off the end.
   static bool MoveLoad(fmPtLoad& ptLoad, const std::vector<uint32_t>& path, const std::vector<bool>& forward,
                        const std::vector<double>& lengths, double distance);
-  // The same from path index k, where the load's member stands.
+  // The same from path index k, where the load's member stands. With `start` (the length of
+  // the path before each member, and the whole length last) a long way is found by halving
+  // instead of member by member.
   static bool MoveLoadFrom(fmPtLoad& ptLoad, size_t k, const std::vector<uint32_t>& path,
-                           const std::vector<bool>& forward, const std::vector<double>& lengths, double distance);
+                           const std::vector<bool>& forward, const std::vector<double>& lengths, double distance,
+                           const std::vector<double>* start = nullptr);
+  // What every position of one run shares: the case's loads off the path, the loads on it
+  // with their place in the path (in path order), and where each path member starts.
+  struct Prepared {
+    fmCaseLoad offPath;
+    std::vector<std::pair<size_t, fmPtLoad>> onPath;
+    std::vector<double> start;
+  };
+  static Prepared Prepare(const fmCaseLoad& caseLoad, const std::vector<uint32_t>& path,
+                          const std::vector<double>& lengths);
+  static bool ProcessMoving(fmCaseLoad& outCaseLoad, const Prepared& prepared, const std::vector<uint32_t>& path,
+                            const std::vector<bool>& forward, const std::vector<double>& lengths, double distance);
   // Travel flags of the path members (see the .cpp).
   std::vector<bool> ForwardFlags(const std::vector<uint32_t>& path, const std::string& direction) const;
 

@@ -1,6 +1,8 @@
 #pragma once
 // Ids of the boundary and connection grids (our range 23100 to 23199, inside the model
 // family's).
+#include "resources/grid_ids.h"
+
 namespace res {
 
 // Templates.
@@ -12,8 +14,8 @@ inline constexpr int kIddMultiDofConstraintData = 23104;
 inline constexpr int kIddDiaphragmData = 23105;
 inline constexpr int kIddDriftNodeData = 23106;
 
-// Controls. "Delete Rows" has the id the locked-model guard disables.
-inline constexpr int kCtlDeleteRows = 8082;
+// Controls. "Delete Rows" is the grid's own editing action, which a read-only grid disables.
+inline constexpr int kCtlDeleteRows = kCtlGridEditAction;
 inline constexpr int kCtlBoundaryNote = 23120;
 inline constexpr int kCtlSpringTypeText = 23121;
 inline constexpr int kCtlSpringType = 23122;

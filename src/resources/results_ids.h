@@ -16,4 +16,12 @@ inline constexpr int kStrResultsShowSelected = 25002;
 inline constexpr int kStrResultsClose = 25003;
 inline constexpr int kStrResultsModeLabel = 25004;
 
+// The envelope list, the report picker and the member envelope diagram.
+inline constexpr int kIddEnvelopeReport = 25100;
+inline constexpr int kIddReport = 25101;
+inline constexpr int kIddBeamEnvelopDiagram = 25102;
+inline constexpr int kCtlEnvelopeChart = 25110;
+inline constexpr int kCtlEnvelopeStatus = 25111;
+inline constexpr int kCtlEnvelopePrint = 25112;
+
 }  // namespace res

@@ -58,6 +58,15 @@ TEST(BoundaryAnalysis, AConstraintTiesTheTwoDegreesOfFreedom) {
   analysis::AnalyseDocument(doc, {});
   EXPECT_NEAR(doc.results.results[0].displacements[3].v[0], 1.0, 2e-4);
   EXPECT_NEAR(ReactionAt(doc, 3).v[0], -kSwayShear, 2e-4 * kSwayShear);
+  // The tie pulls node 4 along with the shear its column takes, and node 2 back as much: the
+  // constraint-force report's record.
+  const auto& forces = doc.results.results[0].constraintForces;
+  ASSERT_EQ(forces.size(), 1u);
+  EXPECT_EQ(forces[0].id, 1);
+  EXPECT_EQ(forces[0].node, (std::array<int32_t, 2>{2, 4}));
+  EXPECT_EQ(forces[0].dof, (std::array<int32_t, 2>{0, 0}));
+  EXPECT_NEAR(forces[0].value[0], -kSwayShear, 2e-4 * kSwayShear);
+  EXPECT_NEAR(forces[0].value[1], kSwayShear, 2e-4 * kSwayShear);
 }
 
 TEST(BoundaryAnalysis, WithoutTiesTheOtherColumnStaysAndAPinnedEndCarriesNoMoment) {

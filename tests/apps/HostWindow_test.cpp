@@ -231,3 +231,32 @@ TEST_F(HostWindowTest, CopyLoadsCopiesEveryKindOfTheSourceCaseTimesTheFactor) {
   EXPECT_EQ(doc.caseLoads[0], source);
   EXPECT_TRUE(window.model().modified);
 }
+
+TEST_F(HostWindowTest, TheLoadTablesAndGeneratorsAreListedAndOpenOnTheExamplesLoads) {
+  QAction* points = window.findChild<QAction*>("CPointLoadDataDlg");
+  ASSERT_NE(points, nullptr);
+  EXPECT_EQ(points->text().toStdString(), "Member Point Loads");
+  for (const char* name : {"CNodalLoadDataDlg", "CLineLoadDataDlg", "CShellLoadDataDlg", "CAreaLoadDataDlg",
+                           "CMemberThermalLoadDataDlg", "CShell4ThermalLoadDataDlg", "CBrickThermalLoadDataDlg",
+                           "CNodalMassDataDlg", "CCombMassDataDlg", "CMovingLoadDlg", "CPatternLoadDataDlg"})
+    EXPECT_NE(window.findChild<QAction*>(name), nullptr) << name;
+
+  window.model().doc.display.showSelectedOnly = true;  // a table turns read-only, a generator does not
+  {
+    auto dlg = CreateBoundDialog("CPointLoadDataDlg", window.model(), &window);
+    dlg->InitDialogForTest();
+    const grid::Sheet& sheet = static_cast<CDataGridDlg&>(*dlg).Spread().sheet();
+    ASSERT_EQ(sheet.MaxRows(), 1);
+    EXPECT_EQ(sheet.GetData(2, 1), "2: Live");
+    EXPECT_TRUE(sheet.IsLockedAll());
+  }
+  prompter.Clear();
+  auto dlg = CreateBoundDialog("CMovingLoadDlg", window.model(), &window);
+  dlg->InitDialogForTest();
+  EXPECT_TRUE(Messages().empty());
+  const grid::Sheet& path = static_cast<CDataGridDlg&>(*dlg).Spread().sheet();
+  ASSERT_EQ(path.MaxRows(), 2) << "the selected girders";
+  EXPECT_EQ(path.GetData(1, 1), "13");
+  EXPECT_EQ(path.GetData(1, 2), "14");
+  EXPECT_FALSE(path.IsLockedAll());
+}

@@ -551,3 +551,22 @@ TEST_F(CliTest, LoadsPatternAndItsRefusals) {
   }
   EXPECT_EQ(Cli("loads pattern " + in + " --case 2 --path 13,15 --yes").status, 0);
 }
+
+// Every report kind is built from the example's analysed results; the element and modal
+// kinds show computed rows, and the kinds with no report in the results dialog say so.
+TEST_F(CliTest, ReportBuildsEveryKindOfTheAnalysedExample) {
+  for (int kind = 0; kind <= 57; ++kind) {
+    const CliRun run = Cli("report " + kModel + " " + std::to_string(kind));
+    if (kind >= 8 && kind <= 11) {
+      EXPECT_EQ(run.status, 1) << kind << run.all();
+      continue;
+    }
+    EXPECT_EQ(run.status, 0) << kind << run.all();
+    const bool computed = kind == 6 || kind == 7 || (kind >= 12 && kind <= 20) || kind == 28 || kind == 34 ||
+                          (kind >= 47 && kind <= 50) || kind == 57;
+    if (computed) EXPECT_EQ(run.out.find("(no rows)"), std::string::npos) << kind << run.out.substr(0, 200);
+  }
+  const CliRun end = Cli("report " + kModel + " 6 --case 1");
+  EXPECT_NE(end.out.find("\n1                  0.000  "), std::string::npos) << end.out.substr(0, 400);
+  EXPECT_NE(end.out.find("\n                 100.000  "), std::string::npos) << end.out.substr(0, 400);
+}

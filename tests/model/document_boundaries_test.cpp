@@ -143,6 +143,21 @@ TEST(BoundaryRecords, CopiesInAnOlderResultsSectionBecomeTheModelsRecords) {
   EXPECT_EQ(own.nodalSprings.size(), 1u);
 }
 
+// A copy too large for the model's units is left out, so the model saves and opens again.
+TEST(BoundaryRecords, ACopyThatWouldNotBeAFiniteNumberIsLeftOut) {
+  std::string model = kModel;
+  const std::string kipPerInch = "71, 39, 108", poundPerInch = "71, 37, 108";
+  model.replace(model.find(kipPerInch), kipPerInch.size(), poundPerInch);  // the model's springs in lb/in
+  const model::ModelDocument doc = Parse(model + R"(, "results": {
+      "units": {"unit": [1, 0, 16, 40, 24, 56, 72, 0, 101, 103, 71, 86, 5, 71, 39, 108, 72, 88]},
+      "nodalSprings": [{"node": 1, "flag": "100000", "k": [1e306, 0, 0, 0, 0, 0]},
+                       {"node": 2, "flag": "100000", "k": [2, 0, 0, 0, 0, 0]}]})");
+  ASSERT_EQ(doc.nodalSprings.size(), 1u);
+  EXPECT_EQ(doc.nodalSprings[0].node, 2u);
+  EXPECT_DOUBLE_EQ(doc.nodalSprings[0].k[0], 2000.0);  // 2 kip/in
+  EXPECT_NO_THROW(RoundTrip(doc));
+}
+
 // Converted values checked against published conversions: 1 kip/in = 175.1268 kN/m,
 // 1 kip-ft = 1.355818 kN-m, 1 kip = 4.448222 kN, 1 ksf = 47.88026 kN/m², 1 kip/ft³ =
 // 157.0875 kN/m³, 1 in = 25.4 mm, 1 ft = 0.3048 m.

@@ -262,6 +262,30 @@ TEST(MovingLoad, MoveLoadFindsTheMemberInThePath) {
   EXPECT_FALSE(model::MovingLoadGenerator::MoveLoad(l, path, forward, lengths, 6.5));
 }
 
+// A long way is found by halving over the path's running length: it must land where walking
+// member by member lands, ends of members and the path's end included.
+TEST(MovingLoad, LongMovesLandWhereAMemberByMemberWalkLands) {
+  std::vector<uint32_t> path;
+  std::vector<bool> forward;
+  std::vector<double> lengths, start{0};
+  for (uint32_t k = 0; k < 40; ++k) {
+    path.push_back(100 + k);
+    forward.push_back(k % 3 != 0);
+    lengths.push_back(k % 5 == 0 ? 2.0 : 0.5 + 0.25 * (k % 7));  // ends on quarter feet
+    start.push_back(start.back() + lengths.back());
+  }
+  for (double ratio : {0.0, 0.3, 1.0})
+    for (double d = 0.25; d <= start.back() + 1; d += 0.25) {
+      fmPtLoad walked = Pt(100, ratio), halved = walked;
+      const bool onW = model::MovingLoadGenerator::MoveLoadFrom(walked, 0, path, forward, lengths, d);
+      const bool onH = model::MovingLoadGenerator::MoveLoadFrom(halved, 0, path, forward, lengths, d, &start);
+      ASSERT_EQ(onW, onH) << "ratio " << ratio << " distance " << d;
+      if (!onW) continue;
+      EXPECT_EQ(walked.member, halved.member) << "ratio " << ratio << " distance " << d;
+      EXPECT_NEAR(walked.ratio, halved.ratio, 1e-12) << "ratio " << ratio << " distance " << d;
+    }
+}
+
 namespace {
 
 // Which path spans (1-based) carry point loads in a generated case.

@@ -5,21 +5,28 @@
 
 namespace {
 
-// The load tables read the cases, their loads and the model's nodes and elements, and write
-// the loads back themselves on OK.
+// What every load table and generator takes from the host: units, the lock, the grid's colour
+// and the cases with one entry of loads each.
+template <class Dlg>
+void PrepareLoads(Dlg& dlg, HostModel& m) {
+  dlg.m_pUnits = &m.doc.units;
+  dlg.m_bModelLocked = m.doc.display.modelLocked;
+  dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
+  m.doc.caseLoads.resize(m.doc.loadCases.size());
+  dlg.m_pLoadCases = &m.doc.loadCases;
+  dlg.m_pCaseLoads = &m.doc.caseLoads;
+  dlg.m_pNodes = &m.doc.nodes;
+  dlg.m_pMembers = &m.doc.members;
+}
+
+// The tables check rows against every kind of element and write the loads back on OK. The
+// generators are no tables of the model: showing only selected entities leaves them editable.
 template <class Dlg>
 void BindLoadTable() {
   BindDialog<Dlg>(
       [](Dlg& dlg, HostModel& m) {
-        dlg.m_pUnits = &m.doc.units;
+        PrepareLoads(dlg, m);
         dlg.m_bShowSelectedOnly = m.doc.display.showSelectedOnly;
-        dlg.m_bModelLocked = m.doc.display.modelLocked;
-        dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
-        m.doc.caseLoads.resize(m.doc.loadCases.size());
-        dlg.m_pLoadCases = &m.doc.loadCases;
-        dlg.m_pCaseLoads = &m.doc.caseLoads;
-        dlg.m_pNodes = &m.doc.nodes;
-        dlg.m_pMembers = &m.doc.members;
         dlg.m_pShells = &m.doc.shells;
         dlg.m_pBricks = &m.doc.bricks;
       },
@@ -31,14 +38,7 @@ template <class Dlg>
 void BindGenerator() {
   BindDialog<Dlg>(
       [](Dlg& dlg, HostModel& m) {
-        dlg.m_pUnits = &m.doc.units;
-        dlg.m_bModelLocked = m.doc.display.modelLocked;
-        dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
-        m.doc.caseLoads.resize(m.doc.loadCases.size());
-        dlg.m_pMembers = &m.doc.members;
-        dlg.m_pNodes = &m.doc.nodes;
-        dlg.m_pLoadCases = &m.doc.loadCases;
-        dlg.m_pCaseLoads = &m.doc.caseLoads;
+        PrepareLoads(dlg, m);
         dlg.m_pLoadCombs = &m.doc.loadCombs;
       },
       [](Dlg&, HostModel&) { return true; });

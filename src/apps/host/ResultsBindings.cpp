@@ -1,5 +1,8 @@
 #include "apps/host/DialogBindings.h"
 #include "dialogs/frame/DebugOutput.h"
+#include "dialogs/results/CBeamEnvelopDiagramDlg.h"
+#include "dialogs/results/CEnvelopeReportDlg.h"
+#include "dialogs/results/CReportDlg.h"
 #include "dialogs/results/CResultsDlg.h"
 #include "model/solved_structure.h"
 #include "tools/parse.h"
@@ -39,4 +42,35 @@ void RegisterResultsBindings() {
         m.doc.display.showSelectedOnly = selectedOnly;
         return true;
       });
+
+  // The envelope list is the model's: OK writes it into the document.
+  BindDialog<CEnvelopeReportDlg>(
+      [](CEnvelopeReportDlg& dlg, HostModel& m) {
+        dlg.m_pLoadCases = &m.doc.loadCases;
+        dlg.m_pLoadCombs = &m.doc.loadCombs;
+        dlg.m_pEnvelopeCombinations = &m.doc.envelopeCombinations;
+        dlg.m_bModelLocked = m.doc.display.modelLocked;
+      },
+      [](CEnvelopeReportDlg&, HostModel&) { return true; });
+
+  BindDialog<CReportDlg>(
+      [](CReportDlg& dlg, HostModel& m) {
+        auto solved = std::make_shared<CfmStruct>(model::SolvedStructure(m.doc));
+        dlg.m_pStruct = solved.get();
+        m.dialogState = solved;
+        dlg.m_nReportType = ShowOption(m, "kind", 0);
+        dlg.m_nCombination = ShowOption(m, "case", 1) - 1;
+        dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
+      },
+      nullptr);
+
+  BindDialog<CBeamEnvelopDiagramDlg>(
+      [](CBeamEnvelopDiagramDlg& dlg, HostModel& m) {
+        auto solved = std::make_shared<CfmStruct>(model::SolvedStructure(m.doc));
+        dlg.m_pStruct = solved.get();
+        m.dialogState = solved;
+        dlg.m_nMember = ShowOption(m, "query", 0);
+        dlg.m_nForce = ShowOption(m, "kind", 5);
+      },
+      nullptr);
 }

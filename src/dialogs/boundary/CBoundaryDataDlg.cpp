@@ -10,12 +10,6 @@ CBoundaryDataDlg::CBoundaryDataDlg(int templateId, QWidget* pParent) : CDataGrid
   OnCommand(res::kCtlDeleteRows, [this] { OnDeleteRows(); });
 }
 
-BOOL CBoundaryDataDlg::OnInitDialog() {
-  CDataGridDlg::OnInitDialog();
-  if (IsReadOnly()) EnableDlgItem(res::kCtlDeleteRows, false);
-  return 1;
-}
-
 boundarygrid::Objects CBoundaryDataDlg::Objects() const {
   const auto span = [](const auto* list) {
     using T = typename std::remove_pointer_t<decltype(list)>::value_type;

@@ -20,7 +20,6 @@ class CBoundaryDataDlg : public CDataGridDlg {
  protected:
   CBoundaryDataDlg(int templateId, QWidget* pParent);
 
-  BOOL OnInitDialog() override;
   void PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) override;
   // Deletes the selected rows (the active cell's row when nothing is selected) as one step.
   void OnDeleteRows();

@@ -109,9 +109,7 @@ class RowIn {
   bool Empty(int col) const { return Text(col).empty(); }
   // A text left as it was shown for the original value keeps that value's full precision.
   double Real(int col, const double* original) const {
-    const std::string& text = sheet_.GetData(col, row_);
-    if (original && std::isfinite(*original) && text == tools::FormatG(*original)) return *original;
-    const auto v = tools::ParseDouble(text);
+    const auto v = grid::ReadReal(sheet_.GetData(col, row_), original);
     if (!v) throw Refusal{col, tools::Format("%s must be a number, not \"%s\".", Name(col).c_str(), Text(col).c_str())};
     return *v;
   }
@@ -442,6 +440,18 @@ struct Traits<DriftNode> {
   static DriftNode Read(uint32_t key, const RowIn&, const DriftNode*, const Objects&) { return {key}; }
 };
 
+// What a table remembers of the rows read so far, to refuse a record that clashes with an
+// earlier one (constraints, diaphragms); nothing for the others.
+template <class T>
+struct SeenOf {
+  struct type {};
+};
+template <class T>
+  requires requires { typename T::Seen; }
+struct SeenOf<T> {
+  using type = typename T::Seen;
+};
+
 std::vector<ColumnSpec> ColumnsOf(Kind kind, const fmUnit& units) {
   switch (kind) {
     case Kind::Supports: return Traits<fmSupport>::Columns(units);
@@ -641,14 +651,7 @@ ReadResult<Record> Table<Record>::Read(const grid::Sheet& sheet, const Objects& 
     for (const fmShell4& s : objects.shells) shells.insert(s.id);
 
   std::unordered_map<uint32_t, int> rowOfKey;
-  struct NoSeen {};
-  using Seen = decltype([] {
-    if constexpr (requires { typename T::Seen; })
-      return typename T::Seen{};
-    else
-      return NoSeen{};
-  }());
-  Seen seen;
+  typename SeenOf<T>::type seen;
   std::vector<Record> records;
   records.reserve(static_cast<size_t>(used));
   for (int row = 1; row <= used; ++row) {
@@ -696,7 +699,7 @@ ReadResult<Record> Table<Record>::Read(const grid::Sheet& sheet, const Objects& 
     const Record* original = origin >= 0 ? &filled_[static_cast<size_t>(origin)] : nullptr;
     try {
       Record record = T::Read(*key, RowIn(sheet, row, columns, nodeIndex), original, objects);
-      if constexpr (!std::is_same_v<Seen, NoSeen>) T::CheckAgainst(record, seen, objects);
+      if constexpr (requires { typename T::Seen; }) T::CheckAgainst(record, seen, objects);
       records.push_back(std::move(record));
     } catch (const Refusal& r) {
       refuse(r.col, r.why);

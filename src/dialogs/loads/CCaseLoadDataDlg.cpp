@@ -11,10 +11,10 @@ CCaseLoadDataDlg::CCaseLoadDataDlg(int templateId, LoadKind kind, QWidget* pPare
   OnCommand(res::kCtlLoadDeleteRows, [this] { OnDeleteRows(); });
 }
 
-BOOL CCaseLoadDataDlg::OnInitDialog() {
-  CDataGridDlg::OnInitDialog();
-  if (IsReadOnly()) EnableDlgItem(res::kCtlLoadDeleteRows, false);
-  return 1;
+GridEditLock CCaseLoadDataDlg::EditLock() const {
+  GridEditLock how;
+  how.disable.push_back(res::kCtlLoadDeleteRows);
+  return how;
 }
 
 caseloadgrid::LoadLists CCaseLoadDataDlg::Lists() const {

@@ -24,7 +24,7 @@ class CCaseLoadDataDlg : public CDataGridDlg {
  protected:
   CCaseLoadDataDlg(int templateId, caseloadgrid::LoadKind kind, QWidget* pParent);
 
-  BOOL OnInitDialog() override;
+  GridEditLock EditLock() const override;
   void Refresh() override;
   bool Save() override;
   void PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) override;

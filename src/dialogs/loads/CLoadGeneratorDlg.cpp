@@ -16,9 +16,13 @@ CLoadGeneratorDlg::CLoadGeneratorDlg(int templateId, const char* entity, QWidget
 
 BOOL CLoadGeneratorDlg::OnInitDialog() {
   SetComboItems(res::kCtlGenCase, m_pLoadCases ? model::CaseChoices(*m_pLoadCases) : std::vector<std::string>{});
-  CDataGridDlg::OnInitDialog();
-  if (IsReadOnly()) EnableDlgItem(res::kCtlGenCutRows, false);
-  return 1;
+  return CDataGridDlg::OnInitDialog();
+}
+
+GridEditLock CLoadGeneratorDlg::EditLock() const {
+  GridEditLock how;
+  how.disable.push_back(res::kCtlGenCutRows);
+  return how;
 }
 
 void CLoadGeneratorDlg::DoDataExchange(CDataExchange* pDX) {

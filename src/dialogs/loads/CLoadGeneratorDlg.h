@@ -22,6 +22,7 @@ class CLoadGeneratorDlg : public CDataGridDlg {
   CLoadGeneratorDlg(int templateId, const char* entity, QWidget* pParent);
 
   BOOL OnInitDialog() override;
+  GridEditLock EditLock() const override;
   void DoDataExchange(CDataExchange* pDX) override;
   void Refresh() override;
   bool Save() override { return true; }

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <unordered_map>
 
 #include "dialogs/grid/grid_edit.h"
@@ -209,7 +208,7 @@ class CellReader {
   bool Real(double& value, const double* original) {
     const int col = col_++;
     const std::string& text = sheet_.GetData(col, row_);
-    const auto read = ReadReal(text, original);
+    const auto read = grid::ReadReal(text, original);
     if (!read)
       return Refuse(col, tools::Format("%s must be a number, not \"%s\".", Spec(col).heading,
                                        std::string(tools::Trim(text)).c_str()));
@@ -615,11 +614,6 @@ std::vector<std::string> CaseItems(std::span<const fmLoadCase> cases) {
   items.reserve(cases.size());
   for (size_t i = 0; i < cases.size(); ++i) items.push_back(tools::Format("%zu: %s", i + 1, cases[i].name.c_str()));
   return items;
-}
-
-std::optional<double> ReadReal(const std::string& text, const double* original) {
-  if (original && std::isfinite(*original) && text == tools::FormatG(*original)) return *original;
-  return tools::ParseDouble(text);
 }
 
 std::unique_ptr<LoadTable> LoadTable::Create(LoadKind kind) {

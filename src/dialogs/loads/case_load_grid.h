@@ -91,8 +91,4 @@ class LoadTable {
   std::vector<int64_t> origins_;
 };
 
-// The text of a real as the grids show it, and its reading: a text left as shown for the
-// original value keeps that value's full precision; any other text is read as typed.
-std::optional<double> ReadReal(const std::string& text, const double* original);
-
 }  // namespace caseloadgrid

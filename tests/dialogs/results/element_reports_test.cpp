@@ -2,7 +2,10 @@
 
 #include <cmath>
 
+#include <algorithm>
+
 #include "dialogs/results/element_sample.h"
+#include "dialogs/results/info_sheets.h"
 #include "dialogs/results/modal_reports.h"
 #include "dialogs/results/plate_reports.h"
 #include "dialogs/results/report_kinds.h"
@@ -327,4 +330,47 @@ TEST(ConcreteReports, DesignRecordsFillTheirRows) {
   Built plate = Build(s, 27);
   EXPECT_EQ(plate.sheet.MaxRows(), 2);
   EXPECT_EQ(plate.At(3, 1), "Error");
+}
+
+TEST(InfoSheets, MemberShellAndBrickSheetsPrintTheirResultsPerCase) {
+  const CfmStruct s = ElementSample();
+  auto after = [](const std::vector<std::string>& lines, const std::string& first) {
+    const auto it = std::find(lines.begin(), lines.end(), first);
+    return it == lines.end() ? std::vector<std::string>() : std::vector<std::string>(it, lines.end());
+  };
+  std::vector<std::string> lines;
+  ASSERT_TRUE(GetBeamInfo(s, lines, 10));
+  const auto member = after(lines, "**INTERNAL FORCES AND MOMENTS");
+  ASSERT_GE(member.size(), 8u);
+  EXPECT_EQ(member[1], "*Load Combination [Dead]");
+  EXPECT_EQ(member[2], "  @Start: Fx = -10.000;  Fy = 1.000;  Fz = 0.000 (kip)");
+  EXPECT_EQ(member[3], "        Mx = 0.000;  My = 0.000;  Mz = 6.000 (kip-ft)");
+  EXPECT_EQ(member[4], "  @End: Fx = -10.000;  Fy = 1.000;  Fz = 0.000 (kip)");
+  EXPECT_EQ(member[6], "  Max Mz = 6.000 (kip-ft) @ Distance = 0.000 (ft)");
+  EXPECT_EQ(member[7], "  Absolute Max Dy = -0.100 (in) @ Distance = 6.000 (ft)");
+  // The combination, formed from its cases: Mz 19.8 at the end, Dy 0.08 at mid-length.
+  const auto combination = after(lines, "*Load Combination [D+W]");
+  ASSERT_GE(combination.size(), 7u);
+  EXPECT_EQ(combination[5], "  Max Mz = 19.800 (kip-ft) @ Distance = 12.000 (ft)");
+  EXPECT_EQ(combination[6], "  Absolute Max Dy = 0.080 (in) @ Distance = 6.000 (ft)");
+
+  ASSERT_TRUE(GetShell4Info(s, lines, 20));
+  const auto shell = after(lines, "**INTERNAL FORCES AND MOMENTS");
+  ASSERT_GE(shell.size(), 6u);
+  EXPECT_EQ(shell[2], "  @Node-1");
+  EXPECT_EQ(shell[3], "  Fxx = 1.000;  Fyy = 2.000;  Fxy = 3.000 (kip/ft)");
+  EXPECT_EQ(shell[4], "  Mxx = 10.000;  Myy = -2.000;  Mxy = 5.000 (kip-ft/ft)");
+  EXPECT_EQ(shell[5], "  Vxx = 0.500;  Vyy = 0.250 (kip/ft)");
+  EXPECT_NE(std::find(shell.begin(), shell.end(), "  @Center"), shell.end());
+
+  ASSERT_TRUE(GetBrickInfo(s, lines, 30));
+  const auto brick = after(lines, "**BRICK STRESSES");
+  ASSERT_GE(brick.size(), 5u);
+  EXPECT_EQ(brick[2], "  @Node-1");
+  EXPECT_EQ(brick[3], "  Sx = -6.000;  Sy = 0.000;  Sz = 0.000 (kip/in^2)");
+  EXPECT_EQ(brick[4], "  Sxy = 0.000;  Syz = 0.000;  Sxz = 0.000 (kip/in^2)");
+  // Wind X holds no stresses of the brick.
+  const auto wind = after(lines, "*Load Combination [Wind X]");
+  ASSERT_GE(wind.size(), 2u);
+  EXPECT_EQ(wind[1], "error finding brick 30");
 }
