@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <limits>
 #include <cmath>
 #include <filesystem>
 
@@ -224,4 +226,24 @@ TEST_F(ShapeLibraryTest, PublishedDatabaseImportsAndExportsUnchanged) {
   ASSERT_EQ(back.size(), published.size());
   for (size_t i = 0; i < back.size(); ++i) EXPECT_TRUE(back[i] == published[i]) << published[i].label;
   EXPECT_TRUE(Read(exported) == Read(kPublished)) << "the export writes the published layout";
+}
+
+TEST(LumberTable, ReadsBackWhatItWroteAndRefusesAPropertyThatIsNotFinite) {
+  const std::vector<tools::fmSect_NDS> sizes = tools::BuildNdsTable();
+  const std::string bytes = tools::SerializeNdsTable(sizes);
+  EXPECT_EQ(tools::ParseNdsTable(bytes, "t"), sizes);
+  for (const double bad : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+    std::string damaged = bytes;
+    // The dressed width d of the first size: the header, its label field, then b before it.
+    const size_t at = bytes.size() - sizes.size() * 96 + 16 + 3 * 8;
+    std::memcpy(damaged.data() + at, &bad, sizeof bad);
+    try {
+      tools::ParseNdsTable(damaged, "t");
+      ADD_FAILURE() << "a lumber table with " << bad << " was read";
+    } catch (const fmException& e) {
+      EXPECT_EQ(std::string(e.what()),
+                "The lumber table \"t\" is damaged: the properties of " + sizes[0].label +
+                    " are not all finite numbers.");
+    }
+  }
 }
