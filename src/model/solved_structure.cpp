@@ -90,7 +90,7 @@ std::vector<std::string> CheckSolution(const ModelDocument& doc, size_t limit) {
     return ids;
   };
   const std::unordered_set<int64_t> nodes = idsOf(doc.nodes), members = idsOf(doc.members),
-                                    shells = idsOf(doc.shells);
+                                    shells = idsOf(doc.shells), bricks = idsOf(doc.bricks);
 
   std::vector<std::string> lines;
   size_t more = 0;
@@ -127,6 +127,21 @@ std::vector<std::string> CheckSolution(const ModelDocument& doc, size_t limit) {
     check(where, "line spring reactions", r.lineSpringReactions, members, "member");
     check(where, "surface spring reactions", r.surfaceSpringReactions, shells, "shell");
     checkConstraints(where, r.constraintForces);
+    // Element results name their element as `number`.
+    auto checkElements = [&](const char* what, const auto& records, const std::unordered_set<int64_t>& ids,
+                             const char* word) {
+      for (const auto& e : records)
+        if (!ids.count(e.number)) {
+          add(tools::Format("%s: %s name %s %d, which the model does not have", where.c_str(), what, word, e.number));
+          return;
+        }
+    };
+    checkElements("member stations", r.memberStations, members, "member");
+    checkElements("shell forces", r.shellForces, shells, "shell");
+    checkElements("shell nodal resultants", r.shellResultants, shells, "shell");
+    checkElements("shell top stresses", r.shellStresses[0], shells, "shell");
+    checkElements("shell bottom stresses", r.shellStresses[1], shells, "shell");
+    checkElements("brick stresses", r.brickStresses, bricks, "brick");
   };
 
   const fmSolution& s = doc.results;

@@ -260,3 +260,14 @@ TEST(FormatNumber, FourSignificantDigitsFixedOrExponentialByMagnitude) {
   EXPECT_EQ(tools::format_number(0, 4), "0");
   EXPECT_EQ(tools::format_number(3.5e-12, 4), "3.5e-12");
 }
+
+TEST(ElementResultsDocument, ElementRecordsOfElementsTheModelLacksAreWarnedOf) {
+  model::ModelDocument doc = Parse(TwoNodesAnd(
+      R"({"cases": [{"label": "D", "memberStations": [{"member": 8, "stations": [[0, 0, 0, 0, 0, 0, 0, 0, 0]]}],
+          "brickStresses": [[4, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0,
+          0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0]]}]})"));
+  const auto lines = model::CheckSolution(doc);
+  ASSERT_EQ(lines.size(), 2u);
+  EXPECT_EQ(lines[0], "results of \"D\": member stations name member 8, which the model does not have");
+  EXPECT_EQ(lines[1], "results of \"D\": brick stresses name brick 4, which the model does not have");
+}

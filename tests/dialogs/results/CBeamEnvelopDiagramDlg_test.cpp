@@ -165,3 +165,24 @@ TEST_F(DiagramTest, TheReportPickerOpensTheResultsDialogOnTheChosenKindAndCase) 
   EXPECT_EQ(rows, 4 + 3);
   EXPECT_EQ(dlg.m_nReportType, 7);
 }
+
+// The results dialog says why a principal report of a response-spectrum combination stays
+// empty, and stays open.
+TEST_F(DiagramTest, TheResultsDialogShowsTheRefusalOfPrincipalResults) {
+  CfmStruct s = ElementSample();
+  CResultsDlg dlg;
+  dlg.m_pStruct = &s;
+  dlg.m_nReportType = 17;
+  dlg.m_nCombination = 2;
+  dlg.InitDialogForTest();
+  ASSERT_EQ(Messages().size(), 1u);
+  EXPECT_EQ(Messages()[0],
+            "Principal stresses are not available to load combination that contains response spectrum analysis "
+            "results.");
+  EXPECT_EQ(dlg.Spread().sheet().MaxRows(), 0);
+  EXPECT_EQ(dlg.ModalResult(), 0);
+  prompter.Clear();
+  dlg.ChooseItem(res::kCtlResultsCombo, 0);  // a load case
+  EXPECT_TRUE(Messages().empty());
+  EXPECT_EQ(dlg.Spread().sheet().GetData(3, 1), "10.000");
+}
