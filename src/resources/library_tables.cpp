@@ -7,7 +7,6 @@ extern const ResourceTable kFrameResources;
 extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
 extern const ResourceTable kBoundaryResources;
-extern const ResourceTable kLoadsResources;
 extern const ResourceTable kDesignResources;
 extern const ResourceTable kSectionsResources;
 extern const ResourceTable kResultsResources;
@@ -22,7 +21,6 @@ std::span<const ResourceTable* const> LibraryResourceTables() {
       &kBoundaryResources,
       &kDesignResources,
       &kSectionsResources,
-      &kLoadsResources,
       &kResultsResources,
       &kSpectraResources,
       &kCaseLoadsResources,

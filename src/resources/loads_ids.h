@@ -11,7 +11,6 @@ inline constexpr int kIddCopyCaseLoad = 24805;
 
 // CLoadCaseDlg (the grid, New Rows, Print and Save are the data-grid dialog's own).
 inline constexpr int kCtlCaseDeleteRows = 24100;
-inline constexpr int kCtlCaseNote = 24101;
 
 // CLoadComboDlg.
 inline constexpr int kCtlComboList = 24110;
@@ -26,10 +25,5 @@ inline constexpr int kCtlComboGenerateStd = 24116;
 inline constexpr int kCtlStdList = 24143;
 inline constexpr int kCtlStdSelectAll = 24144;
 inline constexpr int kCtlStdClearAll = 24145;
-
-// Strings.
-inline constexpr int kStrLoadCasesCaption = 24000;
-inline constexpr int kStrCaseNote = 24010;
-inline constexpr int kStrCaseDeleteRows = 24011;
 
 }  // namespace res

@@ -13,8 +13,5 @@ inline constexpr int kIddNodeData = 8007;
 inline constexpr int kIddBeamData = 23010;
 inline constexpr int kIddShell4Data = 23011;
 inline constexpr int kIddBrickData = 23012;
-inline constexpr int kStrBeamDataCaption = 23001;
-inline constexpr int kStrShell4DataCaption = 23002;
-inline constexpr int kStrBrickDataCaption = 23003;
 
 }  // namespace res

@@ -40,22 +40,7 @@ inline constexpr int kCtlShapePicture = 26654;
 inline constexpr int kCtlShapeCount = 26657;
 
 // Strings.
-inline constexpr int kStrSectionCaption = 26700;
-inline constexpr int kStrThickCaption = 26701;
-inline constexpr int kStrMaterialCaption = 26705;
-inline constexpr int kStrMaterialRcCaption = 26706;
-inline constexpr int kStrMaterialSteelCaption = 26707;
 
-inline constexpr int kStrSecRegular = 26720;
-inline constexpr int kStrSecAisc = 26721;
-inline constexpr int kStrSecNds = 26722;
-inline constexpr int kStrSecRigidLink = 26723;
-inline constexpr int kStrSecExportAisc = 26724;
-inline constexpr int kStrSecImportAisc = 26725;
-inline constexpr int kStrSecAssign = 26726;
-inline constexpr int kStrApply = 26727;
-inline constexpr int kStrMatStandard = 26730;
-inline constexpr int kStrMatAssign = 26731;
 inline constexpr int kStrRegWidth = 26755;
 inline constexpr int kStrRegDepth = 26756;
 inline constexpr int kStrRegDiameter = 26757;

@@ -23,10 +23,8 @@ inline constexpr int kCtlSpectraExport = 24545;
 inline constexpr int kCtlSpectraFile = 24546;
 
 // CResponseSpectrumDataDlg
-inline constexpr int kCtlSpecNameText = 24550;
 inline constexpr int kCtlSpecName = 24551;
 inline constexpr int kCtlSpecDataChart = 24552;
-inline constexpr int kCtlSpecDataGrid = 24553;
 inline constexpr int kCtlSpecDeleteRows = 24554;
 
 // CResponseSpectrumAnalysisDlg
@@ -38,14 +36,11 @@ inline constexpr int kCtlRsaDamping = 24576;
 inline constexpr int kCtlRsaSpectra = 24577;
 
 // Strings
-inline constexpr int kStrSpectrumDataCaption = 24602;
 inline constexpr int kStrSpecCa = 24611;
 inline constexpr int kStrSpecCv = 24612;
 inline constexpr int kStrSpecSds = 24613;
 inline constexpr int kStrSpecSd1 = 24614;
 inline constexpr int kStrChartPeriod = 24625;
 inline constexpr int kStrChartAcceleration = 24626;
-inline constexpr int kStrSpecName = 24633;
-inline constexpr int kStrSpecDeleteRows = 24634;
 
 }  // namespace res

@@ -26,8 +26,22 @@ bool CMaterialStrengthDlg::Save() {
   return true;
 }
 
-CMaterialRcDlg::CMaterialRcDlg(QWidget* pParent)
-    : CMaterialStrengthDlg(res::kIddMaterialRc, matgrid::kConcrete, pParent) {}
+const frame::Form<CMaterialRcDlg>& CMaterialRcDlg::Description() {
+  static const frame::Form<CMaterialRcDlg> form = TableForm<CMaterialRcDlg>(
+      {.templateId = res::kIddMaterialRc, .caption = "Concrete Material Strengths", .minWidth = 600, .minHeight = 360,
+       .okDefault = false},
+      {}, {}, false);
+  return form;
+}
 
-CMaterialSteelDlg::CMaterialSteelDlg(QWidget* pParent)
-    : CMaterialStrengthDlg(res::kIddMaterialSteel, matgrid::kSteel, pParent) {}
+CMaterialRcDlg::CMaterialRcDlg(QWidget* pParent) : CMaterialStrengthDlg(Description(), matgrid::kConcrete, pParent) {}
+
+const frame::Form<CMaterialSteelDlg>& CMaterialSteelDlg::Description() {
+  static const frame::Form<CMaterialSteelDlg> form = TableForm<CMaterialSteelDlg>(
+      {.templateId = res::kIddMaterialSteel, .caption = "Steel Material Strengths", .minWidth = 600, .minHeight = 360,
+       .okDefault = false},
+      {}, {}, false);
+  return form;
+}
+
+CMaterialSteelDlg::CMaterialSteelDlg(QWidget* pParent) : CMaterialStrengthDlg(Description(), matgrid::kSteel, pParent) {}

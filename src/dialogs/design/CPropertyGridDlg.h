@@ -11,7 +11,7 @@ class CPropertyGridDlg : public CDataGridDlg {
   QSize sizeHint() const override;
 
  protected:
-  CPropertyGridDlg(int templateId, QWidget* pParent) : CDataGridDlg(templateId, pParent) {}
+  explicit CPropertyGridDlg(const frame::FormBase& form, QWidget* pParent) : CDataGridDlg(form, pParent) {}
 
   // The table's own editing buttons are disabled too, and the message says only that the
   // model is locked.

@@ -17,7 +17,25 @@ namespace {
 constexpr const char* kOverrideSection = "Do you want to override the current section?";
 }  // namespace
 
-CSectionDlg::CSectionDlg(QWidget* pParent) : CPropertyGridDlg(res::kIddSection, pParent) {
+const frame::Form<CSectionDlg>& CSectionDlg::Description() {
+  using F = frame::Field<CSectionDlg>;
+  using namespace res;
+  static const frame::Form<CSectionDlg> form = TableForm<CSectionDlg>(
+      {.templateId = kIddSection, .caption = "Member Sections", .minWidth = 900, .minHeight = 460,
+       .okText = "Apply", .okDefault = false},
+      {
+          F::Check("Assign active section to currently selected members", &CSectionDlg::m_bAssignActive)
+              .Id(kCtlSecAssign).Span(1),
+          F::Button("Regular Section...").Id(kCtlSecRegular),
+          F::Button("AISC Table...").Id(kCtlSecAisc),
+          F::Button("NDS Table...").Id(kCtlSecNds),
+          F::Button("Rigid Link").Id(kCtlSecRigidLink),
+      },
+      {F::Button("Export AISC Table...").Id(kCtlSecExportAisc), F::Button("Import AISC Table...").Id(kCtlSecImportAisc)});
+  return form;
+}
+
+CSectionDlg::CSectionDlg(QWidget* pParent) : CPropertyGridDlg(Description(), pParent) {
   OnCommand(res::kCtlSecRegular, [this] { OnAddRegular(); });
   OnCommand(res::kCtlSecAisc, [this] { OnAisc(); });
   OnCommand(res::kCtlSecNds, [this] { OnBnClickedNds(); });
@@ -35,11 +53,6 @@ BOOL CSectionDlg::OnInitDialog() {
   CPropertyGridDlg::OnInitDialog();
   ActivateRow(m_nActiveSection);
   return 1;
-}
-
-void CSectionDlg::DoDataExchange(CDataExchange* pDX) {
-  CPropertyGridDlg::DoDataExchange(pDX);
-  DDX_Check(pDX, res::kCtlSecAssign, m_bAssignActive);
 }
 
 void CSectionDlg::Refresh() {

@@ -196,7 +196,7 @@ void FormBase::Publish() const {
   using B = FormFrame::Buttons;
   if (frame_.buttons == B::OkCancel || frame_.buttons == B::Ok)
     out.push_back({res::IDOK_, res::Kind::Button, frame_.okStringId ? frame_.okStringId : res::kStrOk, frame_.okText,
-                   kButtonBar, 0, 1, 1, 0, res::kDefault});
+                   kButtonBar, 0, 1, 1, 0, frame_.okDefault ? res::kDefault : 0u});
   if (frame_.buttons == B::OkCancel)
     out.push_back({res::IDCANCEL_, res::Kind::Button, res::kStrCancel, "Cancel", kButtonBar, 1});
   if (frame_.buttons == B::Close)

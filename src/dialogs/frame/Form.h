@@ -61,6 +61,7 @@ struct FormFrame {
   // OK's own text where a dialog names it otherwise ("Apply", "Ok").
   const char* okText = "OK";
   int okStringId = 0;
+  bool okDefault = true;  // a table's OK is no default button: Enter belongs to the grid
 };
 
 // The untyped part of a form: ids, the template and its strings.
@@ -110,6 +111,8 @@ class Field {
   static Field Text(const char* label, std::string Dlg::* m) { return Bound(FieldKind::Text, label, m, DDX_TextOf<std::string>); }
   static Field Folder(const char* label, std::string Dlg::* m) { return Bound(FieldKind::Folder, label, m, DDX_TextOf<std::string>); }
   static Field Font(const char* label, std::string Dlg::* m) { return Bound(FieldKind::Font, label, m, DDX_CBString); }
+  // An edit the dialog reads itself (a table's new-row count ...).
+  static Field Edit(const char* label) { return Plain(FieldKind::Text, label); }
   // A read-only box the dialog writes itself.
   static Field Result(const char* label) { return Plain(FieldKind::Result, label); }
   static Field Check(const char* text, BOOL Dlg::* m) { return Bound(FieldKind::Check, text, m, DDX_Check); }

@@ -5,7 +5,11 @@
 #include "dialogs/frame/DataExchange.h"
 #include "resources/grid_ids.h"
 
-CDataGridDlg::CDataGridDlg(int templateId, QWidget* pParent) : CDialog(templateId, pParent) {
+CDataGridDlg::CDataGridDlg(int templateId, QWidget* pParent) : CDialog(templateId, pParent) { Connect(); }
+
+CDataGridDlg::CDataGridDlg(const frame::FormBase& form, QWidget* pParent) : CDialog(form, pParent) { Connect(); }
+
+void CDataGridDlg::Connect() {
   OnCommand(res::kCtlNewRows, [this] { OnNewRows(); });
   OnCommand(res::kCtlPrint, [this] { OnPrint(); });
   OnCommand(res::kCtlSave, [this] { OnSave(); });

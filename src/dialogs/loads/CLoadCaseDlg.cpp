@@ -8,7 +8,19 @@
 
 using namespace res;
 
-CLoadCaseDlg::CLoadCaseDlg(QWidget* pParent) : CDataGridDlg(kIddLoadCase, pParent) {
+// The grid with the data-grid buttons on the right and the note on load types below it.
+const frame::Form<CLoadCaseDlg>& CLoadCaseDlg::Description() {
+  using F = frame::Field<CLoadCaseDlg>;
+  static const frame::Form<CLoadCaseDlg> form = TableForm<CLoadCaseDlg>(
+      {.templateId = kIddLoadCase, .caption = "Load Cases", .minWidth = 560, .minHeight = 380},
+      {
+          F::Static("The optional load types are used in forming standard load combinations").Span(1),
+          F::Button("Delete Rows").Id(kCtlCaseDeleteRows),
+      });
+  return form;
+}
+
+CLoadCaseDlg::CLoadCaseDlg(QWidget* pParent) : CDataGridDlg(Description(), pParent) {
   OnCommand(kCtlCaseDeleteRows, [this] { OnDeleteRows(); });
 }
 

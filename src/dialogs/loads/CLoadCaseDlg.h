@@ -10,6 +10,7 @@
 class CLoadCaseDlg : public CDataGridDlg {
  public:
   explicit CLoadCaseDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CLoadCaseDlg>& Description();
 
   std::vector<fmLoadCase>* m_pLoadCases = nullptr;
   // The loads of the cases, one per case in case order; kept in step with the cases on OK

@@ -1,8 +1,8 @@
 #include "dialogs/model/CElementDataDlg.h"
 
 
-CElementDataDlg::CElementDataDlg(int templateId, const elementgrid::Kind& kind, QWidget* pParent)
-    : CDataGridDlg(templateId, pParent), kind_(kind) {}
+CElementDataDlg::CElementDataDlg(const frame::FormBase& form, const elementgrid::Kind& kind, QWidget* pParent)
+    : CDataGridDlg(form, pParent), kind_(kind) {}
 
 elementgrid::ElementLists CElementDataDlg::Lists() const {
   elementgrid::ElementLists lists;
