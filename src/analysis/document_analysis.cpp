@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <unordered_map>
 
 #include "analysis/element_results.h"
@@ -53,6 +54,44 @@ size_t Reference(int32_t ref, size_t count, const std::string& owner, const char
   return static_cast<size_t>(ref - 1);
 }
 
+// Combination masses: the case's gravity loads (global, along -Y) times the factor become
+// masses at the nodes that carry them, in all three directions. Member loads go to the two
+// ends by the lever rule, a shell's pressure in quarters to its corners.
+void AddCombinationMasses(Model& m, const LoadCase& c, double factor) {
+  std::map<size_t, double> weight;  // node to the weight it carries
+  const auto length = [&](const Member& mb) {
+    const Node& a = m.nodes[mb.nodes[0]];
+    const Node& b = m.nodes[mb.nodes[1]];
+    return std::hypot(b.x - a.x, b.y - a.y, b.z - a.z);
+  };
+  const auto split = [&](const Member& mb, double w, double at) {
+    const double l = length(mb), t = l > 0 ? std::clamp(at / l, 0.0, 1.0) : 0.5;
+    weight[mb.nodes[0]] += w * (1 - t);
+    weight[mb.nodes[1]] += w * t;
+  };
+  for (const NodalLoad& l : c.nodal)
+    if (l.dof == 1 && l.value < 0) weight[l.node] -= l.value;
+  for (const MemberPointLoad& l : c.memberPoint)
+    if (!l.local && l.direction == 1 && l.value < 0) split(m.members[l.member], -l.value, l.distance);
+  for (const MemberLineLoad& l : c.memberLine) {
+    if (l.local || l.direction != 1 || l.value[0] > 0 || l.value[1] > 0) continue;
+    const double run = l.distance[1] - l.distance[0], sum = l.value[0] + l.value[1];
+    if (run <= 0 || sum == 0) continue;
+    // A trapezoid's weight and centroid.
+    split(m.members[l.member], -sum / 2 * run, l.distance[0] + run * (l.value[0] + 2 * l.value[1]) / (3 * sum));
+  }
+  for (const SurfaceLoad& l : c.surface) {
+    if (l.local || l.direction != 1 || l.value >= 0) continue;
+    const Shell& sh = m.shells[l.shell];
+    const Node &a = m.nodes[sh.nodes[0]], &b = m.nodes[sh.nodes[1]], &cc = m.nodes[sh.nodes[2]], &d = m.nodes[sh.nodes[3]];
+    const double p[3] = {cc.x - a.x, cc.y - a.y, cc.z - a.z}, q[3] = {d.x - b.x, d.y - b.y, d.z - b.z};
+    const double area = std::hypot(p[1] * q[2] - p[2] * q[1], p[2] * q[0] - p[0] * q[2], p[0] * q[1] - p[1] * q[0]) / 2;
+    for (size_t node : sh.nodes) weight[node] += -l.value * area / 4;
+  }
+  for (const auto& [node, w] : weight)
+    for (int dof = 0; dof < 3; ++dof) m.masses.push_back({node, dof, w * factor / m.g});
+}
+
 // The loads of every load case, from the document's case loads (its one source of loads),
 // in the analysis' units. Loads on inactive elements have nothing to act on and are left out.
 void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, DocumentModel& out) {
@@ -74,7 +113,7 @@ void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, Docum
     return std::hypot(b.x - a.x, b.y - a.y, b.z - a.z);
   };
   size_t skipped = 0, areas = 0, sideways = 0;
-  bool combinationMass = false;
+  bool selfWeightMass = false;
   for (size_t i = 0; i < doc.loadCases.size(); ++i) {
     LoadCase c;
     c.name = doc.loadCases[i].name;
@@ -132,7 +171,10 @@ void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, Docum
     thermal(cl.shellThermal, shellAt, ThermalLoad::Kind::Shell);
     thermal(cl.brickThermal, brickAt, ThermalLoad::Kind::Brick);
     areas += cl.area.size();
-    combinationMass = combinationMass || cl.massFactor != 0;
+    if (cl.massFactor != 0) {
+      AddCombinationMasses(m, c, cl.massFactor);
+      selfWeightMass = selfWeightMass || c.selfWeight != 0;
+    }
     for (const fmNodalMass& nm : cl.nodalMasses) {
       const double weight = nm.weight * s(fmUnit::Force) * (nm.direction < 3 ? 1 : s(fmUnit::Length) * s(fmUnit::Length));
       m.masses.push_back({nodes.At(nm.node, "A nodal mass"), nm.direction, weight / m.g});
@@ -142,7 +184,8 @@ void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, Docum
   if (skipped > 0) out.notes.push_back(Id(static_cast<int64_t>(skipped)) + " loads on inactive elements left out");
   if (areas > 0) out.notes.push_back(Id(static_cast<int64_t>(areas)) + " area loads not analysed");
   if (sideways > 0) out.notes.push_back(Id(static_cast<int64_t>(sideways)) + " self weights along X or Z not analysed");
-  if (combinationMass) out.notes.push_back("combination masses not analysed");
+  if (selfWeightMass)
+    out.notes.push_back("self weight left out of the combination masses: the elements carry their own mass");
 }
 
 }  // namespace

@@ -101,8 +101,9 @@ struct fmCaseLoad {
   std::vector<fmAreaLoad> area;
   std::vector<fmThermalLoad> memberThermal, shellThermal, brickThermal;
   std::vector<fmNodalMass> nodalMasses;
-  // Combination mass: with a non-zero factor, the case's gravity loads (its loads along -Y,
-  // self weight included) times this factor become masses for dynamic analysis.
+  // Combination mass: with a non-zero factor, the case's gravity loads (its global loads along
+  // -Y) times this factor become masses for dynamic analysis. Self weight is not among them:
+  // the analysis gives every element the mass of its own weight.
   double massFactor = 0;
 
   bool IsEmpty() const { return *this == fmCaseLoad{}; }

@@ -98,6 +98,29 @@ TEST(DocumentAnalysis, UnitsOfTheDocumentAreHonoured) {
   EXPECT_NEAR(doc.results.results[0].reactions[0].v[1], 1.0, 1e-9);  // 0.1 kip/ft over 10 ft
 }
 
+// A massless cantilever (10 ft, E 29000 ksi, Iy 362 in^4) whose case carries 1 kip down at the
+// tip, with that case as combination mass: one mass of 1 kip / g at the tip, so the first
+// mode is the weak-axis sway with T = 2 pi sqrt(m / (3 E Iy / L^3)) = 0.0749 s.
+TEST(DocumentAnalysis, ACombinationMassMakesTheCasesGravityLoadsMasses) {
+  model::ModelDocument doc = Parse(R"(, "units": {"unit": [1, 0, 16, 40, 24, 56, 72, 0, 101, 103, 71, 86, 5, 71, 39, 108, 72, 88]},
+    "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0}, {"id": 2, "x": 10, "y": 0, "z": 0}],
+    "loadCases": [{"number": 1, "label": "P", "type": "Dead-D"}],
+    "materials": [{"id": 1, "label": "Steel", "E": 29000, "nu": 0.3, "density": 0, "Tc": 0, "fc": 3, "fy": 50, "fys": 65}],
+    "sections": [{"id": 1, "label": "S", "A": 0.184028, "Iz": 0.0481771, "Iy": 0.0174576, "J": 0.000195795}],
+    "members": [{"id": 1, "nodes": [1, 2], "material": 1, "section": 1}],
+    "supports": [{"node": 1, "restraints": "111111"}],
+    "caseLoads": [{"case": "P", "point": [{"member": 1, "ratio": 1, "direction": "Y", "magnitude": -1}],
+                   "massFactor": 1}])");
+  analysis::AnalysisRequest request;
+  request.modes = 1;
+  analysis::AnalyseDocument(doc, request);
+  ASSERT_EQ(doc.results.eigenModes.size(), 1u);
+  const double m = 1.0 / 386.08858267716535, k = 3 * 29000 * 0.0174576 * 20736 / std::pow(120.0, 3);
+  const double period = 2 * 3.141592653589793 / std::sqrt(doc.results.eigenModes[0].omega2);
+  EXPECT_NEAR(period, 2 * 3.141592653589793 * std::sqrt(m / k), 1e-9);
+  EXPECT_NEAR(period, 0.0749, 1e-4);
+}
+
 // A refused analysis names what is wrong and leaves the document as it was.
 TEST(DocumentAnalysis, RefusalLeavesTheDocumentUntouched) {
   model::ModelDocument doc = Example();

@@ -564,7 +564,9 @@ TEST_F(CliTest, ReportBuildsEveryKindOfTheAnalysedExample) {
     EXPECT_EQ(run.status, 0) << kind << run.all();
     const bool computed = kind == 6 || kind == 7 || (kind >= 12 && kind <= 20) || kind == 28 || kind == 34 ||
                           (kind >= 47 && kind <= 50) || kind == 57;
-    if (computed) EXPECT_EQ(run.out.find("(no rows)"), std::string::npos) << kind << run.out.substr(0, 200);
+    if (computed) {
+      EXPECT_EQ(run.out.find("(no rows)"), std::string::npos) << kind << run.out.substr(0, 200);
+    }
   }
   const CliRun end = Cli("report " + kModel + " 6 --case 1");
   EXPECT_NE(end.out.find("\n1                  0.000  "), std::string::npos) << end.out.substr(0, 400);
