@@ -10,10 +10,6 @@ inline constexpr int kCtlResultsShowSelected = 3379;
 // The grid takes the place of placeholder 8042 and the print and save buttons are 8005 and
 // 8009, as in every data-grid dialog (grid_ids.h).
 
-inline constexpr int kStrResultsCaption = 25000;
-inline constexpr int kStrResultsComboLabel = 25001;
-inline constexpr int kStrResultsShowSelected = 25002;
-inline constexpr int kStrResultsClose = 25003;
 inline constexpr int kStrResultsModeLabel = 25004;
 
 // The envelope list, the report picker and the member envelope diagram.

@@ -186,6 +186,8 @@ class Field {
       };
     return *this;
   }
+  // Shown (with its label and suffix) only while the condition holds when the dialog opens.
+  Field& ShownWhen(std::function<bool(const Dlg&)> when) { return shown = std::move(when), *this; }
   // A drop-down's fixed entries (string-table texts) or the dialog's own list of them.
   Field& Items(std::initializer_list<const char*> items) { return layout.items = items, *this; }
   Field& Items(std::function<std::vector<std::string>(const Dlg&)> source) { return items = std::move(source), *this; }
@@ -195,6 +197,7 @@ class Field {
   std::function<void(Dlg&, CDataExchange*, int id)> exchange;
   std::function<std::function<void(Dlg&)>(Dlg&)> keep;
   std::function<std::vector<std::string>(const Dlg&)> items;
+  std::function<bool(const Dlg&)> shown;
 
  private:
   template <class T>
@@ -260,6 +263,9 @@ class Form final : public FormBase {
     for (const Field<Dlg>& f : fields_) {
       const std::vector<std::string> items = f.items ? f.items(*d) : std::vector<std::string>{};
       PrepareField(dlg, f.layout, units, f.items ? &items : nullptr);
+      if (f.shown)
+        for (const int id : {f.layout.id, f.layout.labelId, f.layout.suffixId})
+          if (id != 0) dlg.ShowDlgItem(id, f.shown(*d));
     }
   }
   void Exchange(CDialog& dlg, CDataExchange* pDX) const override {
