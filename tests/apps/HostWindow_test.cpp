@@ -2,6 +2,8 @@
 #include <QComboBox>
 #include <QImage>
 #include <QMenuBar>
+#include <QTableView>
+#include <QTreeWidget>
 
 #include <filesystem>
 
@@ -259,4 +261,39 @@ TEST_F(HostWindowTest, TheLoadTablesAndGeneratorsAreListedAndOpenOnTheExamplesLo
   EXPECT_EQ(path.GetData(1, 1), "13");
   EXPECT_EQ(path.GetData(1, 2), "14");
   EXPECT_FALSE(path.IsLockedAll());
+}
+
+// The main window reads its node table from the document's vector: no item per node, and
+// it follows every change of the document.
+TEST_F(HostWindowTest, TheNodeTableShowsTheDocumentsNodesAndFollowsItsChanges) {
+  const auto* view = window.findChild<QTableView*>("nodes");
+  ASSERT_NE(view, nullptr);
+  const QAbstractItemModel& table = *view->model();
+  const auto cell = [&](int row, int col) { return table.index(row, col).data().toString().toStdString(); };
+  const auto summary = [&](const QString& key) {
+    const auto items = window.findChild<QTreeWidget*>()->findItems(key, Qt::MatchExactly);
+    return items.size() == 1 ? items[0]->text(1).toStdString() : std::string("?");
+  };
+  ASSERT_EQ(table.rowCount(), 44);
+  EXPECT_EQ(summary("Nodes"), "44");
+  EXPECT_EQ(table.headerData(1, Qt::Horizontal).toString().toStdString(), "X [ft]");
+  // Node 2 lies at x = 20 ft, shown with the length's three decimals.
+  EXPECT_EQ(cell(1, 0), "2");
+  EXPECT_EQ(cell(1, 1), "20.000");
+  EXPECT_EQ(cell(1, 4), "");
+
+  window.model().doc.nodes[1].flags |= fmNd::kSelected;
+  ChangeLengthToMetres(IDOK);
+  EXPECT_EQ(table.headerData(1, Qt::Horizontal).toString().toStdString(), "X [m]");
+  EXPECT_EQ(cell(1, 1), "6.096");  // 20 ft
+  EXPECT_EQ(cell(1, 4), "yes");
+
+  window.model().doc.nodes.resize(3);
+  window.RefreshView();
+  EXPECT_EQ(table.rowCount(), 3);
+  EXPECT_EQ(summary("Nodes"), "3");
+  EXPECT_FALSE(table.index(3, 1).data().isValid());
+  window.model().modified = false;
+  ASSERT_TRUE(window.NewModel());
+  EXPECT_EQ(table.rowCount(), 0);
 }

@@ -7,11 +7,13 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTreeWidget>
 #include <map>
 
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostSettings.h"
+#include "apps/host/NodeTableModel.h"
 #include "dialogs/frame/CDialog.h"
 #include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
@@ -19,13 +21,6 @@
 #include "tools/format.h"
 
 namespace {
-
-// A value in the quantity's display format: indices 0 to 5 fixed, 6 to 11 exponential,
-// with 1 to 6 decimals.
-std::string FormatForDisplay(double value, int formatIndex) {
-  const int decimals = formatIndex % 6 + 1;
-  return formatIndex < 6 ? tools::Format("%.*f", decimals, value) : tools::Format("%.*e", decimals, value);
-}
 
 QTreeWidget* MakeTable(QWidget* parent) {
   auto* table = new QTreeWidget(parent);
@@ -48,8 +43,22 @@ QString DialogCaption(const DialogClassInfo& info) {
 }  // namespace
 
 HostWindow::HostWindow(QWidget* parent)
-    : QMainWindow(parent), summary_(MakeTable(this)), nodes_(MakeTable(this)) {
+    : QMainWindow(parent),
+      summary_(MakeTable(this)),
+      nodeModel_(new NodeTableModel(model_.doc, this)),
+      nodes_(new QTableView(this)) {
   summary_->setHeaderLabels({"Model", "Value"});
+  // Rows of one height and no row headings: the view then never measures a million rows.
+  nodes_->setObjectName("nodes");
+  nodes_->setModel(nodeModel_);
+  nodes_->verticalHeader()->hide();
+  nodes_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  nodes_->verticalHeader()->setDefaultSectionSize(nodes_->fontMetrics().height() + 4);
+  nodes_->setAlternatingRowColors(true);
+  nodes_->setShowGrid(false);
+  nodes_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  nodes_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  nodes_->horizontalHeader()->setHighlightSections(false);
   summary_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   auto* splitter = new QSplitter(Qt::Vertical, this);
   splitter->addWidget(summary_);
@@ -135,19 +144,7 @@ void HostWindow::RefreshView() {
   add("Show only selected", doc.display.showSelectedOnly ? "yes" : "no");
 
   // The nodes in the model's units and display format, as an embedding program shows them.
-  const auto heading = [&](const char* name) { return QString::fromStdString(doc.units.Heading(name, fmUnit::Length)); };
-  nodes_->clear();
-  nodes_->setHeaderLabels({"Node", heading("X"), heading("Y"), heading("Z"), "Selected"});
-  const int format = doc.display.format[fmUnit::Length];
-  for (const fmNd& nd : doc.nodes) {
-    auto* item = new QTreeWidgetItem({QString::fromStdString(tools::Format("%u", nd.id)),
-                                      QString::fromStdString(FormatForDisplay(nd.x, format)),
-                                      QString::fromStdString(FormatForDisplay(nd.y, format)),
-                                      QString::fromStdString(FormatForDisplay(nd.z, format)),
-                                      nd.IsSelected() ? "yes" : ""});
-    for (int c = 0; c < 4; ++c) item->setTextAlignment(c, Qt::AlignRight | Qt::AlignVCenter);
-    nodes_->addTopLevelItem(item);
-  }
+  nodeModel_->Refresh();
   QString status = model_.modified ? "Modified" : "Saved";
   if (!model_.status.empty()) status += " - " + QString::fromStdString(model_.status);
   statusBar()->showMessage(status);

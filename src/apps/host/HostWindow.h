@@ -7,6 +7,8 @@
 
 class QAction;
 class QLabel;
+class NodeTableModel;
+class QTableView;
 class QTreeWidget;
 
 // The demo host: opens a model document, lists the library's dialogs by family in its
@@ -45,5 +47,6 @@ class HostWindow : public QMainWindow {
   QAction* unlockAction_ = nullptr;
   QAction* selectedOnlyAction_ = nullptr;
   QTreeWidget* summary_;
-  QTreeWidget* nodes_;
+  NodeTableModel* nodeModel_;
+  QTableView* nodes_;
 };

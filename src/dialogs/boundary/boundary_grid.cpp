@@ -89,7 +89,7 @@ struct Refusal {
 class RowOut {
  public:
   RowOut(grid::Sheet& sheet, int row) : sheet_(sheet), row_(row) {}
-  void Real(int col, double v) { sheet_.SetNumber(col, row_, tools::FormatG(v)); }
+  void Real(int col, double v) { sheet_.SetNumberG(col, row_, v); }
   void Id(int col, uint32_t v) { sheet_.SetNumber(col, row_, tools::FormatInt(v)); }
   void Text(int col, const std::string& text) { sheet_.SetData(col, row_, text); }
   void Choice(int col, const std::vector<std::string>& items, bool second) { sheet_.SetData(col, row_, items[second ? 1 : 0]); }

@@ -37,10 +37,10 @@ std::vector<std::string> Headers(const fmUnit& units) {
 void FillOneRow(grid::Sheet& sheet, const fmMat& m, int row) {
   sheet.SetNumber(kId, row, tools::Format("%d", m.id));
   sheet.SetData(kLabel, row, m.label);
-  sheet.SetNumber(kE, row, tools::FormatG(m.E));
-  sheet.SetNumber(kNu, row, tools::FormatG(m.nu));
-  sheet.SetNumber(kDensity, row, tools::FormatG(m.density));
-  sheet.SetNumber(kTc, row, tools::FormatG(m.Tc));
+  sheet.SetNumberG(kE, row, m.E);
+  sheet.SetNumberG(kNu, row, m.nu);
+  sheet.SetNumberG(kDensity, row, m.density);
+  sheet.SetNumberG(kTc, row, m.Tc);
 }
 
 void Fill(grid::Sheet& sheet, const std::vector<fmMat>& materials, const fmUnit& units, grid::Color alternateRowColor,
@@ -127,12 +127,12 @@ void FillStrengthRow(grid::Sheet& sheet, StrengthKind kind, const fmMat& m, int 
   sheet.SetNumber(kId, row, tools::Format("%d", m.id));
   sheet.SetData(kLabel, row, m.label);
   if (kind == kConcrete) {
-    sheet.SetNumber(3, row, tools::FormatG(m.fc));
-    sheet.SetNumber(4, row, tools::FormatG(m.fy));
-    sheet.SetNumber(5, row, tools::FormatG(m.fys));
+    sheet.SetNumberG(3, row, m.fc);
+    sheet.SetNumberG(4, row, m.fy);
+    sheet.SetNumberG(5, row, m.fys);
   } else {
-    sheet.SetNumber(3, row, tools::FormatG(m.fy));
-    sheet.SetNumber(4, row, tools::FormatG(m.fys));
+    sheet.SetNumberG(3, row, m.fy);
+    sheet.SetNumberG(4, row, m.fys);
   }
 }
 

@@ -46,7 +46,7 @@ fmSect RigidLinkSection() {
 
 void FillOneRow(grid::Sheet& sheet, const fmSect& section, int row) {
   sheet.SetData(kLabel, row, section.label);
-  for (const auto& v : kValues) sheet.SetNumber(v.col, row, tools::FormatG(section.*v.field));
+  for (const auto& v : kValues) sheet.SetNumberG(v.col, row, section.*v.field);
 }
 
 std::vector<fmSect> Fill(grid::Sheet& sheet, const std::vector<fmSect>& sections, const fmUnit& units,

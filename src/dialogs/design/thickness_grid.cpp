@@ -22,7 +22,7 @@ void Fill(grid::Sheet& sheet, const std::vector<fmThick>& thicknesses, const fmU
     const fmThick& t = thicknesses[static_cast<size_t>(row - 1)];
     sheet.SetNumber(kId, row, tools::Format("%d", row));
     sheet.SetData(kLabel, row, t.label);
-    sheet.SetNumber(kThickness, row, tools::FormatG(t.thickness));
+    sheet.SetNumberG(kThickness, row, t.thickness);
   }
 }
 

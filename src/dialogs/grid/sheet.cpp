@@ -1,5 +1,8 @@
 #include "dialogs/grid/sheet.h"
 
+#include <cmath>
+
+#include "tools/format.h"
 #include "tools/parse.h"
 #include "tools/labels.h"
 #include "tools/parallel.h"
@@ -34,6 +37,7 @@ void Sheet::SetMaxRows(int rows) {
       c.cells.resize(static_cast<size_t>(rows) + 1);
       if (!c.locks.empty()) c.locks.resize(static_cast<size_t>(rows) + 1, 0);
       if (!c.numbers.empty()) c.numbers.resize(static_cast<size_t>(rows) + 1, 0);
+      if (!c.values.empty()) c.values.resize(static_cast<size_t>(rows) + 1, 0.0);
     }
   });
 }
@@ -61,13 +65,35 @@ void Sheet::SetNumber(int col, int row, std::string_view text) {
   SetData(col, row, text);
   Column& c = columns_[col];
   if (c.numbers.empty()) c.numbers.assign(c.cells.size(), 0);
-  c.numbers[row] = 1;
+  c.numbers[row] = kFromText;
+}
+
+void Sheet::SetNumber(int col, int row, double value, std::string_view text) {
+  if (!InGrid(col, row)) return;
+  SetNumber(col, row, text);
+  if (!std::isfinite(value)) return;
+  Column& c = columns_[col];
+  if (c.values.empty()) c.values.assign(c.cells.size(), 0.0);
+  c.values[row] = value;
+  c.numbers[row] = kFromValue;
 }
 
 bool Sheet::IsNumber(int col, int row) const {
   if (!InGrid(col, row)) return false;
   const Column& c = columns_[col];
   return static_cast<size_t>(row) < c.numbers.size() && c.numbers[row];
+}
+
+void Sheet::SetNumberG(int col, int row, double value) {
+  if (!InGrid(col, row)) return;
+  SetNumber(col, row, value, tools::FormatG(value));
+}
+
+std::optional<double> Sheet::GetNumber(int col, int row) const {
+  if (!IsNumber(col, row)) return std::nullopt;
+  const Column& c = columns_[col];
+  if (c.numbers[row] == kFromValue) return c.values[row];
+  return tools::ParseDouble(c.cells[row]);
 }
 
 void Sheet::SetTypedData(int col, int row, std::string_view text) {

@@ -72,7 +72,14 @@ class Sheet {
   // A cell filled from a number: exported to a workbook as a number. Every other cell is
   // text there, however much it looks like a number ("0012", "1E3", a label).
   void SetNumber(int col, int row, std::string_view text);
+  // A cell filled from a value: the grid shows the text, a workbook gets the value itself at
+  // full precision. A value that is not finite leaves a number cell read from its text.
+  void SetNumber(int col, int row, double value, std::string_view text);
+  // The same, shown as "%g" shows it.
+  void SetNumberG(int col, int row, double value);
   bool IsNumber(int col, int row) const;
+  // A number cell's value: the one it was filled from, else its text read as a number.
+  std::optional<double> GetNumber(int col, int row) const;
   // What the user typed or pasted: a number cell stays one when the new text reads as a
   // number; any other cell stays text.
   void SetTypedData(int col, int row, std::string_view text);
@@ -127,7 +134,8 @@ class Sheet {
   struct Column {
     std::vector<std::string, tools::LargeBlockAllocator<std::string>> cells;  // index = row, 0 = heading
     std::vector<uint8_t> locks;      // per row; empty until a cell lock is set
-    std::vector<uint8_t> numbers;    // per row; empty until a number is set
+    std::vector<uint8_t> numbers;    // per row; empty until a number is set (kFromText, kFromValue)
+    std::vector<double> values;      // per row; empty until a cell is filled from a value
     bool locked = false;
     CellType type;
     double width = 10;
@@ -137,6 +145,7 @@ class Sheet {
     Color back = kNoColor;
     Color fore = kNoColor;
   };
+  static constexpr uint8_t kFromText = 1, kFromValue = 2;
   static uint64_t Key(int col, int row) { return (uint64_t(uint32_t(col)) << 32) | uint32_t(row); }
   bool InGrid(int col, int row) const { return col >= 0 && col <= MaxCols() && row >= 0 && row <= rows_; }
 

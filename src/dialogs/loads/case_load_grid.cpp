@@ -112,7 +112,7 @@ class CellWriter {
   void Choice(const std::vector<std::string>& items, int32_t index) {
     sheet_.SetData(col_++, row_, index >= 0 && static_cast<size_t>(index) < items.size() ? items[static_cast<size_t>(index)] : "");
   }
-  void Real(double value) { sheet_.SetNumber(col_++, row_, tools::FormatG(value)); }
+  void Real(double value) { sheet_.SetNumberG(col_++, row_, value); }
 
  private:
   grid::Sheet& sheet_;

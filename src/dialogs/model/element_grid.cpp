@@ -219,7 +219,7 @@ int Fill(grid::Sheet& sheet, std::span<const Record> rows, const ElementLists& l
     for (int k = 0; k < Record::kNodeCount; ++k) SetUInt(sheet, c.firstNode + k, row, r.nodes[static_cast<size_t>(k)]);
     sheet.SetData(c.material, row, ItemOf(materials, r.mat - 1));
     if (c.property) sheet.SetData(c.property, row, ItemOf(properties, PropertyOf(r) - 1));
-    if (c.angle) sheet.SetNumber(c.angle, row, tools::FormatG(AngleOf(r)));
+    if (c.angle) sheet.SetNumberG(c.angle, row, AngleOf(r));
     if (c.nonlinear) sheet.SetData(c.nonlinear, row, ItemOf(kNonlinearItems, NonlinearOf(r)));
     sheet.SetData(c.activation, row, kActivationItems[r.IsInactive() ? 1 : 0]);
     sheet.SetData(c.selfWeight, row, kSelfWeightItems[r.IsExcludedFromSelfWeight() ? 1 : 0]);

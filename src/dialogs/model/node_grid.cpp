@@ -42,9 +42,9 @@ int Fill(grid::Sheet& sheet, const std::vector<fmNd>& nodes, const fmUnit& units
     if (selectedOnly && !nd.IsSelected()) continue;
     ++row;
     sheet.SetNumber(kId, row, tools::FormatInt(nd.id));
-    sheet.SetNumber(kX, row, tools::FormatG(nd.x));
-    sheet.SetNumber(kY, row, tools::FormatG(nd.y));
-    sheet.SetNumber(kZ, row, tools::FormatG(nd.z));
+    sheet.SetNumberG(kX, row, nd.x);
+    sheet.SetNumberG(kY, row, nd.y);
+    sheet.SetNumberG(kZ, row, nd.z);
     sheet.SetData(kStatus, row, kStatusItems[nd.IsFrozen() ? 2 : nd.IsSelected() ? 1 : 0]);
   }
   return rows;

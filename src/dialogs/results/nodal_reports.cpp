@@ -38,7 +38,7 @@ void SetUpGrid(const ReportContext& ctx, int rows, const std::vector<std::string
 
 void CellWriter::Fixed3(int col, int row, double value) {
   const auto [end, ec] = std::to_chars(buffer_, buffer_ + sizeof buffer_, value, std::chars_format::fixed, 3);
-  sheet_.SetNumber(col, row, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
+  sheet_.SetNumber(col, row, value, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
 }
 
 namespace {
@@ -258,10 +258,12 @@ void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<
   index.Build(displacements, [](const fmResult6Val& r) { return static_cast<int64_t>(r.number); });
   const Shown d = ShownAs(m, kDisplacement);
   // The ratio of a drift to its story height, both in inches, whatever units they are shown in.
+  // The grid shows it as a percentage; a workbook gets the ratio itself, in a percent format.
   const double displacementSize = m.m_Units.Factor(kDisplacement);
   const double lengthSize = m.m_Units.Factor(fmUnit::Length);
-  auto ratio = [&](double drift, double height) {
-    return tools::Format("%.3f %%", drift * displacementSize / (height * lengthSize) * 100.0);
+  auto ratio = [&](int col, int row, double drift, double height) {
+    const double value = drift * displacementSize / (height * lengthSize);
+    ctx.sheet.SetNumber(col, row, value, tools::Format("%.3f %%", value * 100.0));
   };
 
   CellWriter out(ctx.sheet);
@@ -282,15 +284,15 @@ void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<
     const double dx = r.v[0] * d.factor, dz = r.v[2] * d.factor;
     if (shown) {
       out.Id(1, row, id);
-      out.Text(2, row, tools::Format("%.3f", height));
+      out.Fixed3(2, row, height);
       out.Value(3, row, dx, d.format);
       out.Value(4, row, dx - belowDx, d.format);
       out.Value(6, row, dz, d.format);
       out.Value(7, row, dz - belowDz, d.format);
       // A drift node level with the one below has no story and no ratio.
       if (height != 0) {
-        out.Text(5, row, ratio(dx - belowDx, height));
-        out.Text(8, row, ratio(dz - belowDz, height));
+        ratio(5, row, dx - belowDx, height);
+        ratio(8, row, dz - belowDz, height);
       }
     }
     belowY = node->y;

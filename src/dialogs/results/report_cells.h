@@ -32,9 +32,9 @@ class CellWriter {
     const auto [end, ec] = std::to_chars(buffer_, buffer_ + sizeof buffer_, value);
     sheet_.SetNumber(col, row, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
   }
-  // The value already in display units.
+  // The value already in display units; a workbook gets it before it was formatted.
   void Value(int col, int row, double value, int format) {
-    sheet_.SetNumber(col, row, std::string_view(buffer_, FormatDisplayTo(buffer_, value, format)));
+    sheet_.SetNumber(col, row, value, std::string_view(buffer_, FormatDisplayTo(buffer_, value, format)));
   }
   void Value(int col, int row, double value, const Shown& s) { Value(col, row, value * s.factor, s.format); }
   // A number printed by a fixed printf format ("%.3f").

@@ -153,6 +153,10 @@ TEST_F(NodalReports, StoryDriftRatioUsesBothUnitFactors) {
   // The first drift node against the base, which does not move.
   EXPECT_EQ(Row(1), (Cells{"3", "12.000", "0.7200", "0.7200", "0.500 %", "0.1200", "0.1200", "0.083 %"}));
   EXPECT_EQ(Row(2), (Cells{"5", "12.000", "1.0800", "0.3600", "0.250 %", "0.1200", "0.0000", "0.000 %"}));
+  // A workbook gets the ratios themselves, unrounded: 0.12 in over 144 in.
+  EXPECT_DOUBLE_EQ(sheet.GetNumber(5, 1).value_or(-1), 0.005);
+  EXPECT_DOUBLE_EQ(sheet.GetNumber(8, 1).value_or(-1), 0.12 / 144);
+  EXPECT_DOUBLE_EQ(sheet.GetNumber(2, 2).value_or(-1), 12);
 }
 
 TEST_F(NodalReports, StoryDriftNamesMissingNodesAndLevelNodesHaveNoRatio) {
