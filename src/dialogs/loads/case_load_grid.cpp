@@ -158,14 +158,14 @@ class CellReader {
 
   bool Id(uint32_t& id) {
     const int col = col_++;
-    const ColumnSpec& spec = Spec(col);
+    const ColumnSpec& column = ColumnAt(col);
     const std::string& text = sheet_.GetData(col, row_);
     const auto value = tools::ParseUInt32(text);
     if (!value || *value > kMaxId)
-      return Refuse(col, tools::Format("%s must be a whole number from 0 to %u, not \"%s\".", spec.heading, kMaxId,
+      return Refuse(col, tools::Format("%s must be a whole number from 0 to %u, not \"%s\".", column.heading, kMaxId,
                                        std::string(tools::Trim(text)).c_str()));
-    if (known_.Of(spec.reference).Find(*value) < 0)
-      return Refuse(col, tools::Format("%s %u does not exist.", ReferenceWord(spec.reference), *value));
+    if (known_.Of(column.reference).Find(*value) < 0)
+      return Refuse(col, tools::Format("%s %u does not exist.", ReferenceWord(column.reference), *value));
     id = *value;
     return true;
   }
@@ -196,10 +196,10 @@ class CellReader {
   bool Choice(int32_t& index) {
     const int col = col_++;
     const std::string& text = sheet_.GetData(col, row_);
-    const int position = ItemPosition(*Spec(col).items, text);
+    const int position = ItemPosition(*ColumnAt(col).items, text);
     if (position < 0) {
       const auto refusal = grid::ComboRefusal(sheet_, col, row_, text);
-      return Refuse(col, refusal ? *refusal : tools::Format("%s must be chosen.", Spec(col).heading));
+      return Refuse(col, refusal ? *refusal : tools::Format("%s must be chosen.", ColumnAt(col).heading));
     }
     index = position;
     return true;
@@ -210,7 +210,7 @@ class CellReader {
     const std::string& text = sheet_.GetData(col, row_);
     const auto read = grid::ReadReal(text, original);
     if (!read)
-      return Refuse(col, tools::Format("%s must be a number, not \"%s\".", Spec(col).heading,
+      return Refuse(col, tools::Format("%s must be a number, not \"%s\".", ColumnAt(col).heading,
                                        std::string(tools::Trim(text)).c_str()));
     value = *read;
     return true;
@@ -219,12 +219,12 @@ class CellReader {
   bool Ratio(double& value, const double* original) {
     if (!Real(value, original)) return false;
     if (value < 0.0 || value > 1.0)
-      return RefuseLast(tools::Format("%s must be from 0 to 1, not %g.", Spec(col_ - 1).heading, value));
+      return RefuseLast(tools::Format("%s must be from 0 to 1, not %g.", ColumnAt(col_ - 1).heading, value));
     return true;
   }
 
  private:
-  const ColumnSpec& Spec(int col) const { return columns_[static_cast<size_t>(col - kCaseColumn - 1)]; }
+  const ColumnSpec& ColumnAt(int col) const { return columns_[static_cast<size_t>(col - kCaseColumn - 1)]; }
 
   const grid::Sheet& sheet_;
   int row_;

@@ -189,8 +189,8 @@ void MemberResultLines(Lines& s, const fmBmVMD& b) {
   const std::string& length = s.Label(fmUnit::Length);
   // One value in its display format, then the distance with three decimals.
   auto at = [&](const char* pattern, Q q, double value, double distance) {
-    const DisplayFormatSpec spec = GetDisplayFormat(m.DisplayFormat(q));
-    const std::string format = tools::Format(pattern, spec.precision, spec.letter, s.Label(q).c_str());
+    const DisplayFormatSpec display = GetDisplayFormat(m.DisplayFormat(q));
+    const std::string format = tools::Format(pattern, display.precision, display.letter, s.Label(q).c_str());
     s.Add(tools::Format(format.c_str(), value, distance, length.c_str()));
   };
   at("  Max Mz = %%.%d%c (%s) @ Distance = %%.3f (%%s)", fmUnit::Moment, maxMz->force[5] * mm, maxMz->distance * l);
