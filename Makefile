@@ -4,7 +4,7 @@ JOBS ?= $(shell nproc 2>/dev/null || echo 2)
 EXAMPLE ?= examples/building.json
 SCREENSHOT ?= $(BUILD_DIR)/norvane-host.png
 
-.PHONY: all setup configure build run test bench package clean
+.PHONY: all setup configure build run test bench package clean fuzz sanitize
 
 all: build
 
@@ -37,8 +37,17 @@ test: build
 package: build
 	@cd $(BUILD_DIR) && cpack -G DEB
 
+# The fuzz targets of tests/fuzz, each for FUZZ_SECONDS, in a sanitized clang build (build-fuzz).
+FUZZ_SECONDS ?= 60
+fuzz:
+	@scripts/fuzz build && scripts/fuzz run $(FUZZ_SECONDS)
+
+# The Qt-free tests in that same build, under AddressSanitizer and UndefinedBehaviorSanitizer.
+sanitize:
+	@scripts/fuzz build && scripts/fuzz test
+
 bench: build
 	@QT_QPA_PLATFORM=offscreen $(BUILD_DIR)/norvane_bench
 
 clean:
-	@rm -rf $(BUILD_DIR)
+	@rm -rf $(BUILD_DIR) build-fuzz

@@ -26,7 +26,7 @@ const CfmStruct& BigModel() {
     s.m_Solution.results.resize(kCases);
     for (int c = 0; c < kCases; ++c) {
       s.m_Solution.cases.emplace_back(c + 1, tools::Format("Case %d", c + 1), "Other");
-      s.m_Solution.envelopeCombinations.push_back(tools::Format("Case %d", c + 1));
+      s.m_EnvelopeCombinations.push_back(tools::Format("Case %d", c + 1));
       std::vector<fmResult6Val>& d = s.m_Solution.results[static_cast<size_t>(c)].displacements;
       d.resize(kNodes);
       for (int i = 0; i < kNodes; ++i) {

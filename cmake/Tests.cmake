@@ -8,7 +8,7 @@ set(CORE_TESTS)
 set(DIALOG_TESTS)
 foreach(f ${ALL_TESTS})
   get_filename_component(name ${f} NAME)
-  if(f MATCHES "/tests/support/")
+  if(f MATCHES "/tests/support/" OR f MATCHES "/tests/fuzz/")
     continue()
   elseif(name MATCHES "^[A-Z]")
     list(APPEND DIALOG_TESTS ${f})
@@ -21,6 +21,7 @@ endforeach()
 # (localedef needs no privileges when it writes into the build folder).
 set(NORVANE_TEST_LOCALE_DIR ${CMAKE_BINARY_DIR}/test-locales)
 add_custom_command(OUTPUT ${NORVANE_TEST_LOCALE_DIR}/.compiled
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${NORVANE_TEST_LOCALE_DIR}
   COMMAND sh -c "locale -a 2>/dev/null | grep -qix 'de_DE.utf-\\?8' || localedef -i de_DE -f UTF-8 '${NORVANE_TEST_LOCALE_DIR}/de_DE.UTF-8' >/dev/null 2>&1 || true"
   COMMAND ${CMAKE_COMMAND} -E touch ${NORVANE_TEST_LOCALE_DIR}/.compiled
   VERBATIM)
@@ -31,7 +32,6 @@ set(TEST_DEFINITIONS
   NORVANE_SOURCE_DATA_DIR="${CMAKE_SOURCE_DIR}/data"
   NORVANE_EXAMPLES_DIR="${CMAKE_SOURCE_DIR}/examples"
   NORVANE_CLI_PATH="$<TARGET_FILE:norvane-cli>"
-  NORVANE_HOST_PATH="$<TARGET_FILE:norvane-host>"
   NORVANE_TEST_LOCALE_DIR="${NORVANE_TEST_LOCALE_DIR}")
 
 # A case that hangs fails after this many seconds instead of stopping the run.
@@ -45,12 +45,16 @@ target_compile_definitions(core_tests PRIVATE ${TEST_DEFINITIONS})
 add_dependencies(core_tests norvane-cli norvane_test_locale)
 gtest_discover_tests(core_tests PROPERTIES LABELS core TIMEOUT ${NORVANE_TEST_TIMEOUT} DISCOVERY_TIMEOUT 60)
 
+if(NOT NORVANE_QT)
+  return()
+endif()
+
 add_executable(dialog_tests ${DIALOG_TESTS} tests/support/gui_main.cpp)
 set_target_properties(dialog_tests PROPERTIES AUTOMOC ON)
 target_include_directories(dialog_tests PRIVATE ${CMAKE_SOURCE_DIR}/tests ${CMAKE_SOURCE_DIR}/src/apps)
 target_link_libraries(dialog_tests PRIVATE norvane_host nlohmann_json::nlohmann_json GTest::gtest Qt6::Test Qt6::Pdf)
 target_compile_options(dialog_tests PRIVATE ${NORVANE_WARNINGS})
-target_compile_definitions(dialog_tests PRIVATE ${TEST_DEFINITIONS})
+target_compile_definitions(dialog_tests PRIVATE ${TEST_DEFINITIONS} NORVANE_HOST_PATH="$<TARGET_FILE:norvane-host>")
 add_dependencies(dialog_tests norvane-host norvane_test_locale)
 gtest_discover_tests(dialog_tests PROPERTIES LABELS dialogs TIMEOUT ${NORVANE_TEST_TIMEOUT} DISCOVERY_TIMEOUT 60
                      ENVIRONMENT QT_QPA_PLATFORM=offscreen)

@@ -10,7 +10,10 @@ namespace analysis {
 namespace {
 
 constexpr double kRigidFactor = 1e6;    // a rigid link against the stiffest member
-constexpr double kPenaltyFactor = 1e7;  // constraints and diaphragms against the largest stiffness
+// Constraints and diaphragms are this many times stiffer than what they tie: rigid to a
+// ten-thousandth, with the equations well enough conditioned that every result balances its
+// loads to about 1e-9.
+constexpr double kPenaltyFactor = 1e4;
 
 void CheckNode(const Model& model, size_t node, const char* what) {
   if (node >= model.nodes.size()) throw AnalysisError(std::string(what) + " names a node the model does not have.");
@@ -272,16 +275,32 @@ GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& acti
         k.coeffRef(static_cast<Eigen::Index>(GlobalDof(sh.nodes[a], d)), static_cast<Eigen::Index>(GlobalDof(sh.nodes[a], d))) += share[a] * s.k[static_cast<size_t>(d)];
   }
 
+  std::vector<double> untied;
+  if (!model.constraints.empty() || !model.diaphragms.empty()) {
+    untied.resize(6 * model.nodes.size());
+    for (size_t dof = 0; dof < untied.size(); ++dof)
+      untied[dof] = k.coeff(static_cast<Eigen::Index>(dof), static_cast<Eigen::Index>(dof));
+  }
   // Constraints and diaphragms as stiff penalties on rigid-body relations, so they pass
-  // forces without taking any from outside.
+  // forces without taking any from outside. Each relation is made stiffer than what its own
+  // degrees of freedom have, by the penalty factor, in that relation's direction: one scale
+  // for the whole model would be far too stiff for translations when rotations set it.
   if (!model.constraints.empty() || !model.diaphragms.empty()) {
     double largest = 0;
-    for (Eigen::Index c = 0; c < k.outerSize(); ++c) largest = std::max(largest, std::abs(k.coeff(c, c)));
-    const double alpha = kPenaltyFactor * std::max(largest, 1.0);
+    for (double d : untied) largest = std::max(largest, std::abs(d));
+    const auto tie = [&](const std::vector<std::pair<size_t, double>>& c) {
+      double own = 0;
+      for (const auto& [dof, coefficient] : c)
+        if (coefficient != 0) own = std::max(own, std::abs(untied[dof]) / (coefficient * coefficient));
+      const double alpha = kPenaltyFactor * (own > 0 ? own : std::max(largest, 1.0));
+      AddPenalty(k, c, alpha);
+      return alpha;
+    };
     for (const Constraint& c : model.constraints) {
       CheckNode(model, c.nodes[0], "A constraint");
       CheckNode(model, c.nodes[1], "A constraint");
-      AddPenalty(k, {{GlobalDof(c.nodes[0], c.dofs[0]), 1.0}, {GlobalDof(c.nodes[1], c.dofs[1]), -1.0}}, alpha);
+      out.constraintPenalty.push_back(
+          tie({{GlobalDof(c.nodes[0], c.dofs[0]), 1.0}, {GlobalDof(c.nodes[1], c.dofs[1]), -1.0}}));
     }
     for (const Diaphragm& d : model.diaphragms) {
       if (d.nodes.empty()) continue;
@@ -293,9 +312,9 @@ GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& acti
         CheckNode(model, s, "A diaphragm");
         const double dx = model.nodes[s].x - mn.x, dz = model.nodes[s].z - mn.z;
         // A rigid turn θy about the master moves a point by (θy dz, 0, -θy dx).
-        AddPenalty(k, {{GlobalDof(s, Ux), 1.0}, {GlobalDof(master, Ux), -1.0}, {GlobalDof(master, Ry), -dz}}, alpha);
-        AddPenalty(k, {{GlobalDof(s, Uz), 1.0}, {GlobalDof(master, Uz), -1.0}, {GlobalDof(master, Ry), dx}}, alpha);
-        AddPenalty(k, {{GlobalDof(s, Ry), 1.0}, {GlobalDof(master, Ry), -1.0}}, alpha);
+        tie({{GlobalDof(s, Ux), 1.0}, {GlobalDof(master, Ux), -1.0}, {GlobalDof(master, Ry), -dz}});
+        tie({{GlobalDof(s, Uz), 1.0}, {GlobalDof(master, Uz), -1.0}, {GlobalDof(master, Ry), dx}});
+        tie({{GlobalDof(s, Ry), 1.0}, {GlobalDof(master, Ry), -1.0}});
       }
     }
   }
@@ -322,6 +341,10 @@ GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& acti
 
   // The free block keeps the full matrix's column order, so it stays upper triangular.
   const auto nf = static_cast<Eigen::Index>(num.freeDofs.size());
+  if (!untied.empty()) {
+    out.freeUntied.resize(nf);
+    for (Eigen::Index c = 0; c < nf; ++c) out.freeUntied[c] = untied[num.freeDofs[static_cast<size_t>(c)]];
+  }
   SparseMatrix& f = out.free;
   f.resize(nf, nf);
   std::vector<int> outer(static_cast<size_t>(nf) + 1, 0);

@@ -29,6 +29,11 @@ struct GlobalStiffness {
   SparseMatrix full;  // upper triangle, 6 × nodes square
   DofNumbering numbering;
   SparseMatrix free;  // upper triangle of the free equations
+  // Per free equation, its diagonal before the ties' penalties: what the elements and springs
+  // give it, against which a pivot tells a mechanism (a penalty alone stiffens nothing).
+  Eigen::VectorXd freeUntied;
+  // Per constraint of the model, the stiffness of the penalty that ties its two degrees of freedom.
+  std::vector<double> constraintPenalty;
 };
 
 // Assembles every element, spring, constraint and diaphragm; supports are held and the

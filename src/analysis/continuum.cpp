@@ -361,3 +361,136 @@ Vector24 BrickThermalLoads(const Model& model, const Brick& b, double strain) {
 }
 
 }  // namespace analysis
+
+// Results of shells and bricks at their centre and nodes, recovered from the nodes'
+// displacements with the same fields the stiffness was built from (the incompatible modes
+// condensed from the element's own displacements).
+namespace analysis {
+namespace {
+
+// The centre, then the nodes in order.
+constexpr double kShellPoint[5][2] = {{0, 0}, {-1, -1}, {1, -1}, {1, 1}, {-1, 1}};
+
+}  // namespace
+
+ShellPointForces ShellForcesAt(const Model& model, const Shell& s, const Vector24& global, double thermalStrain) {
+  Check(model, s.material, "Shell", s.id);
+  const Material& mat = model.materials[s.material];
+  const double t = s.thickness;
+  const ShellGeometry g = Geometry(model, s);
+  const Matrix3 dm = MembraneElasticity(mat, t);
+  const Matrix3 db = dm * (t * t / 12);
+  const double ds = kShearCorrection * mat.G() * t;
+  const Vector24 u = Rotation24(g.axes, 8) * global;
+  const auto gA = CovariantShear(g, 0, 1, 0), gC = CovariantShear(g, 0, -1, 0);
+  const auto gD = CovariantShear(g, 1, 0, 1), gB = CovariantShear(g, -1, 0, 1);
+  const Eigen::Matrix2d j0 = Jacobian(g, Quad(0, 0));
+  const Eigen::Matrix2d j0inv = j0.inverse();
+  const double det0 = j0.determinant();
+
+  struct Fields {
+    Eigen::Matrix<double, 3, 24> bm, bb;
+    Eigen::Matrix<double, 2, 24> bs;
+    Eigen::Matrix<double, 3, 4> bi;
+  };
+  auto fields = [&](double xi, double eta) {
+    Fields f;
+    const Quad q(xi, eta);
+    const Eigen::Matrix2d j = Jacobian(g, q);
+    const double det = j.determinant();
+    const Eigen::Matrix2d jinv = j.inverse();
+    f.bm.setZero();
+    f.bb.setZero();
+    for (int a = 0; a < 4; ++a) {
+      const double nx = jinv(0, 0) * q.dxi[a] + jinv(0, 1) * q.deta[a];
+      const double ny = jinv(1, 0) * q.dxi[a] + jinv(1, 1) * q.deta[a];
+      f.bm(0, 6 * a) = nx;
+      f.bm(1, 6 * a + 1) = ny;
+      f.bm(2, 6 * a) = ny;
+      f.bm(2, 6 * a + 1) = nx;
+      f.bb(0, 6 * a + 4) = nx;
+      f.bb(1, 6 * a + 3) = -ny;
+      f.bb(2, 6 * a + 4) = ny;
+      f.bb(2, 6 * a + 3) = -nx;
+    }
+    Eigen::Matrix<double, 2, 24> covariant;
+    covariant.row(0) = 0.5 * (1 + eta) * gA + 0.5 * (1 - eta) * gC;
+    covariant.row(1) = 0.5 * (1 + xi) * gD + 0.5 * (1 - xi) * gB;
+    f.bs = jinv * covariant;
+    const double pxi[2] = {-2 * xi, 0}, peta[2] = {0, -2 * eta};
+    f.bi.setZero();
+    for (int m = 0; m < 2; ++m) {
+      const double px = (j0inv(0, 0) * pxi[m] + j0inv(0, 1) * peta[m]) * det0 / det;
+      const double py = (j0inv(1, 0) * pxi[m] + j0inv(1, 1) * peta[m]) * det0 / det;
+      f.bi(0, 2 * m) = px;
+      f.bi(1, 2 * m + 1) = py;
+      f.bi(2, 2 * m) = py;
+      f.bi(2, 2 * m + 1) = px;
+    }
+    return std::make_pair(f, std::abs(det));
+  };
+  Eigen::Matrix<double, 4, 1> fci = Eigen::Matrix<double, 4, 1>::Zero();
+  Eigen::Matrix4d kii = Eigen::Matrix4d::Zero();
+  for (double xi : {-kGauss, kGauss})
+    for (double eta : {-kGauss, kGauss}) {
+      const auto [f, dA] = fields(xi, eta);
+      fci += dA * f.bi.transpose() * dm * (f.bm * u);
+      kii += dA * f.bi.transpose() * dm * f.bi;
+    }
+  const Eigen::Vector4d alpha = -kii.ldlt().solve(fci);
+  const Vector3 free(thermalStrain, thermalStrain, 0);
+
+  ShellPointForces out{};
+  for (size_t p = 0; p < 5; ++p) {
+    const auto [f, dA] = fields(kShellPoint[p][0], kShellPoint[p][1]);
+    const Vector3 n = dm * (f.bm * u + f.bi * alpha - free);
+    // Moments positive where they put the bottom face (local -z) in tension.
+    const Vector3 m = -db * (f.bb * u);
+    const Eigen::Vector2d v = ds * (f.bs * u);
+    out[p] = {n[0], n[1], n[2], m[0], m[1], m[2], v[0], v[1]};
+  }
+  return out;
+}
+
+BrickPointStresses BrickStressesAt(const Model& model, const Brick& b, const Vector24& u, double thermalStrain) {
+  Check(model, b.material, "Brick", b.id);
+  const Eigen::Matrix<double, 6, 6> d = SolidElasticity(model.materials[b.material]);
+  const auto x = HexCoordinates(model, b);
+  const Matrix3 j0 = Hex(0, 0, 0).dn * x;
+  const Matrix3 j0inv = j0.inverse();
+  const double det0 = j0.determinant();
+  auto fields = [&](double xi, double eta, double zeta) {
+    const Hex h(xi, eta, zeta);
+    const Matrix3 j = h.dn * x;
+    const double det = j.determinant();
+    const Eigen::Matrix<double, 3, 8> dx = j.inverse() * h.dn;
+    Eigen::Matrix<double, 3, 3> pn = Eigen::Matrix<double, 3, 3>::Zero();
+    pn(0, 0) = -2 * xi;
+    pn(1, 1) = -2 * eta;
+    pn(2, 2) = -2 * zeta;
+    const Eigen::Matrix<double, 3, 3> px = (det0 / det) * j0inv * pn;
+    return std::make_tuple(StrainRows<8>(dx), StrainRows<3>(px), Volume(b, det));
+  };
+  Eigen::Matrix<double, 9, 1> fci = Eigen::Matrix<double, 9, 1>::Zero();
+  Eigen::Matrix<double, 9, 9> kii = Eigen::Matrix<double, 9, 9>::Zero();
+  for (double xi : {-kGauss, kGauss})
+    for (double eta : {-kGauss, kGauss})
+      for (double zeta : {-kGauss, kGauss}) {
+        const auto [bc, bi, dv] = fields(xi, eta, zeta);
+        fci += dv * bi.transpose() * d * (bc * u);
+        kii += dv * bi.transpose() * d * bi;
+      }
+  const Eigen::Matrix<double, 9, 1> alpha = -kii.ldlt().solve(fci);
+  Eigen::Matrix<double, 6, 1> free = Eigen::Matrix<double, 6, 1>::Zero();
+  free.head<3>().setConstant(thermalStrain);
+  BrickPointStresses out{};
+  for (size_t p = 0; p < 9; ++p) {
+    const double* at = p == 0 ? nullptr : kHexSign[p - 1];
+    const auto [bc, bi, dv] = fields(at ? at[0] : 0, at ? at[1] : 0, at ? at[2] : 0);
+    const Eigen::Matrix<double, 6, 1> stress = d * (bc * u + bi * alpha - free);
+    for (int k = 0; k < 6; ++k) out[p][static_cast<size_t>(k)] = stress[k];
+  }
+  return out;
+}
+
+}  // namespace analysis

@@ -26,4 +26,17 @@ Matrix24 BrickStiffness(const Model& model, const Brick& brick);
 std::array<double, 8> BrickNodalVolumes(const Model& model, const Brick& brick);
 Vector24 BrickThermalLoads(const Model& model, const Brick& brick, double strain);
 
+// A shell's forces per length at its centre and nodes (shell axes) from its nodes' global
+// displacements (6 per node): Fxx, Fyy, Fxy, then Mxx, Myy, Mxy (positive where the bottom,
+// local -z, face is in tension), then the transverse shears Vxx, Vyy. thermalStrain is the
+// free membrane strain of the result's thermal loads.
+using ShellPointForces = std::array<std::array<double, 8>, 5>;
+ShellPointForces ShellForcesAt(const Model& model, const Shell& shell, const Vector24& displacement,
+                               double thermalStrain);
+// A brick's stresses at its centre and nodes (global axes: Sx, Sy, Sz, Sxy, Syz, Sxz) from its
+// nodes' translations (3 per node).
+using BrickPointStresses = std::array<std::array<double, 6>, 9>;
+BrickPointStresses BrickStressesAt(const Model& model, const Brick& brick, const Vector24& displacement,
+                                   double thermalStrain);
+
 }  // namespace analysis

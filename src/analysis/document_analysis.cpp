@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <unordered_map>
 
+#include "analysis/element_results.h"
 #include "analysis/linear_static.h"
 #include "analysis/modal.h"
 #include "model/response_spectrum_settings.h"
@@ -52,13 +54,146 @@ size_t Reference(int32_t ref, size_t count, const std::string& owner, const char
   return static_cast<size_t>(ref - 1);
 }
 
+// Combination masses: the case's gravity loads (global, along -Y) times the factor become
+// masses at the nodes that carry them, in all three directions. Member loads go to the two
+// ends by the lever rule, a shell's pressure in quarters to its corners.
+void AddCombinationMasses(Model& m, const LoadCase& c, double factor) {
+  std::map<size_t, double> weight;  // node to the weight it carries
+  const auto length = [&](const Member& mb) {
+    const Node& a = m.nodes[mb.nodes[0]];
+    const Node& b = m.nodes[mb.nodes[1]];
+    return std::hypot(b.x - a.x, b.y - a.y, b.z - a.z);
+  };
+  const auto split = [&](const Member& mb, double w, double at) {
+    const double l = length(mb), t = l > 0 ? std::clamp(at / l, 0.0, 1.0) : 0.5;
+    weight[mb.nodes[0]] += w * (1 - t);
+    weight[mb.nodes[1]] += w * t;
+  };
+  for (const NodalLoad& l : c.nodal)
+    if (l.dof == 1 && l.value < 0) weight[l.node] -= l.value;
+  for (const MemberPointLoad& l : c.memberPoint)
+    if (!l.local && l.direction == 1 && l.value < 0) split(m.members[l.member], -l.value, l.distance);
+  for (const MemberLineLoad& l : c.memberLine) {
+    if (l.local || l.direction != 1 || l.value[0] > 0 || l.value[1] > 0) continue;
+    const double run = l.distance[1] - l.distance[0], sum = l.value[0] + l.value[1];
+    if (run <= 0 || sum == 0) continue;
+    // A trapezoid's weight and centroid.
+    split(m.members[l.member], -sum / 2 * run, l.distance[0] + run * (l.value[0] + 2 * l.value[1]) / (3 * sum));
+  }
+  for (const SurfaceLoad& l : c.surface) {
+    if (l.local || l.direction != 1 || l.value >= 0) continue;
+    const Shell& sh = m.shells[l.shell];
+    const Node &a = m.nodes[sh.nodes[0]], &b = m.nodes[sh.nodes[1]], &cc = m.nodes[sh.nodes[2]], &d = m.nodes[sh.nodes[3]];
+    const double p[3] = {cc.x - a.x, cc.y - a.y, cc.z - a.z}, q[3] = {d.x - b.x, d.y - b.y, d.z - b.z};
+    const double area = std::hypot(p[1] * q[2] - p[2] * q[1], p[2] * q[0] - p[0] * q[2], p[0] * q[1] - p[1] * q[0]) / 2;
+    for (size_t node : sh.nodes) weight[node] += -l.value * area / 4;
+  }
+  for (const auto& [node, w] : weight)
+    for (int dof = 0; dof < 3; ++dof) m.masses.push_back({node, dof, w * factor / m.g});
+}
+
+// The loads of every load case, from the document's case loads (its one source of loads),
+// in the analysis' units. Loads on inactive elements have nothing to act on and are left out.
+void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, DocumentModel& out) {
+  Model& m = out.model;
+  const Scale s{doc.units};
+  const auto indexOf = [](const auto& elements) {
+    std::unordered_map<uint32_t, size_t> at;
+    for (size_t i = 0; i < elements.size(); ++i) at.emplace(static_cast<uint32_t>(elements[i].id), i);
+    return at;
+  };
+  const auto memberAt = indexOf(m.members), shellAt = indexOf(m.shells), brickAt = indexOf(m.bricks);
+  const auto find = [](const std::unordered_map<uint32_t, size_t>& at, uint32_t id) -> const size_t* {
+    const auto it = at.find(id);
+    return it == at.end() ? nullptr : &it->second;
+  };
+  const auto memberLength = [&](size_t k) {
+    const Node& a = m.nodes[m.members[k].nodes[0]];
+    const Node& b = m.nodes[m.members[k].nodes[1]];
+    return std::hypot(b.x - a.x, b.y - a.y, b.z - a.z);
+  };
+  size_t skipped = 0, areas = 0, sideways = 0;
+  bool selfWeightMass = false;
+  for (size_t i = 0; i < doc.loadCases.size(); ++i) {
+    LoadCase c;
+    c.name = doc.loadCases[i].name;
+    if (i >= doc.caseLoads.size()) {
+      m.cases.push_back(std::move(c));
+      continue;
+    }
+    const fmCaseLoad& cl = doc.caseLoads[i];
+    if (cl.selfWeight.factor != 0) {
+      // The analysis applies self weight along -Y: a factor along Y of -1 is the weight itself.
+      if (cl.selfWeight.direction == 1)
+        c.selfWeight = -cl.selfWeight.factor;
+      else
+        ++sideways;
+    }
+    for (const fmNodalLoad& l : cl.nodal)
+      c.nodal.push_back({nodes.At(l.node, "A nodal load"), l.direction, l.magnitude * s.Action(l.direction)});
+    for (const fmPtLoad& l : cl.point) {
+      const size_t* k = find(memberAt, l.member);
+      if (!k) {
+        ++skipped;
+        continue;
+      }
+      c.memberPoint.push_back({*k, l.direction, l.local, l.magnitude * s.Action(l.direction), l.ratio * memberLength(*k)});
+    }
+    for (const fmLineLoad& l : cl.line) {
+      const size_t* k = find(memberAt, l.member);
+      if (!k) {
+        ++skipped;
+        continue;
+      }
+      const double f = l.direction < 3 ? s(fmUnit::LinearForce) : s(fmUnit::LinearMoment);
+      const double length = memberLength(*k);
+      c.memberLine.push_back({*k, l.direction, l.local, {l.magnitude[0] * f, l.magnitude[1] * f},
+                              {l.ratio[0] * length, l.ratio[1] * length}});
+    }
+    for (const fmSurfaceLoad& l : cl.surface) {
+      const size_t* k = find(shellAt, l.shell);
+      if (!k) {
+        ++skipped;
+        continue;
+      }
+      c.surface.push_back({*k, l.direction, l.local, l.magnitude * s(fmUnit::SurfaceForce)});
+    }
+    const auto thermal = [&](const std::vector<fmThermalLoad>& list, const std::unordered_map<uint32_t, size_t>& at,
+                             ThermalLoad::Kind kind) {
+      for (const fmThermalLoad& l : list) {
+        if (const size_t* k = find(at, l.element))
+          c.thermal.push_back({kind, *k, l.temperature * s(fmUnit::Temperature)});
+        else
+          ++skipped;
+      }
+    };
+    thermal(cl.memberThermal, memberAt, ThermalLoad::Kind::Member);
+    thermal(cl.shellThermal, shellAt, ThermalLoad::Kind::Shell);
+    thermal(cl.brickThermal, brickAt, ThermalLoad::Kind::Brick);
+    areas += cl.area.size();
+    if (cl.massFactor != 0) {
+      AddCombinationMasses(m, c, cl.massFactor);
+      selfWeightMass = selfWeightMass || c.selfWeight != 0;
+    }
+    for (const fmNodalMass& nm : cl.nodalMasses) {
+      const double weight = nm.weight * s(fmUnit::Force) * (nm.direction < 3 ? 1 : s(fmUnit::Length) * s(fmUnit::Length));
+      m.masses.push_back({nodes.At(nm.node, "A nodal mass"), nm.direction, weight / m.g});
+    }
+    m.cases.push_back(std::move(c));
+  }
+  if (skipped > 0) out.notes.push_back(Id(static_cast<int64_t>(skipped)) + " loads on inactive elements left out");
+  if (areas > 0) out.notes.push_back(Id(static_cast<int64_t>(areas)) + " area loads not analysed");
+  if (sideways > 0) out.notes.push_back(Id(static_cast<int64_t>(sideways)) + " self weights along X or Z not analysed");
+  if (selfWeightMass)
+    out.notes.push_back("self weight left out of the combination masses: the elements carry their own mass");
+}
+
 }  // namespace
 
 DocumentModel ModelFromDocument(const model::ModelDocument& doc) {
   DocumentModel out;
   Model& m = out.model;
   const Scale s{doc.units};
-  const Scale rs{doc.results.units};
   const double fl = s(fmUnit::Length);
 
   for (const fmNd& n : doc.nodes) {
@@ -119,47 +254,54 @@ DocumentModel ModelFromDocument(const model::ModelDocument& doc) {
   }
   if (inactive > 0) out.notes.push_back(Id(static_cast<int64_t>(inactive)) + " inactive elements left out");
 
-  for (const fmSupport& sp : doc.supports) m.supports.push_back({nodes.At(sp.node, "A support"), sp.restrained, {}});
-
-  const fmSolution& r = doc.results;
-  for (const auto& sp : r.nodalSprings) {
+  for (const fmSupport& sp : doc.supports) {
+    Support support{nodes.At(sp.node, "A support"), sp.restrained, {}};
+    for (int d = 0; d < 6; ++d) support.value[static_cast<size_t>(d)] = sp.displacement[static_cast<size_t>(d)] * s.Motion(d);
+    m.supports.push_back(support);
+  }
+  for (const fmNodalSpring& sp : doc.nodalSprings) {
     NodalSpring ns;
     ns.node = nodes.At(sp.node, "A nodal spring");
-    for (int d = 0; d < 6; ++d) ns.k[static_cast<size_t>(d)] = sp.k[static_cast<size_t>(d)] * rs.Spring(d);
+    for (int d = 0; d < 6; ++d) ns.k[static_cast<size_t>(d)] = sp.k[static_cast<size_t>(d)] * s.Spring(d);
     m.nodalSprings.push_back(ns);
   }
-  for (const auto& sp : r.coupledSprings) {
+  for (const fmCoupledSpring& sp : doc.coupledSprings) {
     CoupledSpring cs;
     cs.node = nodes.At(sp.node, "A coupled spring");
-    size_t at = 0;
-    for (int i = 0; i < 6; ++i)
-      for (int j = i; j < 6; ++j, ++at)
-        cs.k[at] = sp.k[at] * (i < 3 && j < 3   ? rs(fmUnit::NodeSpring)
-                               : i >= 3 && j >= 3 ? rs(fmUnit::NodeRotationalSpring)
-                                                  : rs(fmUnit::Force));
+    for (int t = 0; t < fmCoupledSpring::kTermCount; ++t) {
+      const int kind = fmCoupledSpring::TermKind(t);
+      cs.k[static_cast<size_t>(t)] = sp.k[static_cast<size_t>(t)] * s(kind == 0   ? fmUnit::NodeSpring
+                                                                       : kind == 1 ? fmUnit::NodeRotationalSpring
+                                                                                   : fmUnit::Force);
+    }
     m.coupledSprings.push_back(cs);
   }
-  for (const auto& nm : r.nodalMasses) {
-    const double weight = nm.magnitude * rs(fmUnit::Force) * (nm.direction < 3 ? 1 : rs(fmUnit::Length) * rs(fmUnit::Length));
-    m.masses.push_back({nodes.At(nm.node, "A nodal mass"), nm.direction, weight / m.g});
+  // Springs and releases of inactive elements go with them.
+  std::unordered_map<uint32_t, size_t> memberAt, shellAt;
+  for (size_t i = 0; i < m.members.size(); ++i) memberAt.emplace(m.members[i].id, i);
+  for (size_t i = 0; i < m.shells.size(); ++i) shellAt.emplace(m.shells[i].id, i);
+  for (const fmLineSpring& sp : doc.lineSprings)
+    if (const auto at = memberAt.find(sp.member); at != memberAt.end())
+      m.lineSprings.push_back({at->second, {sp.k[0] * s(fmUnit::LineSpring), sp.k[1] * s(fmUnit::LineSpring),
+                                            sp.k[2] * s(fmUnit::LineSpring)}});
+  for (const fmSurfaceSpring& sp : doc.surfaceSprings)
+    if (const auto at = shellAt.find(sp.shell); at != shellAt.end())
+      m.surfaceSprings.push_back({at->second, {sp.k[0] * s(fmUnit::AreaSpring), sp.k[1] * s(fmUnit::AreaSpring),
+                                               sp.k[2] * s(fmUnit::AreaSpring)}});
+  for (const fmMemberRelease& r : doc.releases)
+    if (const auto at = memberAt.find(r.member); at != memberAt.end()) m.members[at->second].releases = r.released;
+  for (const fmConstraint& c : doc.constraints) {
+    const std::string owner = "Constraint " + Id(c.id);
+    m.constraints.push_back({c.id, {nodes.At(c.node[0], owner), nodes.At(c.node[1], owner)}, {c.dof[0], c.dof[1]}});
+  }
+  for (const fmDiaphragm& d : doc.diaphragms) {
+    const std::string owner = "Diaphragm " + Id(d.id);
+    Diaphragm diaphragm;
+    for (uint32_t id : DiaphragmNodes(d, doc.nodes)) diaphragm.nodes.push_back(nodes.At(id, owner));
+    if (diaphragm.nodes.size() > 1) m.diaphragms.push_back(std::move(diaphragm));
   }
 
-  for (const fmLoadCase& lc : doc.loadCases) {
-    LoadCase c;
-    c.name = lc.name;
-    m.cases.push_back(std::move(c));
-  }
-  size_t orphanLoads = 0;
-  for (const auto& l : r.nodalLoads) {
-    const int c = FindCaseIndex(doc.loadCases, l.caseName);
-    if (c < 0) {
-      ++orphanLoads;
-      continue;
-    }
-    m.cases[static_cast<size_t>(c)].nodal.push_back({nodes.At(l.node, "A nodal load"), l.direction, l.magnitude * rs.Action(l.direction)});
-  }
-  if (orphanLoads > 0)
-    out.notes.push_back(Id(static_cast<int64_t>(orphanLoads)) + " nodal loads of load cases the model does not have left out");
+  AddCaseLoads(doc, nodes, out);
   for (const fmLoadComb& comb : doc.loadCombs) {
     Combination c;
     c.name = comb.name;
@@ -209,16 +351,6 @@ std::vector<fmResult6Val> SupportRecords(const Model& m, const Eigen::VectorXd& 
 void ConvertInputRecords(fmSolution& r, const fmUnit& to) {
   const Scale from{r.units}, dest{to};
   for (auto& l : r.nodalLoads) l.magnitude *= from.Action(l.direction) / dest.Action(l.direction);
-  for (auto& sp : r.nodalSprings)
-    for (int d = 0; d < 6; ++d) sp.k[static_cast<size_t>(d)] *= from.Spring(d) / dest.Spring(d);
-  for (auto& sp : r.coupledSprings) {
-    size_t at = 0;
-    for (int i = 0; i < 6; ++i)
-      for (int j = i; j < 6; ++j, ++at) {
-        const Q q = i < 3 && j < 3 ? fmUnit::NodeSpring : i >= 3 && j >= 3 ? fmUnit::NodeRotationalSpring : fmUnit::Force;
-        sp.k[at] *= from(q) / dest(q);
-      }
-  }
   for (auto& nm : r.nodalMasses) {
     const double f = nm.direction < 3 ? 1 : from(fmUnit::Length) * from(fmUnit::Length) / (dest(fmUnit::Length) * dest(fmUnit::Length));
     nm.magnitude *= f * from(fmUnit::Force) / dest(fmUnit::Force);
@@ -292,14 +424,13 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
   const Scale s{doc.units};
   fmSolution kept = old;
   ConvertInputRecords(kept, doc.units);
-  out.envelopeCombinations = kept.envelopeCombinations;
-  out.driftNodes = kept.driftNodes;
-  out.nodalSprings = kept.nodalSprings;
-  out.coupledSprings = kept.coupledSprings;
   out.nodalLoads = kept.nodalLoads;
   out.nodalMasses = kept.nodalMasses;
-  for (const fmSupport& sp : doc.supports)
-    out.supports.push_back({static_cast<int32_t>(sp.node), sp.RestraintText(), {}});
+  // Element results of a combination are formed from its cases when asked, unless members
+  // that switch off make the combination a problem of its own.
+  const bool superposes = std::none_of(m.members.begin(), m.members.end(),
+                                       [](const Member& b) { return b.axial != AxialBehaviour::Linear; });
+  const int stations = std::max(request.memberStations, 2);
 
   for (size_t i = 0; i < st.results.size(); ++i) {
     const StaticResult& r = st.results[i];
@@ -312,11 +443,28 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
       cr.nodalSpringReactions.push_back(Record(static_cast<int32_t>(m.nodes[m.nodalSprings[k].node].id), r.nodalSprings[k], s));
     for (size_t k = 0; k < m.coupledSprings.size(); ++k)
       cr.coupledSpringReactions.push_back(Record(static_cast<int32_t>(m.nodes[m.coupledSprings[k].node].id), r.coupledSprings[k], s));
+    for (size_t k = 0; k < m.lineSprings.size() && k < r.lineSprings.size(); ++k)
+      cr.lineSpringReactions.push_back(Record(static_cast<int32_t>(m.members[m.lineSprings[k].member].id), r.lineSprings[k], s));
+    for (size_t k = 0; k < m.surfaceSprings.size() && k < r.surfaceSprings.size(); ++k)
+      cr.surfaceSpringReactions.push_back(Record(static_cast<int32_t>(m.shells[m.surfaceSprings[k].shell].id), r.surfaceSprings[k], s));
+    for (size_t k = 0; k < m.constraints.size() && k < r.constraints.size(); ++k) {
+      const Constraint& c = m.constraints[k];
+      fmConstraintForce f;
+      f.id = static_cast<int32_t>(c.id);
+      for (size_t end = 0; end < 2; ++end) {
+        f.node[end] = static_cast<int32_t>(m.nodes[c.nodes[end]].id);
+        f.dof[end] = c.dofs[end];
+        f.value[end] = r.constraints[k][end] / s.Action(c.dofs[end]);
+      }
+      cr.constraintForces.push_back(f);
+    }
+    if (isCase || !superposes) WriteElementResults(m, r.displacement, r.terms, r.activeMembers, doc.units, stations, cr);
     out.results.push_back(std::move(cr));
   }
   for (const Mode& mode : modal.modes) {
     fmEigenMode em;
     em.omega2 = mode.omega2;
+    em.error = mode.error;
     em.shape = NodeRecords(m, mode.shape, s, false);
     double largest = 0;
     for (const auto& rec : em.shape)
@@ -330,6 +478,7 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
     for (const SpectrumMode& sm : sr.modes) {
       fmSpectrumMode rec;
       rec.omega2 = sm.omega2;
+      rec.participation = sm.participation;
       for (size_t d = 0; d < 3; ++d) {
         rec.displacements[d] = NodeRecords(m, sm.displacement[d], s, false);
         rec.inertialForces[d] = NodeRecords(m, sm.inertialForce[d], s, true);
@@ -338,6 +487,10 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
     }
     out.spectrum.displacements = NodeRecords(m, sr.displacement, s, false);
     out.spectrum.reactions = SupportRecords(m, sr.reaction, s);
+    std::vector<std::array<Eigen::VectorXd, 3>> modalDisplacements;
+    for (const SpectrumMode& sm : sr.modes) modalDisplacements.push_back(sm.displacement);
+    WriteSpectrumElementResults(m, modalDisplacements, settings.factor, settings.absoluteSum, doc.units, stations,
+                                out.spectrum);
   }
   doc.results = std::move(out);
   return summary;

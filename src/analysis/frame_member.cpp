@@ -204,6 +204,11 @@ LocalMember LocalMemberMatrices(const Rigidities& r, double length, const std::a
   return out;
 }
 
+Eigen::Matrix<double, 6, 1> SectionForcesAt(const LocalMemberLoads& loads, double length, const Vector12& endForces,
+                                            double s) {
+  return SectionForces(loads, s) + UnitTipSectionForces(length, s) * endForces.segment<6>(6);
+}
+
 Matrix12 MemberRotation(const Matrix3& axes) {
   Matrix12 t = Matrix12::Zero();
   for (int b = 0; b < 4; ++b) t.block<3, 3>(3 * b, 3 * b) = axes;

@@ -56,6 +56,12 @@ struct LocalMember {
 LocalMember LocalMemberMatrices(const Rigidities& r, double length, const std::array<std::array<bool, 6>, 2>& releases,
                                 const LocalMemberLoads& loads, uint32_t memberId);
 
+// The internal forces at distance s from the first node: N (tension positive), Vy, Vz, T,
+// My, Mz of everything beyond s (the second node's end forces on the member and the loads
+// past s) about the section. Mz is positive where it puts local -y in tension.
+Eigen::Matrix<double, 6, 1> SectionForcesAt(const LocalMemberLoads& loads, double length, const Vector12& endForces,
+                                            double s);
+
 // Global 12×12 rotation of a member's end displacements: u_local = T u_global.
 Matrix12 MemberRotation(const Matrix3& axes);
 

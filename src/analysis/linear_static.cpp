@@ -34,7 +34,9 @@ struct Solver {
   StiffnessFactor factor;
 
   Solver(const Model& m, const MemberActivity& active) : model(m), k(AssembleStiffness(m, active)) {
-    factor.Factor(k.free, [&](Eigen::Index eq) { return DofLabel(model, k.numbering.freeDofs[static_cast<size_t>(eq)]); });
+    factor.Factor(
+        k.free, [&](Eigen::Index eq) { return DofLabel(model, k.numbering.freeDofs[static_cast<size_t>(eq)]); },
+        k.freeUntied);
   }
 
   // Displacements of several load vectors (columns) at once.
@@ -95,6 +97,14 @@ void Recover(const Model& model, const GlobalStiffness& k, StaticResult& r) {
     for (size_t node : m.nodes)
       for (int d = 0; d < 3; ++d) f[static_cast<size_t>(d)] -= half * s.k[static_cast<size_t>(d)] * u[static_cast<Eigen::Index>(GlobalDof(node, d))];
     r.lineSprings.push_back(f);
+  }
+  r.constraints.clear();
+  for (size_t i = 0; i < model.constraints.size() && i < k.constraintPenalty.size(); ++i) {
+    const Constraint& c = model.constraints[i];
+    const double stretch = u[static_cast<Eigen::Index>(GlobalDof(c.nodes[0], c.dofs[0]))] -
+                           u[static_cast<Eigen::Index>(GlobalDof(c.nodes[1], c.dofs[1]))];
+    const double force = k.constraintPenalty[i] * stretch;
+    r.constraints.push_back({-force, force});
   }
   r.surfaceSprings.clear();
   for (const SurfaceSpring& s : model.surfaceSprings) {

@@ -20,6 +20,9 @@ struct StaticResult {
   // Forces of the springs on the structure, per record of the model's spring lists (the six
   // values at its node; for line and surface springs the sum over the element's nodes).
   std::vector<std::array<double, 6>> nodalSprings, coupledSprings, lineSprings, surfaceSprings;
+  // Per constraint of the model, the force (or moment) of the tie on its first and second
+  // degree of freedom: equal and opposite.
+  std::vector<std::array<double, 2>> constraints;
   MemberActivity activeMembers;  // empty: all
 };
 

@@ -50,7 +50,9 @@ ModalResults SolveModes(const Model& model, int count, const Progress& progress)
   out.stiffness = stiffness;
   const DofNumbering& num = stiffness->numbering;
   StiffnessFactor factor;
-  factor.Factor(stiffness->free, [&](Eigen::Index eq) { return DofLabel(model, num.freeDofs[static_cast<size_t>(eq)]); });
+  factor.Factor(
+      stiffness->free, [&](Eigen::Index eq) { return DofLabel(model, num.freeDofs[static_cast<size_t>(eq)]); },
+      stiffness->freeUntied);
 
   out.mass = LumpedMasses(model);
   const auto nf = static_cast<Eigen::Index>(num.freeDofs.size());

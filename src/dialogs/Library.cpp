@@ -8,6 +8,7 @@
 void RegisterFrameDialogs();
 void RegisterUnitsDialogs();
 void RegisterModelDialogs();
+void RegisterBoundaryDialogs();
 void RegisterLoadsDialogs();
 void RegisterConcreteDesignDialogs();
 void RegisterGeometryDialogs();
@@ -15,6 +16,7 @@ void RegisterGridDialogs();
 void RegisterSectionsDialogs();
 void RegisterResultsDialogs();
 void RegisterSpectraDialogs();
+void RegisterCaseLoadsDialogs();
 
 namespace {
 int g_users = 0;
@@ -27,6 +29,7 @@ bool NorvaneDlgsStartup() {
   RegisterFrameDialogs();
   RegisterUnitsDialogs();
   RegisterModelDialogs();
+  RegisterBoundaryDialogs();
   RegisterLoadsDialogs();
   RegisterConcreteDesignDialogs();
   RegisterGeometryDialogs();
@@ -34,6 +37,7 @@ bool NorvaneDlgsStartup() {
   RegisterSectionsDialogs();
   RegisterResultsDialogs();
   RegisterSpectraDialogs();
+  RegisterCaseLoadsDialogs();
   return true;
 }
 

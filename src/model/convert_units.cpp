@@ -46,6 +46,24 @@ void ChangeDocumentUnits(ModelDocument& doc, const fmUnit& to) {
   for (const fmThick& t : props.thicknesses)
     if (!std::isfinite(t.thickness)) RefuseTooLarge("thickness", t.id);
 
+  std::vector<fmCaseLoad> loads = doc.caseLoads;
+  ConvertCaseLoadUnits(loads, effective);
+  if (!CaseLoadsFinite(loads))
+    throw fmException("The units were not changed: a load would become larger than a number can hold in the new units.");
+
+  ModelDocument boundaries;
+  boundaries.supports = doc.supports;
+  boundaries.nodalSprings = doc.nodalSprings;
+  boundaries.coupledSprings = doc.coupledSprings;
+  boundaries.lineSprings = doc.lineSprings;
+  boundaries.surfaceSprings = doc.surfaceSprings;
+  boundaries.diaphragms = doc.diaphragms;
+  ConvertBoundaryUnits(boundaries, effective);
+  if (!BoundariesFinite(boundaries))
+    throw fmException(
+        "The units were not changed: a spring or prescribed displacement would become larger than a number can hold in "
+        "the new units.");
+
   if (length != 1.0)
     for (fmNd& nd : doc.nodes) {
       nd.x *= length;
@@ -55,6 +73,13 @@ void ChangeDocumentUnits(ModelDocument& doc, const fmUnit& to) {
   doc.materials = std::move(props.materials);
   doc.sections = std::move(props.sections);
   doc.thicknesses = std::move(props.thicknesses);
+  doc.caseLoads = std::move(loads);
+  doc.supports = std::move(boundaries.supports);
+  doc.nodalSprings = std::move(boundaries.nodalSprings);
+  doc.coupledSprings = std::move(boundaries.coupledSprings);
+  doc.lineSprings = std::move(boundaries.lineSprings);
+  doc.surfaceSprings = std::move(boundaries.surfaceSprings);
+  doc.diaphragms = std::move(boundaries.diaphragms);
   doc.units = to;
   doc.units.convert.fill(0);  // the flags ask for one conversion; they are not a setting
 }

@@ -11,6 +11,9 @@ struct DisplaySettings {
   bool showSelectedOnly = false;
   bool modelLocked = false;
   std::array<int32_t, fmUnit::QuantityCount> format{2, 2, 2, 2, 2, 2, 2, 3, 8, 1, 1, 2, 2, 2, 2, 2, 2, 2};
+  // Points of a shell its reports list: 1 the four nodes, 2 the centre and the nodes, any
+  // other value the centre only.
+  int32_t shellResultLocation = 0;
 
   bool operator==(const DisplaySettings&) const = default;
 };

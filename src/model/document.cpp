@@ -61,6 +61,8 @@ ModelDocument ReadDocument(const nlohmann::json& root, const std::string& fileNa
     ReadSupports(r, doc);
     ReadSpectrumSettings(r, doc);
     ReadResults(r, doc);
+    ReadBoundaries(r, doc);
+    ReadCaseLoads(r, doc);
   } catch (const DocumentError& e) {
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
   }
@@ -116,11 +118,13 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   WriteUnits(doc, root);
   WriteNodes(doc, root);
   WriteLoads(doc, root);
+  WriteCaseLoads(doc, root);
   WriteMaterials(doc, root);
   WriteSections(doc, root);
   WriteThicknesses(doc, root);
   WriteElements(doc, root);
   WriteSupports(doc, root);
+  WriteBoundaries(doc, root);
   WriteSpectrumSettings(doc, root);
   WriteResults(doc, root);
   if (const std::string place = FirstNonFiniteNumber(root, ""); !place.empty())

@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "model/display_settings.h"
+#include "model/fm_boundary.h"
+#include "model/fm_case_load.h"
 #include "model/fm_element.h"
 #include "model/fm_load.h"
 #include "model/fm_material.h"
@@ -25,6 +27,7 @@ struct ModelDocument {
   std::vector<fmNd> nodes;
   std::vector<fmLoadCase> loadCases;
   std::vector<fmLoadComb> loadCombs;
+  std::vector<fmCaseLoad> caseLoads;  // the loads of loadCases[i] at i; the same count
   std::vector<fmMat> materials;
   std::vector<fmSect> sections;
   std::vector<fmThick> thicknesses;
@@ -32,6 +35,19 @@ struct ModelDocument {
   std::vector<fmShell4> shells;
   std::vector<fmBrick> bricks;
   std::vector<fmSupport> supports;  // at most one per node, each at a node of `nodes`
+  // Boundary and connection records (document_boundaries.cpp): at most one spring, coupled
+  // spring or drift entry per node, one line spring or release per member, one surface
+  // spring per shell; constraints and diaphragms numbered.
+  std::vector<fmNodalSpring> nodalSprings;
+  std::vector<fmCoupledSpring> coupledSprings;
+  std::vector<fmLineSpring> lineSprings;
+  std::vector<fmSurfaceSpring> surfaceSprings;
+  std::vector<fmMemberRelease> releases;
+  std::vector<fmConstraint> constraints;
+  std::vector<fmDiaphragm> diaphragms;
+  std::vector<uint32_t> driftNodes;  // the drift stack, from the bottom up
+  // Labels of the load cases and combinations that take part in the envelope reports.
+  std::vector<std::string> envelopeCombinations;
   fmResponseSpectrumSettings spectrumAnalysis;  // spectra named from the user's spectrum file
   fmSolution results;  // what the last solver run produced; empty when never solved
 
@@ -65,5 +81,9 @@ void SaveModelDocument(const ModelDocument& doc, const std::string& path);
 // Removes the supports whose node is no longer in `nodes` (after nodes were renumbered), so
 // that the document stays loadable; returns those node ids in support order.
 std::vector<uint32_t> RemoveSupportsAtMissingNodes(ModelDocument& doc);
+// The same for every boundary record that names a node, member or shell the model no longer
+// has (springs, releases, constraints, diaphragm masters and sets, drift nodes); returns how
+// many records were removed or changed.
+size_t RemoveBoundariesAtMissingObjects(ModelDocument& doc);
 
 }  // namespace model

@@ -15,19 +15,7 @@ std::array<uint32_t, N> ReadNodeIds(const JsonReader& item) {
   if (list.ArraySize() != N) list.Fail(tools::Format("expected %zu node ids", N));
   std::array<uint32_t, N> ids{};
   for (size_t k = 0; k < N; ++k) {
-    const JsonReader id = list.At(k);
-    const auto& v = id.value();
-    bool ok = v.is_number_integer();
-    uint64_t value = 0;
-    if (ok && v.is_number_unsigned()) {
-      value = v.get<uint64_t>();
-    } else if (ok) {
-      const int64_t signedValue = v.get<int64_t>();
-      ok = signedValue >= 0;
-      value = static_cast<uint64_t>(signedValue);
-    }
-    if (!ok || value > UINT32_MAX) id.Fail("expected a node id, a whole number from 0 to 4294967295");
-    ids[k] = static_cast<uint32_t>(value);
+    ids[k] = list.At(k).AsId("node id");
   }
   return ids;
 }
@@ -35,7 +23,7 @@ std::array<uint32_t, N> ReadNodeIds(const JsonReader& item) {
 // What every element has: id, flags and material reference.
 void ReadBase(const JsonReader& item, fmElementBase& e) {
   item.RequireObject();
-  e.id = item.UInt32("id");
+  e.id = item.Id("id");
   e.flags = static_cast<uint32_t>(item.Int("flags", 0, UINT32_MAX, 0));
   e.mat = static_cast<int32_t>(item.Int("material", 0, INT32_MAX));
 }

@@ -36,7 +36,7 @@ void ReadLoads(const JsonReader& root, ModelDocument& doc) {
       const JsonReader item = list.At(i);
       item.RequireObject();
       doc.loadCases.emplace_back(static_cast<int32_t>(item.Int("number", INT32_MIN, INT32_MAX, -1)),
-                                 item.String("label"), item.String("type", "Other"));
+                                 item.Label("label", "Load case"), item.String("type", "Other"));
     }
     RefuseLabelsEqualButForCase(list, doc.loadCases);
   }
@@ -47,7 +47,7 @@ void ReadLoads(const JsonReader& root, ModelDocument& doc) {
     for (size_t i = 0; i < n; ++i) {
       const JsonReader item = list.At(i);
       item.RequireObject();
-      fmLoadComb comb(item.String("label"));
+      fmLoadComb comb(item.Label("label", "Load combination"));
       comb.pdelta = Flag(item, "pdelta");
       comb.steelDesign = Flag(item, "steelDesign");
       comb.totalDeflection = Flag(item, "totalDeflection");

@@ -34,12 +34,6 @@ int32_t WholeNumber(const JsonReader& parent, size_t index, int64_t min, int64_t
   return static_cast<int32_t>(n);
 }
 
-template <size_t N>
-void ReadNumbers(const JsonReader& list, std::array<double, N>& out) {
-  if (list.ArraySize() != N) list.Fail("expected " + std::to_string(N) + " numbers");
-  for (size_t i = 0; i < N; ++i) out[i] = Number(list, i);
-}
-
 // A result vector holds one record per node or element: a second would be shown and summed twice.
 template <class Record, class IdOf>
 void RefuseDuplicates(const JsonReader& list, const std::vector<Record>& records, const char* word, IdOf idOf) {
@@ -130,6 +124,7 @@ fmCaseResults ReadCaseResults(const JsonReader& item) {
   fmCaseResults r;
   for (const VectorKey& k : kVectorKeys) r.*k.vector = ReadRecords(item, k.key, k.word);
   r.constraintForces = ReadConstraintForces(item);
+  ReadElementResults(item, r);
   return r;
 }
 
@@ -137,6 +132,7 @@ fmCaseResults ReadCaseResults(const JsonReader& item) {
 void WriteCaseResults(const fmCaseResults& r, OrderedJson& out) {
   for (const VectorKey& k : kVectorKeys)
     if (!(r.*k.vector).empty()) out[k.key] = WriteRecords(r.*k.vector);
+  WriteElementResults(r, out);
   if (r.constraintForces.empty()) return;
   OrderedJson list = OrderedJson::array();
   for (const fmConstraintForce& f : r.constraintForces)
@@ -219,6 +215,8 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
     item.RequireObject();
     fmEigenMode m;
     m.omega2 = item.Double("omega2");
+    m.error = item.Double("error", 0);
+    if (m.error < 0 || !std::isfinite(m.error)) item.Member("error").Fail("an error measure is a finite number not below 0");
     m.shape = ReadRecords(item, "shape");
     return m;
   });
@@ -226,6 +224,11 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
     item.RequireObject();
     fmSpectrumMode m;
     m.omega2 = item.Double("omega2");
+    if (item.Has("participation")) {
+      const JsonReader list = item.Member("participation");
+      if (list.ArraySize() != 3) list.Fail("expected 3 numbers: the participation factors in X, Y and Z");
+      for (size_t d = 0; d < 3; ++d) m.participation[d] = Number(list, d);
+    }
     for (const char* key : {"displacements", "inertialForces"}) {
       if (!item.Has(key)) continue;
       const JsonReader byAxis = item.Member(key);
@@ -238,38 +241,7 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
   RefuseNegativeEigenvalues(section, "eigenModes", s.eigenModes);
   RefuseNegativeEigenvalues(section, "spectrumModes", s.spectrumModes);
   if (section.Has("spectrum")) s.spectrum = ReadCaseResults(section.Member("spectrum"));
-  ReadList(section, "envelopeCombinations", s.envelopeCombinations, [](const JsonReader& item) {
-    if (!item.value().is_string()) item.Fail("expected a text");
-    return tools::CutLabel(item.value().get<std::string>());
-  });
-  if (section.Has("driftNodes")) {
-    const JsonReader list = section.Member("driftNodes");
-    const size_t n = list.ArraySize();
-    for (size_t i = 0; i < n; ++i) s.driftNodes.push_back(WholeNumber(list, i, INT32_MIN, INT32_MAX));
-  }
-  ReadList(section, "supports", s.supports, [](const JsonReader& item) {
-    item.RequireObject();
-    fmSolution::Support r;
-    r.node = ReadNode(item);
-    r.flag = item.String("flag");
-    if (item.Has("values")) ReadNumbers(item.Member("values"), r.value);
-    return r;
-  });
-  ReadList(section, "nodalSprings", s.nodalSprings, [](const JsonReader& item) {
-    item.RequireObject();
-    fmSolution::NodalSpring r;
-    r.node = ReadNode(item);
-    r.flag = item.String("flag");
-    ReadNumbers(item.Member("k"), r.k);
-    return r;
-  });
-  ReadList(section, "coupledSprings", s.coupledSprings, [](const JsonReader& item) {
-    item.RequireObject();
-    fmSolution::CoupledSpring r;
-    r.node = ReadNode(item);
-    ReadNumbers(item.Member("k"), r.k);
-    return r;
-  });
+  ReadConcreteDesign(section, s.concreteDesign);
   ReadList(section, "nodalLoads", s.nodalLoads, [](const JsonReader& item) {
     item.RequireObject();
     fmSolution::NodalLoad r;
@@ -307,7 +279,8 @@ void WriteResults(const ModelDocument& doc, OrderedJson& root) {
 
   if (!s.eigenModes.empty()) {
     OrderedJson modes = OrderedJson::array();
-    for (const fmEigenMode& m : s.eigenModes) modes.push_back({{"omega2", m.omega2}, {"shape", WriteRecords(m.shape)}});
+    for (const fmEigenMode& m : s.eigenModes)
+      modes.push_back({{"omega2", m.omega2}, {"error", m.error}, {"shape", WriteRecords(m.shape)}});
     out["eigenModes"] = std::move(modes);
   }
   if (!s.spectrumModes.empty()) {
@@ -318,7 +291,7 @@ void WriteResults(const ModelDocument& doc, OrderedJson& root) {
         displacements[kAxes[axis]] = WriteRecords(m.displacements[axis]);
         forces[kAxes[axis]] = WriteRecords(m.inertialForces[axis]);
       }
-      modes.push_back({{"omega2", m.omega2}, {"displacements", std::move(displacements)},
+      modes.push_back({{"omega2", m.omega2}, {"participation", m.participation}, {"displacements", std::move(displacements)},
                        {"inertialForces", std::move(forces)}});
     }
     out["spectrumModes"] = std::move(modes);
@@ -326,24 +299,7 @@ void WriteResults(const ModelDocument& doc, OrderedJson& root) {
   OrderedJson spectrum = OrderedJson::object();
   WriteCaseResults(s.spectrum, spectrum);
   if (!spectrum.empty()) out["spectrum"] = std::move(spectrum);
-  if (!s.envelopeCombinations.empty()) out["envelopeCombinations"] = s.envelopeCombinations;
-  if (!s.driftNodes.empty()) out["driftNodes"] = s.driftNodes;
-
-  if (!s.supports.empty()) {
-    OrderedJson list = OrderedJson::array();
-    for (const auto& r : s.supports) list.push_back({{"node", r.node}, {"flag", r.flag}, {"values", r.value}});
-    out["supports"] = std::move(list);
-  }
-  if (!s.nodalSprings.empty()) {
-    OrderedJson list = OrderedJson::array();
-    for (const auto& r : s.nodalSprings) list.push_back({{"node", r.node}, {"flag", r.flag}, {"k", r.k}});
-    out["nodalSprings"] = std::move(list);
-  }
-  if (!s.coupledSprings.empty()) {
-    OrderedJson list = OrderedJson::array();
-    for (const auto& r : s.coupledSprings) list.push_back({{"node", r.node}, {"k", r.k}});
-    out["coupledSprings"] = std::move(list);
-  }
+  WriteConcreteDesign(s.concreteDesign, out);
   if (!s.nodalLoads.empty()) {
     OrderedJson list = OrderedJson::array();
     for (const auto& r : s.nodalLoads)

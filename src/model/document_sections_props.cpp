@@ -1,5 +1,6 @@
 #include "model/document_sections.h"
 #include "tools/fm_unit.h"
+#include "tools/labels.h"
 
 // Materials, member sections and shell thicknesses. Each list is optional, so documents
 // written before these tables existed still load (with empty tables).
@@ -10,9 +11,7 @@ int32_t ReadId(const JsonReader& item, size_t index) {
   return static_cast<int32_t>(item.Int("id", 1, INT32_MAX, static_cast<int64_t>(index) + 1));
 }
 
-std::string ReadLabel(const JsonReader& item) {
-  return tools::CutLabel(item.String("label"), kRecordLabelChars);
-}
+static_assert(kRecordLabelChars == tools::kMaxLabelChars);
 
 // The size of one psi in the document's modulus unit.
 double PsiToDocumentModulus(const fmUnit& units) {
@@ -35,7 +34,7 @@ void ReadMaterials(const JsonReader& root, ModelDocument& doc) {
     const JsonReader item = list.At(i);
     item.RequireObject();
     fmMat m(ReadId(item, i));
-    m.label = ReadLabel(item);
+    m.label = item.Label("label", "Material");
     m.E = item.Double("E");
     m.nu = item.Double("nu");
     m.density = item.Double("density");
@@ -71,7 +70,7 @@ void ReadSections(const JsonReader& root, ModelDocument& doc) {
     const JsonReader item = list.At(i);
     item.RequireObject();
     fmSect s(ReadId(item, i));
-    s.label = ReadLabel(item);
+    s.label = item.Label("label", "Section");
     s.A = item.Double("A");
     s.Ay = item.Double("Ay", 0);
     s.Az = item.Double("Az", 0);
@@ -108,7 +107,7 @@ void ReadThicknesses(const JsonReader& root, ModelDocument& doc) {
     const JsonReader item = list.At(i);
     item.RequireObject();
     fmThick t(ReadId(item, i));
-    t.label = ReadLabel(item);
+    t.label = item.Label("label", "Thickness");
     t.thickness = item.Double("thickness");
     doc.thicknesses.push_back(std::move(t));
   }

@@ -1,10 +1,12 @@
+#include <cmath>
 #include <unordered_map>
 #include <unordered_set>
 
 #include "model/document_sections.h"
 #include "tools/format.h"
 
-// Supports: one record per supported node. Optional, so documents written before supports
+// Supports: one record per supported node, with the displacements it prescribes (written only
+// when one is not zero). Optional, so documents written before supports
 // were stored load without any. Unlike element node ids, a support's node is checked on
 // loading: a support at no node would hold nothing, and nothing else would ever show it.
 namespace model {
@@ -31,7 +33,7 @@ void ReadSupports(const JsonReader& root, ModelDocument& doc) {
     const JsonReader item = list.At(i);
     item.RequireObject();
     fmSupport s;
-    s.node = item.UInt32("node");
+    s.node = item.Id("node", "node id");
     if (!nodes.count(s.node)) item.Member("node").Fail(tools::Format("node %u is not in \"nodes\"", s.node));
     const auto [at, added] = supported.emplace(s.node, i);
     if (!added)
@@ -44,13 +46,30 @@ void ReadSupports(const JsonReader& root, ModelDocument& doc) {
     s.restrained = *flags;
     if (!s.RestrainsAnything())
       item.Member("restraints").Fail("a support must restrain at least one of Dx, Dy, Dz, Rx, Ry, Rz");
+    if (item.Has("displacements")) {
+      const JsonReader values = item.Member("displacements");
+      if (values.ArraySize() != size_t{fmSupport::kDofCount})
+        values.Fail("expected 6 numbers: the displacements Dx, Dy, Dz and rotations Dox, Doy, Doz it prescribes");
+      for (size_t k = 0; k < size_t{fmSupport::kDofCount}; ++k) {
+        const JsonReader v = values.At(k);
+        if (!v.value().is_number() || !std::isfinite(v.value().get<double>())) v.Fail("expected a finite number");
+        s.displacement[k] = v.value().get<double>();
+        // A free degree of freedom goes where the structure takes it.
+        if (s.displacement[k] != 0 && !s.restrained[k])
+          v.Fail("a displacement is prescribed only where the support restrains the node");
+      }
+    }
     doc.supports.push_back(s);
   }
 }
 
 void WriteSupports(const ModelDocument& doc, nlohmann::ordered_json& root) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
-  for (const fmSupport& s : doc.supports) list.push_back({{"node", s.node}, {"restraints", s.RestraintText()}});
+  for (const fmSupport& s : doc.supports) {
+    nlohmann::ordered_json item = {{"node", s.node}, {"restraints", s.RestraintText()}};
+    if (s.displacement != std::array<double, fmSupport::kDofCount>{}) item["displacements"] = s.displacement;
+    list.push_back(std::move(item));
+  }
   root["supports"] = std::move(list);
 }
 

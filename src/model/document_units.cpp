@@ -41,6 +41,7 @@ void ReadUnits(const JsonReader& root, ModelDocument& doc) {
     doc.display.showSelectedOnly = d.Bool("showSelectedOnly", false);
     doc.display.modelLocked = d.Bool("modelLocked", false);
     ReadIntArray(d, "format", doc.display.format, 0, 11);
+    doc.display.shellResultLocation = static_cast<int32_t>(d.Int("shellResultLocation", INT32_MIN, INT32_MAX, 0));
   }
 }
 
@@ -50,6 +51,7 @@ void WriteUnits(const ModelDocument& doc, nlohmann::ordered_json& root) {
                      {"showSelectedOnly", doc.display.showSelectedOnly},
                      {"modelLocked", doc.display.modelLocked},
                      {"format", doc.display.format}};
+  if (doc.display.shellResultLocation != 0) root["display"]["shellResultLocation"] = doc.display.shellResultLocation;
 }
 
 void ReadNodes(const JsonReader& root, ModelDocument& doc) {
@@ -62,7 +64,7 @@ void ReadNodes(const JsonReader& root, ModelDocument& doc) {
     const JsonReader item = list.At(i);
     item.RequireObject();
     fmNd nd;
-    nd.id = item.UInt32("id");
+    nd.id = item.Id("id", "node id");
     nd.x = item.Double("x");
     nd.y = item.Double("y");
     nd.z = item.Double("z");

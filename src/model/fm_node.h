@@ -1,6 +1,10 @@
 #pragma once
 #include <cstdint>
 
+// Node and element ids stay at or below this: results and queries number them as signed
+// 32-bit integers.
+inline constexpr uint32_t kMaxId = 2147483647;
+
 // A node: id, flags (bit 0 selected, bit 1 frozen) and coordinates in the length unit.
 struct fmNd {
   static constexpr uint32_t kSelected = 1u << 0;

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "model/fm_element_results.h"
 #include "model/fm_load.h"
 #include "model/fm_result.h"
 #include "tools/fm_unit.h"
@@ -17,8 +18,19 @@ struct fmCaseResults {
   std::vector<fmResult6Val> lineSpringReactions;     // per member with a line spring
   std::vector<fmResult6Val> surfaceSpringReactions;  // per shell with a surface spring
   std::vector<fmConstraintForce> constraintForces;
+  // Element results. A combination that holds none is formed from its load cases when asked
+  // (CfmStruct::GetElementResults).
+  std::vector<fmBmVMD> memberStations;                // per member
+  std::vector<fmShellForce> shellForces;              // per shell
+  std::vector<fmShellNodalResultant> shellResultants;  // per shell
+  std::array<std::vector<fmShellStress>, 2> shellStresses;  // top (local +z face), bottom
+  std::vector<fmBrickStress> brickStresses;           // per brick
 
   bool operator==(const fmCaseResults&) const = default;
+  bool HasElementResults() const {
+    return !memberStations.empty() || !shellForces.empty() || !shellResultants.empty() ||
+           !shellStresses[0].empty() || !shellStresses[1].empty() || !brickStresses.empty();
+  }
 };
 
 // A mode whose eigenvalue is zero, or below zero by no more than round-off (a millionth of the
@@ -28,6 +40,7 @@ bool IsRigidBodyMode(double omega2, const std::vector<double>& omega2OfAllModes)
 struct fmEigenMode {
   double omega2 = 0;  // eigenvalue: the square of the circular frequency
   std::vector<fmResult6Val> shape;
+  double error = 0;  // ‖Kφ − ω²Mφ‖ / ‖Kφ‖ of the computed pair
 
   bool operator==(const fmEigenMode&) const = default;
 };
@@ -38,33 +51,15 @@ struct fmSpectrumMode {
   double omega2 = 0;
   std::array<std::vector<fmResult6Val>, 3> displacements;
   std::array<std::vector<fmResult6Val>, 3> inertialForces;
+  std::array<double, 3> participation{};  // Γ = φᵀMr / φᵀMφ for excitation along X, Y, Z
 
   bool operator==(const fmSpectrumMode&) const = default;
 };
 
-// What a solver run analysed and produced beyond the model's own tables: the model
-// document's "results" section. Every value is in `units`.
+// What a solver run produced: the model document's "results" section. Every value is in
+// `units`. What the run analysed (supports, springs, the drift stack, the envelope list) is
+// the model's own (ModelDocument), not kept here.
 struct fmSolution {
-  // A support: which of the six degrees of freedom it holds (its flag text, e.g. "111111")
-  // and the displacements and rotations it prescribes.
-  struct Support {
-    int32_t node = 0;
-    std::string flag{};
-    std::array<double, 6> value{};
-    bool operator==(const Support&) const = default;
-  };
-  struct NodalSpring {
-    int32_t node = 0;
-    std::string flag{};
-    std::array<double, 6> k{};  // Kx, Ky, Kz, Kox, Koy, Koz
-    bool operator==(const NodalSpring&) const = default;
-  };
-  // The upper triangle of a node's 6x6 spring stiffness, row by row (Kx_Kx, Kx_Ky ... Koz_Koz).
-  struct CoupledSpring {
-    int32_t node = 0;
-    std::array<double, 21> k{};
-    bool operator==(const CoupledSpring&) const = default;
-  };
   // A nodal force (direction 0 to 2) or moment (3 to 5) of a load case, by the case's label.
   struct NodalLoad {
     int32_t node = 0;
@@ -87,13 +82,9 @@ struct fmSolution {
   std::vector<fmEigenMode> eigenModes;
   std::vector<fmSpectrumMode> spectrumModes;
   fmCaseResults spectrum;  // the response-spectrum modal combination
-  std::vector<std::string> envelopeCombinations;
-  std::vector<int32_t> driftNodes;  // walked in this order, from the bottom up
-  std::vector<Support> supports;
-  std::vector<NodalSpring> nodalSprings;
-  std::vector<CoupledSpring> coupledSprings;
   std::vector<NodalLoad> nodalLoads;
   std::vector<NodalMass> nodalMasses;
+  fmConcreteDesign concreteDesign;
 
   bool operator==(const fmSolution&) const = default;
   // Nothing solved and nothing recorded: a document without a results section.

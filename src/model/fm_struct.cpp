@@ -67,14 +67,18 @@ CfmStruct::CfmStruct(const CfmStruct& other)
       m_Members(other.m_Members),
       m_Shells(other.m_Shells),
       m_Bricks(other.m_Bricks),
+      m_Supports(other.m_Supports),
+      m_NodalSprings(other.m_NodalSprings),
+      m_CoupledSprings(other.m_CoupledSprings),
       m_LineSprings(other.m_LineSprings),
       m_SurfaceSprings(other.m_SurfaceSprings),
-      m_PointLoads(other.m_PointLoads),
-      m_LineLoads(other.m_LineLoads),
-      m_SurfaceLoads(other.m_SurfaceLoads),
-      m_MemberThermalLoads(other.m_MemberThermalLoads),
-      m_ShellThermalLoads(other.m_ShellThermalLoads),
-      m_BrickThermalLoads(other.m_BrickThermalLoads),
+      m_DriftNodes(other.m_DriftNodes),
+      m_EnvelopeCombinations(other.m_EnvelopeCombinations),
+      m_LoadCases(other.m_LoadCases),
+      m_LoadCombs(other.m_LoadCombs),
+      m_CaseLoads(other.m_CaseLoads),
+      m_Counts(other.m_Counts),
+      m_nShellResultLocation(other.m_nShellResultLocation),
       m_Solution(other.m_Solution),
       indexes_(std::make_unique<Indexes>()) {}
 
@@ -161,7 +165,7 @@ double CfmStruct::BaseLevel() const {
   // Supports stand on the base; a footing below them is part of the foundation, not a storey.
   bool found = false;
   double base = 0;
-  for (const fmSolution::Support& support : m_Solution.supports)
+  for (const fmSupport& support : m_Supports)
     if (const fmNd* n = FindNode(support.node)) {
       base = found ? std::min(base, n->y) : n->y;
       found = true;

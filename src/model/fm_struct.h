@@ -5,12 +5,15 @@
 #include <string>
 #include <vector>
 
+#include "model/fm_boundary.h"
+#include "model/fm_case_load.h"
 #include "model/fm_element.h"
 #include "model/fm_load.h"
 #include "model/fm_material.h"
 #include "model/fm_node.h"
 #include "model/fm_section.h"
 #include "model/fm_solution.h"
+#include "model/fm_support.h"
 #include "tools/fm_unit.h"
 
 // The solved structure the results reports read: the model's tables, its units and display
@@ -56,47 +59,6 @@ class CfmStruct {
     std::array<uint32_t, 8> node{};
     int32_t material = 0;
   };
-  struct LineSpring {
-    uint32_t member = 0;
-    std::string flag{};
-    std::array<double, 3> k{};
-  };
-  struct SurfaceSpring {
-    uint32_t shell = 0;
-    std::string flag{};
-    std::array<double, 3> k{};
-  };
-  // Element loads of a load case (by its label). Directions 0 to 2 are X, Y, Z of the
-  // global or, with `local`, the element's system; point and line loads 3 to 5 are moments.
-  struct PointLoad {
-    uint32_t member = 0;
-    std::string caseName{};
-    int32_t direction = 0;
-    bool local = false;
-    double magnitude = 0;
-    double distance = 0;
-  };
-  struct LineLoad {
-    uint32_t member = 0;
-    std::string caseName{};
-    int32_t direction = 0;
-    bool local = false;
-    std::array<double, 2> magnitude{};  // start, end
-    std::array<double, 2> distance{};
-  };
-  struct SurfaceLoad {
-    uint32_t shell = 0;
-    std::string caseName{};
-    int32_t direction = 0;
-    bool local = false;
-    double magnitude = 0;
-  };
-  struct ThermalLoad {
-    uint32_t element = 0;
-    std::string caseName{};
-    double magnitude = 0;
-  };
-
   CfmStruct();
   ~CfmStruct();
   CfmStruct(const CfmStruct&);
@@ -115,12 +77,31 @@ class CfmStruct {
   std::vector<Member> m_Members;
   std::vector<Shell4> m_Shells;
   std::vector<Brick> m_Bricks;
-  std::vector<LineSpring> m_LineSprings;
-  std::vector<SurfaceSpring> m_SurfaceSprings;
-  std::vector<PointLoad> m_PointLoads;
-  std::vector<LineLoad> m_LineLoads;
-  std::vector<SurfaceLoad> m_SurfaceLoads;
-  std::vector<ThermalLoad> m_MemberThermalLoads, m_ShellThermalLoads, m_BrickThermalLoads;
+  // What holds the structure, as the model keeps it (in m_Units).
+  std::vector<fmSupport> m_Supports;
+  std::vector<fmNodalSpring> m_NodalSprings;
+  std::vector<fmCoupledSpring> m_CoupledSprings;
+  std::vector<fmLineSpring> m_LineSprings;
+  std::vector<fmSurfaceSpring> m_SurfaceSprings;
+  std::vector<uint32_t> m_DriftNodes;  // the drift stack, from the bottom up
+  // Labels of the load cases and combinations that take part in envelopes.
+  std::vector<std::string> m_EnvelopeCombinations;
+
+  // The model's own load cases, combinations (their flags, factors and terms) and the loads
+  // of each case (m_CaseLoads[i] belongs to m_LoadCases[i], in the model's units), as the
+  // statistics, the combinations formed from cases and the information sheets read them.
+  std::vector<fmLoadCase> m_LoadCases;
+  std::vector<fmLoadComb> m_LoadCombs;
+  std::vector<fmCaseLoad> m_CaseLoads;
+  // Counts of model tables the solved structure holds no records of.
+  struct Counts {
+    int beamReleases = 0;
+    int beamRcCriteria = 0, columnRcCriteria = 0, plateRcCriteria = 0, steelCriteria = 0;
+  };
+  Counts m_Counts;
+  // Which points of a shell the shell reports list: 1 its four nodes, 2 the centre then the
+  // nodes, anything else the centre only.
+  int32_t m_nShellResultLocation = 0;
 
   fmSolution m_Solution;
 
@@ -149,8 +130,8 @@ class CfmStruct {
   double ResultFactor(fmUnit::Quantity q) const;
   // The display format index of a quantity, 0 to 11.
   int DisplayFormat(fmUnit::Quantity q) const;
-  // The base of the structure: the lowest Y of the supported nodes, or of all nodes when no
-  // support is known (0 without nodes).
+  // The base of the structure: the lowest Y of the model's supported nodes, or of all nodes
+  // when it has no support (0 without nodes).
   double BaseLevel() const;
 
   // Per node, the maximum and minimum of each displacement (or support reaction) over the
@@ -161,6 +142,32 @@ class CfmStruct {
   // case without results adds nothing; nothing marked gives no records.
   void CalcNodalDisplacementEnvelope(std::vector<fmEnvelopeValue6>& out, const std::vector<bool>& cases) const;
   void CalcSupportReactionEnvelope(std::vector<fmEnvelopeValue6>& out, const std::vector<bool>& cases) const;
+
+  // Element results (fm_struct_elements.cpp).
+  bool IsBrickSelected(int64_t id) const;
+  // The model's combination that result entry `index` is: an entry without a load type whose
+  // label names a combination; null for a load case or outside the list.
+  const fmLoadComb* GetLoadCombination(int index) const;
+  // True for the response-spectrum combination (-1), and for a combination whose response
+  // spectrum load factor is not zero when the solution holds response-spectrum results.
+  bool IsResponseSpectrumLoadCombination(int index) const;
+  // The element results of an entry. A combination stored without element results is formed
+  // in `scratch` as the factored sum of its load cases' results (records matched by number);
+  // throws fmException when a case it needs has no results.
+  const fmCaseResults& GetElementResults(int index, fmCaseResults& scratch) const;
+  // Per member and station, the maxima and minima of the six forces over the entries marked
+  // true, combinations without stored stations formed on the fly, one at a time. Ties go to
+  // the lower index and a value that is not a number never wins, as for the nodes. Members
+  // come in the order of the first marked entry that lists them.
+  void CalcBeamEnvelopVMD(std::vector<fmEnvelopeBmVMD>& out, const std::vector<bool>& cases) const;
+  // Entries whose combination is flagged for concrete design.
+  std::vector<bool> ConcreteDesignCombinations() const;
+  // Over the concrete-design combinations, for members with concrete design criteria that
+  // are not excluded from concrete design.
+  void CalcBeamDesignEnvelope(std::vector<fmBmDesignEnvelope>& out) const;
+  // Over the concrete-design combinations, for shells not excluded from concrete design
+  // (model::WoodArmer gives the rules).
+  void CalcWoodArmerMoments(std::vector<fmWoodArmerMoment>& out) const;
 
  private:
   struct Indexes;

@@ -5,18 +5,20 @@
 #include <string>
 #include <string_view>
 
-// A support: the node it holds and which of the node's six degrees of freedom it restrains,
-// in global axes: translations Dx, Dy, Dz, then rotations Rx, Ry, Rz.
+// A support: the node it holds, which of the node's six degrees of freedom it restrains, in
+// global axes (translations Dx, Dy, Dz, then rotations Rx, Ry, Rz), and the displacement it
+// prescribes on each restrained one (a settlement: displacement unit, then rotation unit).
 struct fmSupport {
   enum Dof { Dx, Dy, Dz, Rx, Ry, Rz };
   static constexpr int kDofCount = 6;
 
   uint32_t node = 0;
   std::array<bool, kDofCount> restrained{};
+  std::array<double, kDofCount> displacement{};  // Dx, Dy, Dz, Dox, Doy, Doz; 0 on free ones
 
   // Pinned holds the three translations, fixed all six.
-  static fmSupport Pinned(uint32_t node) { return {node, {true, true, true, false, false, false}}; }
-  static fmSupport Fixed(uint32_t node) { return {node, {true, true, true, true, true, true}}; }
+  static fmSupport Pinned(uint32_t node) { return {node, {true, true, true, false, false, false}, {}}; }
+  static fmSupport Fixed(uint32_t node) { return {node, {true, true, true, true, true, true}, {}}; }
   bool IsPinned() const { return restrained == Pinned(node).restrained; }
   bool IsFixed() const { return restrained == Fixed(node).restrained; }
   bool RestrainsAnything() const { return restrained != std::array<bool, kDofCount>{}; }

@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "model/fm_node.h"
 #include "tools/format.h"
+#include "tools/labels.h"
 
 namespace model {
 
@@ -55,6 +57,15 @@ int64_t JsonReader::Int(const char* key, int64_t min, int64_t max, int64_t fallb
   return Has(key) ? Int(key, min, max) : fallback;
 }
 
+uint32_t JsonReader::AsId(const char* what) const {
+  const bool whole = value_.is_number_integer() && (value_.is_number_unsigned() || value_.get<int64_t>() >= 0);
+  if (!whole) Fail(tools::Format("expected a %s, a whole number from 0 to %u", what, kMaxId));
+  const uint64_t v = value_.get<uint64_t>();
+  if (v > kMaxId)
+    Fail(tools::Format("%s %llu is above %u, the highest id", what, static_cast<unsigned long long>(v), kMaxId));
+  return static_cast<uint32_t>(v);
+}
+
 bool JsonReader::Bool(const char* key, bool fallback) const {
   if (!Has(key)) return fallback;
   const JsonReader m = Member(key);
@@ -70,6 +81,13 @@ std::string JsonReader::String(const char* key) const {
 
 std::string JsonReader::String(const char* key, const std::string& fallback) const {
   return Has(key) ? String(key) : fallback;
+}
+
+std::string JsonReader::Label(const char* key, const char* kind) const {
+  std::string label = tools::CutLabel(String(key));
+  if (const std::string rule = tools::IsValidLabel(label); !rule.empty())
+    Member(key).Fail(std::string(kind) + " label can only " + rule);
+  return label;
 }
 
 }  // namespace model

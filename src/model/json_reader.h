@@ -35,10 +35,15 @@ class JsonReader {
   double Double(const char* key, double fallback) const;
   int64_t Int(const char* key, int64_t min, int64_t max) const;
   int64_t Int(const char* key, int64_t min, int64_t max, int64_t fallback) const;
-  uint32_t UInt32(const char* key) const { return static_cast<uint32_t>(Int(key, 0, UINT32_MAX)); }
+  // A node or element id, 0 to kMaxId; `what` names it in messages ("node id").
+  uint32_t Id(const char* key, const char* what = "id") const { return Member(key).AsId(what); }
+  uint32_t AsId(const char* what = "id") const;
   bool Bool(const char* key, bool fallback) const;
   std::string String(const char* key) const;
   std::string String(const char* key, const std::string& fallback) const;
+  // A label, cut to 127 characters, that keeps the label rule (tools::IsValidLabel); refused
+  // as "<kind> label can only ..." ("Load case", "Section").
+  std::string Label(const char* key, const char* kind) const;
 
   [[noreturn]] void Fail(const std::string& what) const { throw DocumentError(path_, what); }
 

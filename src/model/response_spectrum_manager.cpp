@@ -38,6 +38,9 @@ std::string CheckSpectrumName(std::string_view name) {
   if (tools::Trim(name).empty()) return "the name is empty";
   if (tools::Trim(name).size() != name.size()) return "the name begins or ends with a blank";
   if (name.find_first_of("\r\n") != std::string_view::npos) return "the name holds a line break";
+  if (tools::FirstInvalidUtf8(name) != std::string_view::npos) return "the name is not valid UTF-8 text";
+  // A spreadsheet program would read such a name in an exported table as a formula.
+  if (name.front() == '=' || name.front() == '@') return "the name begins with \"=\" or \"@\"";
   if (tools::CountChars(name) > tools::kMaxLabelChars) return "the name is longer than 127 characters";
   return {};
 }

@@ -52,7 +52,8 @@ std::vector<fmResponseSpectrum> DefaultSpectra();
 std::string SerializeSpectrumFile(const std::vector<fmResponseSpectrum>& spectra);
 std::vector<fmResponseSpectrum> ParseSpectrumFile(std::string_view text);
 
-// A spectrum name: not empty, one line, no surrounding blanks, at most 127 characters;
+// A spectrum name: not empty, one line, valid UTF-8, no surrounding blanks, not beginning
+// with "=" or "@", at most 127 characters;
 // empty text when acceptable, else why not.
 std::string CheckSpectrumName(std::string_view name);
 

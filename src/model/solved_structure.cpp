@@ -1,5 +1,6 @@
 #include "model/solved_structure.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "tools/format.h"
@@ -59,7 +60,19 @@ CfmStruct SolvedStructure(const ModelDocument& doc) {
     brick.material = e.mat;
     s.m_Bricks.push_back(brick);
   }
+  s.m_Supports = doc.supports;
+  s.m_NodalSprings = doc.nodalSprings;
+  s.m_CoupledSprings = doc.coupledSprings;
+  s.m_LineSprings = doc.lineSprings;
+  s.m_SurfaceSprings = doc.surfaceSprings;
+  s.m_DriftNodes = doc.driftNodes;
+  s.m_EnvelopeCombinations = doc.envelopeCombinations;
   s.m_Solution = doc.results;
+  s.m_LoadCases = doc.loadCases;
+  s.m_LoadCombs = doc.loadCombs;
+  s.m_CaseLoads = doc.caseLoads;
+  s.m_nShellResultLocation = doc.display.shellResultLocation;
+  s.m_Counts.beamReleases = static_cast<int>(doc.releases.size());
   if (s.m_Solution.cases.empty()) {
     // Never solved: the cases and combinations are listed and their results are missing.
     s.m_Solution.cases = doc.loadCases;
@@ -77,7 +90,7 @@ std::vector<std::string> CheckSolution(const ModelDocument& doc, size_t limit) {
     return ids;
   };
   const std::unordered_set<int64_t> nodes = idsOf(doc.nodes), members = idsOf(doc.members),
-                                    shells = idsOf(doc.shells);
+                                    shells = idsOf(doc.shells), bricks = idsOf(doc.bricks);
 
   std::vector<std::string> lines;
   size_t more = 0;
@@ -114,6 +127,21 @@ std::vector<std::string> CheckSolution(const ModelDocument& doc, size_t limit) {
     check(where, "line spring reactions", r.lineSpringReactions, members, "member");
     check(where, "surface spring reactions", r.surfaceSpringReactions, shells, "shell");
     checkConstraints(where, r.constraintForces);
+    // Element results name their element as `number`.
+    auto checkElements = [&](const char* what, const auto& records, const std::unordered_set<int64_t>& ids,
+                             const char* word) {
+      for (const auto& e : records)
+        if (!ids.count(e.number)) {
+          add(tools::Format("%s: %s name %s %d, which the model does not have", where.c_str(), what, word, e.number));
+          return;
+        }
+    };
+    checkElements("member stations", r.memberStations, members, "member");
+    checkElements("shell forces", r.shellForces, shells, "shell");
+    checkElements("shell nodal resultants", r.shellResultants, shells, "shell");
+    checkElements("shell top stresses", r.shellStresses[0], shells, "shell");
+    checkElements("shell bottom stresses", r.shellStresses[1], shells, "shell");
+    checkElements("brick stresses", r.brickStresses, bricks, "brick");
   };
 
   const fmSolution& s = doc.results;
@@ -128,8 +156,6 @@ std::vector<std::string> CheckSolution(const ModelDocument& doc, size_t limit) {
   for (size_t m = 0; m < s.eigenModes.size(); ++m)
     checkNodes(tools::Format("mode %zu", m + 1), "the mode shape's records", s.eigenModes[m].shape);
   checkCase("response spectrum combination", s.spectrum);
-  for (int32_t id : s.driftNodes)
-    if (!nodes.count(id)) add(tools::Format("drift node %d is not a node of the model", id));
   if (more > 0) lines.push_back(tools::Format("... and %zu more", more));
   return lines;
 }

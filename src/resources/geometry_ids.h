@@ -1,5 +1,5 @@
 #pragma once
-// Ids of the geometry generators. The system's ids keep their numbers; our own are 27000
+// Ids of the geometry generators. The system's ids keep their numbers; our own would be 27000
 // and above.
 namespace res {
 
@@ -28,16 +28,16 @@ inline constexpr int kCtlSupportsLabel = 3206;
 inline constexpr int kCtlInsertXUnit = 3362;
 inline constexpr int kCtlInsertYUnit = 3363;
 inline constexpr int kCtlInsertZUnit = 3364;
-inline constexpr int kCtlAngleListUnit = 27100;
-inline constexpr int kCtlRotationAngleUnit = 27101;
-inline constexpr int kCtlInsertXLabel = 27102;
-inline constexpr int kCtlInsertYLabel = 27103;
-inline constexpr int kCtlInsertZLabel = 27104;
 
 inline constexpr int kStrGenerateCylindricalFrame = 1561;
-inline constexpr int kStrGlobalX = 27000;  // then Y and Z
-inline constexpr int kStrNoSupports = 27003;  // then pinned and fixed
-inline constexpr int kStrDegrees = 27006;
-inline constexpr int kStrInsertX = 27007;  // then Y and Z
+inline constexpr int kStrRadialList = 1562;
+inline constexpr int kStrAngleList = 1563;
+inline constexpr int kStrAxialList = 1564;
+inline constexpr int kStrInsertionPoint = 1261;
+inline constexpr int kStrRotation = 1262;
+inline constexpr int kStrRotationAbout = 1263;
+inline constexpr int kStrRotationAngle = 1228;
+inline constexpr int kStrSupportsAtBottom = 1269;
+inline constexpr int kStrGenerateMembers = 1560;
 
 }  // namespace res

@@ -4,28 +4,26 @@ namespace res {
 
 // One table per dialog family; add a family's table here, one a line.
 extern const ResourceTable kFrameResources;
-extern const ResourceTable kUnitsResources;
 extern const ResourceTable kGridResources;
 extern const ResourceTable kModelResources;
-extern const ResourceTable kLoadsResources;
+extern const ResourceTable kBoundaryResources;
 extern const ResourceTable kDesignResources;
-extern const ResourceTable kGeometryResources;
 extern const ResourceTable kSectionsResources;
 extern const ResourceTable kResultsResources;
 extern const ResourceTable kSpectraResources;
+extern const ResourceTable kCaseLoadsResources;
 
 std::span<const ResourceTable* const> LibraryResourceTables() {
   static const ResourceTable* const tables[] = {
       &kFrameResources,
-      &kUnitsResources,
       &kGridResources,
       &kModelResources,
+      &kBoundaryResources,
       &kDesignResources,
-      &kGeometryResources,
       &kSectionsResources,
-      &kLoadsResources,
       &kResultsResources,
       &kSpectraResources,
+      &kCaseLoadsResources,
       &GeneratedResources(),
   };
   return tables;

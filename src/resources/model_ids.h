@@ -9,11 +9,9 @@ inline constexpr int kStrRoundOff = 1557;
 inline constexpr int kStrRoundOffTip = 23000;
 
 // The element grids.
+inline constexpr int kIddNodeData = 8007;
 inline constexpr int kIddBeamData = 23010;
 inline constexpr int kIddShell4Data = 23011;
 inline constexpr int kIddBrickData = 23012;
-inline constexpr int kStrBeamDataCaption = 23001;
-inline constexpr int kStrShell4DataCaption = 23002;
-inline constexpr int kStrBrickDataCaption = 23003;
 
 }  // namespace res

@@ -55,6 +55,16 @@ void AddGeneratedTemplate(std::unique_ptr<const DialogTemplate> tmpl) {
 
 void AddGeneratedString(int id, std::string text) {
   Generated& g = GetGenerated();
+  // A string a family's table already holds (a grid button's "Print..." ...) is used from there.
+  for (const ResourceTable* table : LibraryResourceTables()) {
+    if (table == &g.table) continue;
+    for (const StringEntry& e : table->strings) {
+      if (e.id != id) continue;
+      if (e.text != text)
+        g.conflicts.push_back("string " + std::to_string(id) + ": \"" + e.text + "\" and \"" + text + "\"");
+      return;
+    }
+  }
   if (const auto it = g.stringIndex.find(id); it != g.stringIndex.end()) {
     if (g.strings[it->second].text != text)
       g.conflicts.push_back("string " + std::to_string(id) + ": \"" + g.strings[it->second].text + "\" and \"" +

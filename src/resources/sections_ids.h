@@ -4,23 +4,19 @@
 namespace res {
 
 // Templates.
-inline constexpr int kTplSection = 26500;
-inline constexpr int kTplThick = 26501;
-inline constexpr int kTplRegularSection = 26502;
-inline constexpr int kTplAiscData = 26503;
-inline constexpr int kTplNdsData = 26504;
-inline constexpr int kTplMaterial = 26505;
-inline constexpr int kTplMaterialRc = 26506;
-inline constexpr int kTplMaterialSteel = 26507;
-inline constexpr int kTplStandardMaterial = 26508;
+inline constexpr int kIddSection = 26500;
+inline constexpr int kIddThick = 26501;
+inline constexpr int kIddRegularSection = 26502;
+inline constexpr int kIddAiscData = 26503;
+inline constexpr int kIddNdsData = 26504;
+inline constexpr int kIddMaterial = 26505;
+inline constexpr int kIddMaterialRc = 26506;
+inline constexpr int kIddMaterialSteel = 26507;
+inline constexpr int kIddStandardMaterial = 26508;
 
 // CRegularSectionDlg.
-inline constexpr int kCtlRegType = 26600;
-inline constexpr int kCtlRegDim1 = 26601;  // + 0..3
-inline constexpr int kCtlRegCaption1 = 26605;  // + 0..3
 inline constexpr int kCtlRegUnit = 26609;
 inline constexpr int kCtlRegPicture = 26610;
-inline constexpr int kCtlRegTypeLabel = 26611;
 
 // CSectionDlg.
 inline constexpr int kCtlSecRegular = 26620;
@@ -35,49 +31,16 @@ inline constexpr int kCtlSecAssign = 26626;
 inline constexpr int kCtlMatStandard = 26630;
 inline constexpr int kCtlMatAssign = 26631;
 
-// CStandardMaterialDlg.
-inline constexpr int kCtlStdMaterial = 26640;
-inline constexpr int kCtlStdDensity = 26641;
-inline constexpr int kCtlStdDensityUnit = 26642;
-inline constexpr int kCtlStdMaterialLabel = 26643;
-inline constexpr int kCtlStdDensityLabel = 26644;
-
 // The shape browsers (CAiscDataDlg, CNdsDataDlg).
 inline constexpr int kCtlShapeType = 26650;
 inline constexpr int kCtlShapeFind = 26651;
 inline constexpr int kCtlShapeList = 26652;
 inline constexpr int kCtlShapeProperties = 26653;
 inline constexpr int kCtlShapePicture = 26654;
-inline constexpr int kCtlShapeTypeLabel = 26655;
-inline constexpr int kCtlShapeFindLabel = 26656;
 inline constexpr int kCtlShapeCount = 26657;
 
 // Strings.
-inline constexpr int kStrSectionCaption = 26700;
-inline constexpr int kStrThickCaption = 26701;
-inline constexpr int kStrRegularCaption = 26702;
-inline constexpr int kStrAiscCaption = 26703;
-inline constexpr int kStrNdsCaption = 26704;
-inline constexpr int kStrMaterialCaption = 26705;
-inline constexpr int kStrMaterialRcCaption = 26706;
-inline constexpr int kStrMaterialSteelCaption = 26707;
-inline constexpr int kStrStandardCaption = 26708;
 
-inline constexpr int kStrSecRegular = 26720;
-inline constexpr int kStrSecAisc = 26721;
-inline constexpr int kStrSecNds = 26722;
-inline constexpr int kStrSecRigidLink = 26723;
-inline constexpr int kStrSecExportAisc = 26724;
-inline constexpr int kStrSecImportAisc = 26725;
-inline constexpr int kStrSecAssign = 26726;
-inline constexpr int kStrApply = 26727;
-inline constexpr int kStrMatStandard = 26730;
-inline constexpr int kStrMatAssign = 26731;
-inline constexpr int kStrStdMaterialLabel = 26740;
-inline constexpr int kStrStdDensityLabel = 26741;
-inline constexpr int kStrStdOk = 26742;
-inline constexpr int kStrRegTypeLabel = 26750;
-inline constexpr int kStrRegTypeNames = 26751;  // + type 0..3
 inline constexpr int kStrRegWidth = 26755;
 inline constexpr int kStrRegDepth = 26756;
 inline constexpr int kStrRegDiameter = 26757;
@@ -85,9 +48,6 @@ inline constexpr int kStrRegFlangeWidth = 26758;
 inline constexpr int kStrRegFlangeThickness = 26759;
 inline constexpr int kStrRegWebThickness = 26770;
 inline constexpr int kStrRegPictureHint = 26771;
-inline constexpr int kStrShapeTypeLabel = 26760;
-inline constexpr int kStrShapeFindLabel = 26761;
-inline constexpr int kStrShapeProperties = 26762;
 inline constexpr int kStrShapeAllTypes = 26763;
 inline constexpr int kStrLumberBoards = 26764;
 inline constexpr int kStrLumberDimension = 26765;

@@ -3,36 +3,15 @@
 namespace res {
 
 // Templates
-inline constexpr int kTplGenerateResponseSpectrum = 24500;
-inline constexpr int kTplResponseSpectra = 24501;
-inline constexpr int kTplResponseSpectrumData = 24502;
-inline constexpr int kTplResponseSpectrumAnalysis = 24503;
+inline constexpr int kIddGenerateResponseSpectrum = 24500;
+inline constexpr int kIddResponseSpectra = 24501;
+inline constexpr int kIddResponseSpectrumData = 24502;
+inline constexpr int kIddResponseSpectrumAnalysis = 24503;
 
-// CGenerateResponseSpectrumDlg
-inline constexpr int kCtlSpecCodeText = 24510;
-inline constexpr int kCtlSpecCode = 24511;
-inline constexpr int kCtlSpecValue1Text = 24512;
-inline constexpr int kCtlSpecValue1 = 24513;
-inline constexpr int kCtlSpecValue2Text = 24514;
-inline constexpr int kCtlSpecValue2 = 24515;
-inline constexpr int kCtlSpecTlText = 24516;
-inline constexpr int kCtlSpecTl = 24517;
+// CGenerateResponseSpectrumDlg (its fields come from its description)
 inline constexpr int kCtlSpecEc8Group = 24518;
-inline constexpr int kCtlSpecTypeText = 24519;
-inline constexpr int kCtlSpecType = 24520;
-inline constexpr int kCtlSpecGroundText = 24521;
-inline constexpr int kCtlSpecGround = 24522;
-inline constexpr int kCtlSpecAgText = 24523;
-inline constexpr int kCtlSpecAg = 24524;
-inline constexpr int kCtlSpecImportanceText = 24525;
-inline constexpr int kCtlSpecImportance = 24526;
-inline constexpr int kCtlSpecDampingText = 24527;
-inline constexpr int kCtlSpecDamping = 24528;
-inline constexpr int kCtlSpecLogScale = 24529;
 inline constexpr int kCtlSpecChart = 24530;
 inline constexpr int kCtlSpecStatus = 24531;
-inline constexpr int kCtlSpecTlUnit = 24532;
-inline constexpr int kCtlSpecDampingUnit = 24533;
 
 // CResponseSpectraDlg
 inline constexpr int kCtlSpectraList = 24540;
@@ -44,66 +23,24 @@ inline constexpr int kCtlSpectraExport = 24545;
 inline constexpr int kCtlSpectraFile = 24546;
 
 // CResponseSpectrumDataDlg
-inline constexpr int kCtlSpecNameText = 24550;
 inline constexpr int kCtlSpecName = 24551;
 inline constexpr int kCtlSpecDataChart = 24552;
-inline constexpr int kCtlSpecDataGrid = 24553;
 inline constexpr int kCtlSpecDeleteRows = 24554;
 
 // CResponseSpectrumAnalysisDlg
 inline constexpr int kCtlRsaPerform = 24560;
-inline constexpr int kCtlRsaDirectionGroup = 24561;
-inline constexpr int kCtlRsaSpectrumHead = 24562;
-inline constexpr int kCtlRsaFactorHead = 24563;
-inline constexpr int kCtlRsaXText = 24564;  // then Y and Z
 inline constexpr int kCtlRsaSpectrumX = 24567;  // then Y and Z
 inline constexpr int kCtlRsaFactorX = 24570;  // then Y and Z
-inline constexpr int kCtlRsaCombinationText = 24573;
 inline constexpr int kCtlRsaCombination = 24574;
-inline constexpr int kCtlRsaDampingText = 24575;
 inline constexpr int kCtlRsaDamping = 24576;
 inline constexpr int kCtlRsaSpectra = 24577;
 
 // Strings
-inline constexpr int kStrGenerateSpectrumCaption = 24600;
-inline constexpr int kStrSpectraCaption = 24601;
-inline constexpr int kStrSpectrumDataCaption = 24602;
-inline constexpr int kStrSpectrumAnalysisCaption = 24603;
-inline constexpr int kStrSpecCode = 24604;
-inline constexpr int kStrSpecCodeFirst = 24605;  // then the other five code names
 inline constexpr int kStrSpecCa = 24611;
 inline constexpr int kStrSpecCv = 24612;
 inline constexpr int kStrSpecSds = 24613;
 inline constexpr int kStrSpecSd1 = 24614;
-inline constexpr int kStrSpecTl = 24615;
-inline constexpr int kStrSpecEc8 = 24616;
-inline constexpr int kStrSpecType = 24617;
-inline constexpr int kStrSpecGround = 24618;
-inline constexpr int kStrSpecAg = 24619;
-inline constexpr int kStrSpecImportance = 24620;
-inline constexpr int kStrSpecDamping = 24621;
-inline constexpr int kStrSpecLogScale = 24622;
-inline constexpr int kStrSpecSeconds = 24623;
-inline constexpr int kStrSpecPercent = 24624;
 inline constexpr int kStrChartPeriod = 24625;
 inline constexpr int kStrChartAcceleration = 24626;
-inline constexpr int kStrSpectraHeadings = 24627;
-inline constexpr int kStrSpectraGenerate = 24628;
-inline constexpr int kStrSpectraImport = 24629;
-inline constexpr int kStrSpectraModify = 24630;
-inline constexpr int kStrSpectraDelete = 24631;
-inline constexpr int kStrSpectraExport = 24632;
-inline constexpr int kStrSpecName = 24633;
-inline constexpr int kStrSpecDeleteRows = 24634;
-inline constexpr int kStrRsaPerform = 24635;
-inline constexpr int kStrRsaDirections = 24636;
-inline constexpr int kStrRsaSpectrum = 24637;
-inline constexpr int kStrRsaFactor = 24638;
-inline constexpr int kStrRsaX = 24639;  // then Y and Z
-inline constexpr int kStrRsaCombination = 24642;
-inline constexpr int kStrRsaDamping = 24643;
-inline constexpr int kStrRsaSpectra = 24644;
-inline constexpr int kStrSpecTypeFirst = 24645;  // "Type 1", "Type 2"
-inline constexpr int kStrSpectraClose = 24647;
 
 }  // namespace res

@@ -72,6 +72,23 @@ size_t DecodeUtf8(std::string_view text, size_t pos, char32_t& cp, bool& ok) {
   return len;
 }
 
+size_t FirstInvalidUtf8(std::string_view text) {
+  size_t pos = 0;
+  while (pos < text.size()) {
+    // ASCII runs are the common case.
+    if (static_cast<unsigned char>(text[pos]) < 0x80) {
+      ++pos;
+      continue;
+    }
+    char32_t cp;
+    bool ok;
+    const size_t n = DecodeUtf8(text, pos, cp, ok);
+    if (!ok) return pos;
+    pos += n;
+  }
+  return std::string_view::npos;
+}
+
 void AppendUtf8(std::string& out, char32_t cp) {
   if (cp < 0x80) {
     out += static_cast<char>(cp);

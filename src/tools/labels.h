@@ -32,6 +32,10 @@ std::string FoldCase(std::string_view text);
 // that does not start a valid, shortest-form sequence gives U+FFFD and ok = false.
 size_t DecodeUtf8(std::string_view text, size_t pos, char32_t& cp, bool& ok);
 void AppendUtf8(std::string& out, char32_t cp);
+// Byte offset of the first byte that is not part of valid UTF-8 (an overlong form, a
+// surrogate, a code point above U+10FFFF, a stray or missing continuation byte); npos when
+// the whole text is valid. Every reader of text from a file checks it with this.
+size_t FirstInvalidUtf8(std::string_view text);
 
 bool IsLetter(char32_t cp);
 bool IsCombiningMark(char32_t cp);

@@ -90,7 +90,11 @@ std::vector<fmSect_NDS> ParseNdsTable(std::string_view data, const std::string& 
     auto label = r.Text(kLabelField);
     if (!label || label->empty()) throw damaged("a label is unreadable");
     s.label = std::move(*label);
-    for (double* v : {&s.nominalB, &s.nominalD, &s.b, &s.d, &s.A, &s.Sx, &s.Ix, &s.Sy, &s.Iy, &s.J}) *v = *r.F64();
+    // Every lumber size has every property; a NaN or infinity would reach the sections.
+    for (double* v : {&s.nominalB, &s.nominalD, &s.b, &s.d, &s.A, &s.Sx, &s.Ix, &s.Sy, &s.Iy, &s.J}) {
+      *v = *r.F64();
+      if (!std::isfinite(*v)) throw damaged("the properties of " + s.label + " are not all finite numbers");
+    }
   }
   return shapes;
 }

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <unordered_map>
@@ -23,19 +24,11 @@ struct Cell {
   throw fmException("Cannot import \"" + file + "\": " + what);
 }
 
-// Valid UTF-8 throughout; returns the 1-based line of the first fault, or 0.
+// The 1-based line of the first byte that is not valid UTF-8, or 0.
 size_t FirstBadUtf8Line(std::string_view text) {
-  size_t line = 1;
-  for (size_t i = 0; i < text.size();) {
-    const auto c = static_cast<unsigned char>(text[i]);
-    if (c == '\n') ++line;
-    const size_t n = c < 0x80 ? 1 : (c >> 5) == 0x6 ? 2 : (c >> 4) == 0xE ? 3 : (c >> 3) == 0x1E ? 4 : 0;
-    if (n == 0 || i + n > text.size()) return line;
-    for (size_t k = 1; k < n; ++k)
-      if ((static_cast<unsigned char>(text[i + k]) & 0xC0) != 0x80) return line;
-    i += n;
-  }
-  return 0;
+  const size_t at = FirstInvalidUtf8(text);
+  if (at == std::string_view::npos) return 0;
+  return 1 + static_cast<size_t>(std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(at), '\n'));
 }
 
 // Splits one record; a quoted field may not span lines (the table has no such cells).
@@ -177,7 +170,7 @@ std::vector<fmSect_AISC> ParseAiscCsv(std::string_view text, const std::string& 
       const auto where = [&] { return Format("line %zu, column %zu (%s)", lineNo, cell.column, name); };
       if (k < kAiscTextColumnCount) {
         if (value.size() > kAiscMaxLabelBytes)
-          Refuse(file, where() + Format(": the text is longer than %zu characters.", kAiscMaxLabelBytes));
+          Refuse(file, where() + Format(": the text is longer than %zu bytes.", kAiscMaxLabelBytes));
         *texts[k] = std::string(value);
         continue;
       }
@@ -195,9 +188,12 @@ std::vector<fmSect_AISC> ParseAiscCsv(std::string_view text, const std::string& 
     if (s.type.empty()) Refuse(file, where(2) + ": the shape has no type.");
     if (const std::string rule = IsValidLabel(s.label); !rule.empty())
       Refuse(file, where(1) + ": Section label can only " + rule);
+    // The other name goes into exports beside the label, so it keeps the same rule.
+    if (const std::string rule = IsValidLabel(s.edi); !s.edi.empty() && !rule.empty())
+      Refuse(file, where(0) + ": Section label can only " + rule);
     if (!IsKnownShapeType(s.type))
       Refuse(file, where(2) + ": \"" + s.type + "\" is not a shape type (W, M, S, HP, C, MC, L, WT, MT, ST, 2L, HSS or PIPE).");
-    if (s.tf.size() > 3) Refuse(file, where(3) + ": \"" + s.tf + "\" is not T or F.");
+    if (!s.tf.empty() && s.tf != "T" && s.tf != "F") Refuse(file, where(3) + ": \"" + s.tf + "\" is not T or F.");
     // What the section table refuses: A, Ix, Iy and J must be positive (a double angle may
     // leave J to its single angle), the dimensions a section takes may not be negative.
     for (const int v : {aisc::A, aisc::Ix, aisc::Iy, aisc::J}) {

@@ -47,6 +47,11 @@ TEST(ModelDocument, BadDocumentsNameThePlaceAndTheProblem) {
       {Doc(R"(, "nodes": [{"id": 1, "x": 0, "y": 0, "z": 0,
 "x": 5}])"), "line 2, column 1: duplicate key \"x\""},
       {Doc(R"(, "title": "a", "title": "b")"), "line 1, column 63: duplicate key \"title\""},
+      // A label read from a file keeps the rule a grid applies: never "=..." or "@..." for a spreadsheet to run.
+      {Doc(R"(, "loadCases": [{"number": 1, "label": "=1+1"}])"),
+       "/loadCases/0/label: Load case label can only contain letters"},
+      {Doc(R"(, "materials": [{"label": "@SUM", "E": 1, "nu": 0.2, "density": 0, "Tc": 1e-5}])"),
+       "/materials/0/label: Material label can only contain letters"},
       {Doc(", \"nodes\": " + std::string(300, '[') + std::string(300, ']')), "line 1, column 257: nested deeper than 200 levels"},
   };
   for (const auto& [text, refusal] : cases) EXPECT_EQ(RefusalOf(text).substr(0, refusal.size()), refusal) << text;

@@ -79,6 +79,8 @@ TEST_F(SpectrumManagerTest, DamagedFileIsRefusedWithItsLineAndKept) {
       {"norvane-response-spectra 1\nspectrum A\nend\n", "line 3: the spectrum has no points"},
       {"norvane-response-spectra 1\nspectrum A\n0\t1\nend\nspectrum a\n0\t1\nend\n", "line 5: a second spectrum named \"a\""},
       {"norvane-response-spectra 1\nspectrum \n", "line 2: the name is empty"},
+      {"norvane-response-spectra 1\nspectrum =HYPERLINK(1)\n0\t1\nend\n", "line 2: the name begins with \"=\" or \"@\""},
+      {"norvane-response-spectra 1\nspectrum A\xED\xA0\x80\n0\t1\nend\n", "line 2: the name is not valid UTF-8 text"},
       {"norvane-response-spectra 1\n0\t1\n", "line 2: expected \"spectrum NAME\""},
   };
   std::filesystem::create_directories(dir / "spectra");

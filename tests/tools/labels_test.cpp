@@ -22,6 +22,21 @@ TEST(IsValidLabel, AcceptsLettersOfAnyScriptAndRefusalsNameTheFault) {
   for (const auto& [label, completion] : cases) EXPECT_EQ(tools::IsValidLabel(label), allowed + completion) << label;
 }
 
+TEST(FirstInvalidUtf8, RefusesOverlongFormsSurrogatesAndBytesAboveF4) {
+  const std::pair<std::string, size_t> cases[] = {
+      {"plain", std::string::npos}, {"\xC3\xA9t\xC3\xA9 \xE2\x82\xAC \xF0\x9F\x98\x80 \xF4\x8F\xBF\xBF", std::string::npos},
+      {"a\xC0\x80", 1},          // overlong NUL
+      {"ab\xE0\x80\xAF", 2},     // overlong "/"
+      {"\xED\xA0\x80", 0},       // a surrogate, U+D800
+      {"x\xF5\x80\x80\x80", 1},  // lead byte above F4
+      {"\xF4\x90\x80\x80", 0},   // above U+10FFFF
+      {"caf\xE9", 3},             // Latin-1
+      {"\xE2\x82", 0},            // cut short
+      {"\x80", 0},                // a lone continuation byte
+  };
+  for (const auto& [text, at] : cases) EXPECT_EQ(tools::FirstInvalidUtf8(text), at) << text;
+}
+
 TEST(CutLabel, CutsTo127CharactersNeverInsideOne) {
   std::string greek;
   for (int i = 0; i < 200; ++i) greek += "\xCE\xA3";  // Σ

@@ -3,6 +3,8 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <limits>
 #include <cmath>
 #include <filesystem>
 
@@ -43,6 +45,12 @@ const std::string kHeader = "EDI_Std_Nomenclature,AISC_Manual_Label,Type,T_F,W,A
 const std::string kGoodRows =
     "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,light\n"
     "W8X31,W8X31,W,F,31,9.13,8,8,0.285,0.435,0.829,110,37.1,0.536,\n";
+
+std::string Repeated(const std::string& text, int times) {
+  std::string out;
+  for (int i = 0; i < times; ++i) out += text;
+  return out;
+}
 
 }  // namespace
 
@@ -152,6 +160,20 @@ TEST_F(ShapeLibraryTest, BadFilesAreRefusedAndTheLibraryStaysAsItWas) {
        "this is not a text file (it holds binary data)."},
       {"not UTF-8", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,0.0547,caf\xE9\n",
        "line 2: the text is not UTF-8"},
+      {"overlong form", kHeader + kGoodRows + "X\xC0\x80,X1,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 4: the text is not UTF-8"},
+      {"surrogate", kHeader + "W10X12,W\xED\xA0\x80,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2: the text is not UTF-8"},
+      {"byte above F4", kHeader + "W10X12,W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\xF5\x80\x80\x80\n",
+       "line 2: the text is not UTF-8"},
+      // Spreadsheet programs run a field beginning with = or @ as a formula; no name or flag may.
+      {"formula as the other name", kHeader + "=HYPERLINK(1),W10X12,W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2, column 1 (EDI_Std_Nomenclature): Section label can only"},
+      {"formula as the flag", kHeader + "W10X12,W10X12,W,@1,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2, column 4 (T_F): \"@1\" is not T or F."},
+      {"64-byte label", kHeader + "W10X12," + std::string(32, 'A') + Repeated("\xC3\xA9", 16) + "," +
+                             "W,F,12,3.54,9.87,3.96,0.19,0.21,0.51,53.8,2.18,1,\n",
+       "line 2, column 2 (AISC_Manual_Label): the text is longer than 63 bytes."},
       {"100 MB", kHeader, "the file is too large (104857600 bytes)", size_t(100) << 20, "read"},
   };
   for (const auto& c : cases) {
@@ -204,4 +226,24 @@ TEST_F(ShapeLibraryTest, PublishedDatabaseImportsAndExportsUnchanged) {
   ASSERT_EQ(back.size(), published.size());
   for (size_t i = 0; i < back.size(); ++i) EXPECT_TRUE(back[i] == published[i]) << published[i].label;
   EXPECT_TRUE(Read(exported) == Read(kPublished)) << "the export writes the published layout";
+}
+
+TEST(LumberTable, ReadsBackWhatItWroteAndRefusesAPropertyThatIsNotFinite) {
+  const std::vector<tools::fmSect_NDS> sizes = tools::BuildNdsTable();
+  const std::string bytes = tools::SerializeNdsTable(sizes);
+  EXPECT_EQ(tools::ParseNdsTable(bytes, "t"), sizes);
+  for (const double bad : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+    std::string damaged = bytes;
+    // The dressed width d of the first size: the header, its label field, then b before it.
+    const size_t at = bytes.size() - sizes.size() * 96 + 16 + 3 * 8;
+    std::memcpy(damaged.data() + at, &bad, sizeof bad);
+    try {
+      tools::ParseNdsTable(damaged, "t");
+      ADD_FAILURE() << "a lumber table with " << bad << " was read";
+    } catch (const fmException& e) {
+      EXPECT_EQ(std::string(e.what()),
+                "The lumber table \"t\" is damaged: the properties of " + sizes[0].label +
+                    " are not all finite numbers.");
+    }
+  }
 }

@@ -14,13 +14,18 @@ namespace cli {
 namespace {
 
 struct AnalyzeArgs {
-  std::string model, out, modes = "0";
+  std::string model, out, modes = "0", stations = "11";
 };
 
 int Analyze(const AnalyzeArgs& a, std::ostream& out, std::ostream& err) {
   const auto modes = tools::ParseInt32(a.modes);
   if (!modes || *modes < 0 || *modes > 1000) {
     err << "norvane-cli: --modes must be a whole number from 0 to 1000, not \"" << a.modes << "\"\n";
+    return kUsage;
+  }
+  const auto stations = tools::ParseInt32(a.stations);
+  if (!stations || *stations < 2 || *stations > 101) {
+    err << "norvane-cli: --stations must be a whole number from 2 to 101, not \"" << a.stations << "\"\n";
     return kUsage;
   }
   model::ModelDocument doc;
@@ -32,6 +37,7 @@ int Analyze(const AnalyzeArgs& a, std::ostream& out, std::ostream& err) {
   }
   analysis::AnalysisRequest request;
   request.modes = *modes;
+  request.memberStations = *stations;
   if (request.modes > 0 && doc.spectrumAnalysis.enabled) {
     CResponseSpectrumManager& spectra = CResponseSpectrumManager::Instance();
     if (!spectra.LoadFile()) {
@@ -72,6 +78,9 @@ void AddAnalyzeCommand(Program& program) {
   analyze->add_option("-o", a->out, "write the model with its results to OUT")->type_name("OUT");
   analyze->add_option("--modes", a->modes, "the number of modes to find (0: none); with the model's response "
                                            "spectrum settings enabled, the spectrum analysis runs on them")
+      ->type_name("N");
+  analyze->add_option("--stations", a->stations, "points along each member at which its forces and deflections are "
+                                                 "written, ends included (11 when omitted)")
       ->type_name("N");
 }
 

@@ -59,5 +59,6 @@ void AddReportCommand(Program& program);
 void AddAnalyzeCommand(Program& program);
 void AddSteelCommand(Program& program);
 void AddSpectrumCommand(Program& program);
+void AddLoadsCommand(Program& program);
 
 }  // namespace cli

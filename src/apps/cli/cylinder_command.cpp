@@ -77,8 +77,8 @@ int Cylinder(CylinderArgs a, std::ostream& out, std::ostream& err) {
                                          std::tuple{"--first-member", &a.firstMember, &firstMember}}) {
     if (!a.Given(option)) continue;
     const auto value = tools::ParseUInt32(*text);
-    if (!value || *value == 0)
-      return bad(std::string(option) + " needs a whole number from 1 to 4294967295, not \"" + *text + "\"");
+    if (!value || *value == 0 || *value > kMaxId)
+      return bad(std::string(option) + " needs a whole number from 1 to 2147483647, not \"" + *text + "\"");
     *id = *value;
   }
   const std::string& output = a.output;

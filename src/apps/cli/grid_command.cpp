@@ -3,6 +3,7 @@
 #include <string>
 
 #include "apps/cli/cli.h"
+#include "dialogs/boundary/boundary_tables.h"
 #include "dialogs/grid/export.h"
 #include "dialogs/grid/sheet.h"
 #include "dialogs/model/element_grid.h"
@@ -30,6 +31,13 @@ void FillElements(const model::ModelDocument& doc, const std::vector<Record>& el
                     false);
 }
 
+template <boundarygrid::Kind K>
+GridTable Boundary() {
+  const boundarygrid::KindTexts& t = boundarygrid::TextsOf(K);
+  return {t.exportName, t.printTitle,
+          [](const model::ModelDocument& doc, grid::Sheet& sheet) { boundarygrid::FillFromDocument(K, doc, sheet); }};
+}
+
 const GridTable kTables[] = {
     {"nodes", nodegrid::kTableTitle,
      [](const model::ModelDocument& doc, grid::Sheet& sheet) {
@@ -41,6 +49,15 @@ const GridTable kTables[] = {
      [](const model::ModelDocument& doc, grid::Sheet& sheet) { FillElements(doc, doc.shells, sheet); }},
     {"bricks", elementgrid::kBricks.printTitle,
      [](const model::ModelDocument& doc, grid::Sheet& sheet) { FillElements(doc, doc.bricks, sheet); }},
+    Boundary<boundarygrid::Kind::Supports>(),
+    Boundary<boundarygrid::Kind::NodalSprings>(),
+    Boundary<boundarygrid::Kind::LineSprings>(),
+    Boundary<boundarygrid::Kind::SurfaceSprings>(),
+    Boundary<boundarygrid::Kind::CoupledSprings>(),
+    Boundary<boundarygrid::Kind::Releases>(),
+    Boundary<boundarygrid::Kind::Constraints>(),
+    Boundary<boundarygrid::Kind::Diaphragms>(),
+    Boundary<boundarygrid::Kind::DriftNodes>(),
 };
 
 std::string TableNames() {

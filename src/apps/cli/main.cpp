@@ -10,7 +10,7 @@ constexpr void (*kCommands[])(cli::Program&) = {
     cli::AddUnitsCommand,    cli::AddCombosCommand,  cli::AddGridCommand,   cli::AddKFactorCommand,
     cli::AddCylinderCommand, cli::AddSectionCommand, cli::AddShapesCommand, cli::AddReportCommand, cli::AddAnalyzeCommand,
     cli::AddSteelCommand,
-    cli::AddSpectrumCommand,
+    cli::AddSpectrumCommand, cli::AddLoadsCommand,
 };
 
 int main(int argc, char** argv) {

@@ -159,7 +159,8 @@ int Report(const ReportArgs& a, std::ostream& out, std::ostream& err) {
   if (query < 0) query = doc.nodes.empty() ? 1 : static_cast<int>(doc.nodes.front().id);
 
   grid::Sheet sheet;
-  const results::ReportContext ctx{sheet, s, o.kind, query, doc.display.alternateRowColor};
+  std::vector<std::string> messages;
+  const results::ReportContext ctx{sheet, s, o.kind, query, doc.display.alternateRowColor, &messages};
   std::string title;
   try {
     title = results::ReportTitle(o.kind, s.GetCaseName(index), index + 1);
@@ -169,6 +170,8 @@ int Report(const ReportArgs& a, std::ostream& out, std::ostream& err) {
     err << "norvane-cli: " << e.GetMessage() << "\n";
     return kRefused;
   }
+  // The dialog's message box: the report stays empty.
+  for (const std::string& message : messages) err << "norvane-cli: " << message << "\n";
 
   if (!o.out.empty()) {
     if (const auto failure = grid::ExportSheet(sheet, o.out, o.append, title)) {

@@ -31,6 +31,7 @@ void RegisterAllBindings() {
   RegisterFrameBindings();
   RegisterUnitsBindings();
   RegisterModelBindings();
+  RegisterBoundaryBindings();
   RegisterLoadsBindings();
   RegisterConcreteDesignBindings();
   RegisterGeometryBindings();
@@ -38,4 +39,5 @@ void RegisterAllBindings() {
   RegisterSectionsBindings();
   RegisterResultsBindings();
   RegisterSpectraBindings();
+  RegisterCaseLoadsBindings();
 }

@@ -17,12 +17,27 @@
 #include "dialogs/grid/CDataGridDlg.h"
 #include "dialogs/results/CResultsDlg.h"
 
+namespace {
+
+// The document as it would be saved; empty when it cannot be written (then any take-back
+// counts as a change).
+std::string DocumentText(const model::ModelDocument& doc) {
+  try {
+    return model::SerializeModelDocument(doc);
+  } catch (const std::exception&) {
+    return {};
+  }
+}
+
+}  // namespace
+
 std::unique_ptr<CDialog> CreateBoundDialog(const std::string& className, HostModel& model, QWidget* parent) {
   const DialogClassInfo* info = FindDialogClass(className);
   if (!info) return nullptr;
   std::unique_ptr<CDialog> dlg = info->create(parent);
-  if (const DialogBinding* binding = FindDialogBinding(className); binding && binding->prepare)
-    binding->prepare(*dlg, model);
+  const DialogBinding* binding = FindDialogBinding(className);
+  if (binding && (binding->takeBack || binding->afterCancel)) model.documentBefore = DocumentText(model.doc);
+  if (binding && binding->prepare) binding->prepare(*dlg, model);
   return dlg;
 }
 
@@ -51,7 +66,9 @@ bool TakeBackDialogResult(const std::string& className, CDialog& dlg, int result
   // A dialog without a take-back (an about box) leaves the model as it was; one that acts on
   // the model at once may have changed it even when cancelled.
   const auto& takeBack = result == IDOK ? binding->takeBack : binding->afterCancel;
-  const bool changed = takeBack && takeBack(dlg, model);
+  bool changed = takeBack && takeBack(dlg, model);
+  if (changed && !model.documentBefore.empty() && DocumentText(model.doc) == model.documentBefore) changed = false;
+  model.documentBefore.clear();
   model.dialogState.reset();
   if (changed) model.modified = true;
   return changed;

@@ -42,10 +42,10 @@ std::string Describe(const geometry::CylindricalFrameResult& r, const model::Mod
     parts.push_back(Counted(f.members.size(), "member", f.members.front().id, f.members.back().id));
   if (!f.supports.empty())
     parts.push_back(tools::Format("%zu %s support%s", f.supports.size(),
-                                  geometry::SupportKindName(f.supports.front().kind), f.supports.size() == 1 ? "" : "s"));
+                                  geometry::SupportKindName(f.supports.front().kind),
+                                  f.supports.size() == 1 ? "" : "s"));
   std::string text = "Generated ";
-  for (size_t i = 0; i < parts.size(); ++i)
-    text += (i == 0 ? "" : i + 1 == parts.size() ? " and " : ", ") + parts[i];
+  for (size_t i = 0; i < parts.size(); ++i) text += (i == 0 ? "" : i + 1 == parts.size() ? " and " : ", ") + parts[i];
   if (f.members.empty()) return text;
   if (r.material == 0 && r.section == 0) return text + "; the members have no material or section yet";
   text += "; the members have ";
@@ -58,23 +58,20 @@ std::string Describe(const geometry::CylindricalFrameResult& r, const model::Mod
 }  // namespace
 
 void RegisterGeometryBindings() {
-  RegisterDialogBinding({"CGenerateCylindricalFrameDlg",
-                         [](CDialog& d, HostModel& m) {
-                           static_cast<CGenerateCylindricalFrameDlg&>(d).m_pUnits = &m.doc.units;
-                         },
-                         [](CDialog& d, HostModel& m) {
-                           if (m.doc.display.modelLocked) {
-                             GetPrompter().Message(&d, "The Model is locked.\nThe cylindrical frame was not added.",
-                                                   MessageIcon::Information);
-                             return false;
-                           }
-                           const auto result = geometry::AddCylindricalFrameToDocument(
-                               m.doc, ParametersOf(static_cast<CGenerateCylindricalFrameDlg&>(d)));
-                           if (!result.ok()) {
-                             GetPrompter().Message(&d, result.error, MessageIcon::Error);
-                             return false;
-                           }
-                           m.status = Describe(result, m.doc);
-                           return !result.frame.nodes.empty();
-                         }});
+  BindDialog<CGenerateCylindricalFrameDlg>(
+      [](CGenerateCylindricalFrameDlg& dlg, HostModel& m) { dlg.m_pUnits = &m.doc.units; },
+      [](CGenerateCylindricalFrameDlg& dlg, HostModel& m) {
+        if (m.doc.display.modelLocked) {
+          GetPrompter().Message(&dlg, "The Model is locked.\nThe cylindrical frame was not added.",
+                                MessageIcon::Information);
+          return false;
+        }
+        const auto result = geometry::AddCylindricalFrameToDocument(m.doc, ParametersOf(dlg));
+        if (!result.ok()) {
+          GetPrompter().Message(&dlg, result.error, MessageIcon::Error);
+          return false;
+        }
+        m.status = Describe(result, m.doc);
+        return !result.frame.nodes.empty();
+      });
 }

@@ -5,23 +5,22 @@
 #include "dialogs/grid/CDataSettingsDlg.h"
 
 void RegisterGridBindings() {
-  RegisterDialogBinding(
-      {"CDataSettingsDlg",
-       [](CDialog& d, HostModel& m) {
-         QSettings settings;
-         prefs::SpreadsheetSettings s = prefs::ReadSpreadsheetSettings(settings);
-         // Until the profile holds a colour, the open model's own is the one its grids show.
-         if (!settings.contains(prefs::kGroup + "/" + prefs::kSpreadAlternateBackColor))
-           s.alternateRowColor = m.doc.display.alternateRowColor;
-         static_cast<CDataSettingsDlg&>(d).SetSettings(s);
-       },
-       [](CDialog& d, HostModel& m) {
-         const prefs::SpreadsheetSettings s = static_cast<CDataSettingsDlg&>(d).GetSettings();
-         QSettings settings;
-         prefs::WriteSpreadsheetSettings(s, settings);
-         // The grids of the open model take the new colour at once.
-         const bool changed = m.doc.display.alternateRowColor != s.alternateRowColor;
-         m.doc.display.alternateRowColor = s.alternateRowColor;
-         return changed;
-       }});
+  BindDialog<CDataSettingsDlg>(
+      [](CDataSettingsDlg& dlg, HostModel& m) {
+        QSettings settings;
+        prefs::SpreadsheetSettings s = prefs::ReadSpreadsheetSettings(settings);
+        // Until the profile holds a colour, the open model's own is the one its grids show.
+        if (!settings.contains(prefs::kGroup + "/" + prefs::kSpreadAlternateBackColor))
+          s.alternateRowColor = m.doc.display.alternateRowColor;
+        dlg.SetSettings(s);
+      },
+      [](CDataSettingsDlg& dlg, HostModel& m) {
+        const prefs::SpreadsheetSettings s = dlg.GetSettings();
+        QSettings settings;
+        prefs::WriteSpreadsheetSettings(s, settings);
+        // The grids of the open model take the new colour at once.
+        const bool changed = m.doc.display.alternateRowColor != s.alternateRowColor;
+        m.doc.display.alternateRowColor = s.alternateRowColor;
+        return changed;
+      });
 }

@@ -16,4 +16,7 @@ struct HostModel {
   std::map<std::string, std::string> showOptions;
   // What a binding keeps alive while its dialog runs (the results' solved structure).
   std::shared_ptr<void> dialogState;
+  // The document as the running dialog found it: OK that changed nothing leaves the model
+  // unmodified.
+  std::string documentBefore;
 };

@@ -7,23 +7,20 @@
 #include <QSettings>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTreeWidget>
 #include <map>
 
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostSettings.h"
+#include "apps/host/NodeTableModel.h"
+#include "dialogs/frame/CDialog.h"
 #include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
+#include "resources/resources.h"
 #include "tools/format.h"
 
 namespace {
-
-// A value in the quantity's display format: indices 0 to 5 fixed, 6 to 11 exponential,
-// with 1 to 6 decimals.
-std::string FormatForDisplay(double value, int formatIndex) {
-  const int decimals = formatIndex % 6 + 1;
-  return formatIndex < 6 ? tools::Format("%.*f", decimals, value) : tools::Format("%.*e", decimals, value);
-}
 
 QTreeWidget* MakeTable(QWidget* parent) {
   auto* table = new QTreeWidget(parent);
@@ -33,11 +30,35 @@ QTreeWidget* MakeTable(QWidget* parent) {
   return table;
 }
 
+// The caption the dialog shows, from the string table; the class name when it has none.
+QString DialogCaption(const DialogClassInfo& info) {
+  const std::unique_ptr<CDialog> dlg = info.create(nullptr);
+  const res::DialogTemplate* form = dlg ? res::FindTemplate(dlg->TemplateId()) : nullptr;
+  if (form && form->captionStringId != 0)
+    if (const auto text = res::LoadString(form->captionStringId); text && !text->empty())
+      return QString::fromStdString(*text);
+  return QString::fromStdString(info.className);
+}
+
 }  // namespace
 
 HostWindow::HostWindow(QWidget* parent)
-    : QMainWindow(parent), summary_(MakeTable(this)), nodes_(MakeTable(this)) {
+    : QMainWindow(parent),
+      summary_(MakeTable(this)),
+      nodeModel_(new NodeTableModel(model_.doc, this)),
+      nodes_(new QTableView(this)) {
   summary_->setHeaderLabels({"Model", "Value"});
+  // Rows of one height and no row headings: the view then never measures a million rows.
+  nodes_->setObjectName("nodes");
+  nodes_->setModel(nodeModel_);
+  nodes_->verticalHeader()->hide();
+  nodes_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  nodes_->verticalHeader()->setDefaultSectionSize(nodes_->fontMetrics().height() + 4);
+  nodes_->setAlternatingRowColors(true);
+  nodes_->setShowGrid(false);
+  nodes_->setSelectionBehavior(QAbstractItemView::SelectRows);
+  nodes_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  nodes_->horizontalHeader()->setHighlightSections(false);
   summary_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
   auto* splitter = new QSplitter(Qt::Vertical, this);
   splitter->addWidget(summary_);
@@ -59,24 +80,57 @@ void HostWindow::BuildMenus() {
   file->addSeparator();
   file->addAction("&Quit", QKeySequence::Quit, this, [this] { close(); });
 
-  // One menu entry per registered dialog, grouped by family in registration order.
+  // The places the library's messages send the user to.
+  QMenu* edit = menuBar()->addMenu("&Edit");
+  lockAction_ = edit->addAction("Lock Model", this, [this] { SetModelLocked(true); });
+  unlockAction_ = edit->addAction("Unlock Model", this, [this] { SetModelLocked(false); });
+  QMenu* settings = menuBar()->addMenu("&Settings");
+  QMenu* dataOptions = settings->addMenu("Data Options");
+  selectedOnlyAction_ = dataOptions->addAction("Show only selected entities in spreadsheet");
+  selectedOnlyAction_->setCheckable(true);
+  connect(selectedOnlyAction_, &QAction::triggered, this, [this](bool on) { SetShowSelectedOnly(on); });
+
+  // One menu entry per registered dialog, by its caption, grouped by family in registration
+  // order; the class name is the entry's tooltip.
   QMenu* dialogs = menuBar()->addMenu("&Dialogs");
   std::map<std::string, QMenu*> families;
   for (const DialogClassInfo& info : RegisteredDialogClasses()) {
     QMenu*& menu = families[info.family];
-    if (!menu) menu = dialogs->addMenu(QString::fromStdString(info.family));
+    if (!menu) {
+      menu = dialogs->addMenu(QString::fromStdString(info.family));
+      menu->setToolTipsVisible(true);
+    }
     const std::string name = info.className;
-    menu->addAction(QString::fromStdString(name), this, [this, name] {
+    QAction* action = menu->addAction(DialogCaption(info), this, [this, name] {
       RunDialog(name);
       RefreshView();
     });
+    action->setToolTip(QString::fromStdString(name));
+    action->setObjectName(QString::fromStdString(name));
   }
+}
+
+void HostWindow::SetModelLocked(bool locked) {
+  if (model_.doc.display.modelLocked == locked) return;
+  model_.doc.display.modelLocked = locked;
+  model_.modified = true;
+  RefreshView();
+}
+
+void HostWindow::SetShowSelectedOnly(bool on) {
+  if (model_.doc.display.showSelectedOnly == on) return;
+  model_.doc.display.showSelectedOnly = on;
+  model_.modified = true;
+  RefreshView();
 }
 
 void HostWindow::RefreshView() {
   const auto& doc = model_.doc;
   const QString name = model_.path.empty() ? "Untitled" : QFileInfo(QString::fromStdString(model_.path)).fileName();
   setWindowTitle(QString("%1%2 - Norvane").arg(name, model_.modified ? "*" : ""));
+  lockAction_->setEnabled(!doc.display.modelLocked);
+  unlockAction_->setEnabled(doc.display.modelLocked);
+  selectedOnlyAction_->setChecked(doc.display.showSelectedOnly);
   summary_->clear();
   auto add = [this](const QString& key, const QString& value) { summary_->addTopLevelItem(new QTreeWidgetItem({key, value})); };
   add("Title", QString::fromStdString(doc.title));
@@ -90,19 +144,7 @@ void HostWindow::RefreshView() {
   add("Show only selected", doc.display.showSelectedOnly ? "yes" : "no");
 
   // The nodes in the model's units and display format, as an embedding program shows them.
-  const auto heading = [&](const char* name) { return QString::fromStdString(doc.units.Heading(name, fmUnit::Length)); };
-  nodes_->clear();
-  nodes_->setHeaderLabels({"Node", heading("X"), heading("Y"), heading("Z"), "Selected"});
-  const int format = doc.display.format[fmUnit::Length];
-  for (const fmNd& nd : doc.nodes) {
-    auto* item = new QTreeWidgetItem({QString::fromStdString(tools::Format("%u", nd.id)),
-                                      QString::fromStdString(FormatForDisplay(nd.x, format)),
-                                      QString::fromStdString(FormatForDisplay(nd.y, format)),
-                                      QString::fromStdString(FormatForDisplay(nd.z, format)),
-                                      nd.IsSelected() ? "yes" : ""});
-    for (int c = 0; c < 4; ++c) item->setTextAlignment(c, Qt::AlignRight | Qt::AlignVCenter);
-    nodes_->addTopLevelItem(item);
-  }
+  nodeModel_->Refresh();
   QString status = model_.modified ? "Modified" : "Saved";
   if (!model_.status.empty()) status += " - " + QString::fromStdString(model_.status);
   statusBar()->showMessage(status);

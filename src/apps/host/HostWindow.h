@@ -5,7 +5,10 @@
 
 #include "apps/host/HostModel.h"
 
+class QAction;
 class QLabel;
+class NodeTableModel;
+class QTableView;
 class QTreeWidget;
 
 // The demo host: opens a model document, lists the library's dialogs by family in its
@@ -24,6 +27,10 @@ class HostWindow : public QMainWindow {
   int RunDialog(const std::string& className);
   // Asks to save a changed model; false when the user cancels.
   bool ConfirmDiscard();
+  // "Edit > Lock Model" / "Unlock Model" and "Settings > Data Options > Show only selected
+  // entities in spreadsheet": both are kept in the document's display settings.
+  void SetModelLocked(bool locked);
+  void SetShowSelectedOnly(bool on);
 
   HostModel& model() { return model_; }
   void RefreshView();
@@ -36,6 +43,10 @@ class HostWindow : public QMainWindow {
   void OnOpen();
 
   HostModel model_;
+  QAction* lockAction_ = nullptr;
+  QAction* unlockAction_ = nullptr;
+  QAction* selectedOnlyAction_ = nullptr;
   QTreeWidget* summary_;
-  QTreeWidget* nodes_;
+  NodeTableModel* nodeModel_;
+  QTableView* nodes_;
 };

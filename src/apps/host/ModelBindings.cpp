@@ -28,47 +28,46 @@ bool WroteThrough(CDialog&, HostModel&) { return true; }
 }  // namespace
 
 void RegisterModelBindings() {
-  RegisterDialogBinding({"CNodeDataDlg",
-                         [](CDialog& d, HostModel& m) {
-                           auto& dlg = static_cast<CNodeDataDlg&>(d);
-                           PrepareGrid(dlg, m);
-                           dlg.m_pNodes = &m.doc.nodes;
-                         },
-                         [](CDialog&, HostModel& m) {
-                           // A renumbered node leaves its support behind; a support at no node
-                           // would make the saved model unreadable.
-                           const std::vector<uint32_t> removed = model::RemoveSupportsAtMissingNodes(m.doc);
-                           if (!removed.empty()) {
-                             std::string ids;
-                             for (size_t i = 0; i < removed.size() && i < 10; ++i)
-                               ids += tools::Format("%s%u", i ? ", " : "", removed[i]);
-                             if (removed.size() > 10) ids += ", ...";
-                             m.status = tools::Format("Removed %zu support%s at nodes no longer in the model (%s)",
-                                                      removed.size(), removed.size() == 1 ? "" : "s", ids.c_str());
-                           }
-                           return true;
-                         }});
-  RegisterDialogBinding({"CBeamDataDlg",
-                         [](CDialog& d, HostModel& m) {
-                           auto& dlg = static_cast<CBeamDataDlg&>(d);
-                           PrepareElementGrid(dlg, m);
-                           dlg.m_pSections = &m.doc.sections;
-                           dlg.m_pBeams = &m.doc.members;
-                         },
-                         WroteThrough});
-  RegisterDialogBinding({"CShell4DataDlg",
-                         [](CDialog& d, HostModel& m) {
-                           auto& dlg = static_cast<CShell4DataDlg&>(d);
-                           PrepareElementGrid(dlg, m);
-                           dlg.m_pThicknesses = &m.doc.thicknesses;
-                           dlg.m_pShells = &m.doc.shells;
-                         },
-                         WroteThrough});
-  RegisterDialogBinding({"CBrickDataDlg",
-                         [](CDialog& d, HostModel& m) {
-                           auto& dlg = static_cast<CBrickDataDlg&>(d);
-                           PrepareElementGrid(dlg, m);
-                           dlg.m_pBricks = &m.doc.bricks;
-                         },
-                         WroteThrough});
+  BindDialog<CNodeDataDlg>(
+      [](CNodeDataDlg& dlg, HostModel& m) {
+        PrepareGrid(dlg, m);
+        dlg.m_pNodes = &m.doc.nodes;
+      },
+      [](CDialog&, HostModel& m) {
+        // A renumbered node leaves its support behind; a support at no node
+        // would make the saved model unreadable.
+        const std::vector<uint32_t> removed = model::RemoveSupportsAtMissingNodes(m.doc);
+        if (!removed.empty()) {
+          std::string ids;
+          for (size_t i = 0; i < removed.size() && i < 10; ++i) ids += tools::Format("%s%u", i ? ", " : "", removed[i]);
+          if (removed.size() > 10) ids += ", ...";
+          m.status = tools::Format("Removed %zu support%s at nodes no longer in the model (%s)", removed.size(),
+                                   removed.size() == 1 ? "" : "s", ids.c_str());
+        }
+        if (const size_t others = model::RemoveBoundariesAtMissingObjects(m.doc); others > 0)
+          m.status += tools::Format("%sRemoved or changed %zu spring, constraint, diaphragm or drift record%s naming "
+                                    "nodes no longer in the model",
+                                    m.status.empty() ? "" : "; ", others, others == 1 ? "" : "s");
+        return true;
+      });
+  BindDialog<CBeamDataDlg>(
+      [](CBeamDataDlg& dlg, HostModel& m) {
+        PrepareElementGrid(dlg, m);
+        dlg.m_pSections = &m.doc.sections;
+        dlg.m_pBeams = &m.doc.members;
+      },
+      WroteThrough);
+  BindDialog<CShell4DataDlg>(
+      [](CShell4DataDlg& dlg, HostModel& m) {
+        PrepareElementGrid(dlg, m);
+        dlg.m_pThicknesses = &m.doc.thicknesses;
+        dlg.m_pShells = &m.doc.shells;
+      },
+      WroteThrough);
+  BindDialog<CBrickDataDlg>(
+      [](CBrickDataDlg& dlg, HostModel& m) {
+        PrepareElementGrid(dlg, m);
+        dlg.m_pBricks = &m.doc.bricks;
+      },
+      WroteThrough);
 }

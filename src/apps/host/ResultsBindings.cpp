@@ -1,5 +1,8 @@
 #include "apps/host/DialogBindings.h"
 #include "dialogs/frame/DebugOutput.h"
+#include "dialogs/results/CBeamEnvelopDiagramDlg.h"
+#include "dialogs/results/CEnvelopeReportDlg.h"
+#include "dialogs/results/CReportDlg.h"
 #include "dialogs/results/CResultsDlg.h"
 #include "model/solved_structure.h"
 #include "tools/parse.h"
@@ -16,13 +19,12 @@ int32_t ShowOption(const HostModel& m, const char* name, int32_t fallback) {
 }  // namespace
 
 void RegisterResultsBindings() {
-  DialogBinding binding{
-      "CResultsDlg",
-      [](CDialog& d, HostModel& m) {
-        auto& dlg = static_cast<CResultsDlg&>(d);
+  BindDialog<CResultsDlg>(
+      [](CResultsDlg& dlg, HostModel& m) {
         // The dialog reads the solved structure while it runs; the host keeps it alive.
         auto solved = std::make_shared<CfmStruct>(model::SolvedStructure(m.doc));
-        for (const std::string& line : model::CheckSolution(m.doc)) DebugOutput("Results do not fit the model: " + line);
+        for (const std::string& line : model::CheckSolution(m.doc))
+          DebugOutput("Results do not fit the model: " + line);
         dlg.m_pStruct = solved.get();
         m.dialogState = solved;
         dlg.m_nReportType = ShowOption(m, "kind", 0);
@@ -31,14 +33,44 @@ void RegisterResultsBindings() {
         dlg.m_nQueryId = ShowOption(m, "query", firstNode);
         dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
       },
-      nullptr};
-  // "Show selected only" is the model's data option, kept when the dialog closes (it has no OK).
-  binding.afterCancel = [](CDialog& d, HostModel& m) {
-    const CfmStruct* solved = static_cast<CResultsDlg&>(d).m_pStruct;
-    const bool selectedOnly = solved && solved->m_nShowSelected != 0;
-    if (!solved || selectedOnly == m.doc.display.showSelectedOnly) return false;
-    m.doc.display.showSelectedOnly = selectedOnly;
-    return true;
-  };
-  RegisterDialogBinding(std::move(binding));
+      nullptr,
+      // "Show selected only" is the model's data option, kept when the dialog closes (it has no OK).
+      [](CResultsDlg& dlg, HostModel& m) {
+        const CfmStruct* solved = dlg.m_pStruct;
+        const bool selectedOnly = solved && solved->m_nShowSelected != 0;
+        if (!solved || selectedOnly == m.doc.display.showSelectedOnly) return false;
+        m.doc.display.showSelectedOnly = selectedOnly;
+        return true;
+      });
+
+  // The envelope list is the model's: OK writes it into the document.
+  BindDialog<CEnvelopeReportDlg>(
+      [](CEnvelopeReportDlg& dlg, HostModel& m) {
+        dlg.m_pLoadCases = &m.doc.loadCases;
+        dlg.m_pLoadCombs = &m.doc.loadCombs;
+        dlg.m_pEnvelopeCombinations = &m.doc.envelopeCombinations;
+        dlg.m_bModelLocked = m.doc.display.modelLocked;
+      },
+      [](CEnvelopeReportDlg&, HostModel&) { return true; });
+
+  BindDialog<CReportDlg>(
+      [](CReportDlg& dlg, HostModel& m) {
+        auto solved = std::make_shared<CfmStruct>(model::SolvedStructure(m.doc));
+        dlg.m_pStruct = solved.get();
+        m.dialogState = solved;
+        dlg.m_nReportType = ShowOption(m, "kind", 0);
+        dlg.m_nCombination = ShowOption(m, "case", 1) - 1;
+        dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
+      },
+      nullptr);
+
+  BindDialog<CBeamEnvelopDiagramDlg>(
+      [](CBeamEnvelopDiagramDlg& dlg, HostModel& m) {
+        auto solved = std::make_shared<CfmStruct>(model::SolvedStructure(m.doc));
+        dlg.m_pStruct = solved.get();
+        m.dialogState = solved;
+        dlg.m_nMember = ShowOption(m, "query", 0);
+        dlg.m_nForce = ShowOption(m, "kind", 5);
+      },
+      nullptr);
 }

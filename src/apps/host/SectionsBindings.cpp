@@ -20,8 +20,7 @@ void PrepareGrid(CDataGridDlg& dlg, HostModel& m) {
 bool WroteThrough(CDialog&, HostModel&) { return true; }
 
 template <class Dlg>
-void PrepareBrowser(CDialog& d, HostModel& m) {
-  auto& dlg = static_cast<Dlg&>(d);
+void PrepareBrowser(Dlg& dlg, HostModel& m) {
   dlg.m_pUnits = &m.doc.units;
   dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
 }
@@ -29,42 +28,34 @@ void PrepareBrowser(CDialog& d, HostModel& m) {
 }  // namespace
 
 void RegisterSectionsBindings() {
-  RegisterDialogBinding({"CSectionDlg",
-                         [](CDialog& d, HostModel& m) {
-                           auto& dlg = static_cast<CSectionDlg&>(d);
-                           PrepareGrid(dlg, m);
-                           dlg.m_pSections = &m.doc.sections;
-                         },
-                         WroteThrough});
-  RegisterDialogBinding({"CThickDlg",
-                         [](CDialog& d, HostModel& m) {
-                           auto& dlg = static_cast<CThickDlg&>(d);
-                           PrepareGrid(dlg, m);
-                           dlg.m_pThicknesses = &m.doc.thicknesses;
-                         },
-                         WroteThrough});
-  RegisterDialogBinding({"CMaterialDlg",
-                         [](CDialog& d, HostModel& m) {
-                           auto& dlg = static_cast<CMaterialDlg&>(d);
-                           PrepareGrid(dlg, m);
-                           dlg.m_pMaterials = &m.doc.materials;
-                         },
-                         WroteThrough});
-  for (const char* name : {"CMaterialRcDlg", "CMaterialSteelDlg"})
-    RegisterDialogBinding({name,
-                           [](CDialog& d, HostModel& m) {
-                             auto& dlg = static_cast<CMaterialStrengthDlg&>(d);
-                             PrepareGrid(dlg, m);
-                             dlg.m_pMaterials = &m.doc.materials;
-                           },
-                           WroteThrough});
+  BindDialog<CSectionDlg>(
+      [](CSectionDlg& dlg, HostModel& m) {
+        PrepareGrid(dlg, m);
+        dlg.m_pSections = &m.doc.sections;
+      },
+      WroteThrough);
+  BindDialog<CThickDlg>(
+      [](CThickDlg& dlg, HostModel& m) {
+        PrepareGrid(dlg, m);
+        dlg.m_pThicknesses = &m.doc.thicknesses;
+      },
+      WroteThrough);
+  BindDialog<CMaterialDlg>(
+      [](CMaterialDlg& dlg, HostModel& m) {
+        PrepareGrid(dlg, m);
+        dlg.m_pMaterials = &m.doc.materials;
+      },
+      WroteThrough);
+  const auto strengths = [](CMaterialStrengthDlg& dlg, HostModel& m) {
+    PrepareGrid(dlg, m);
+    dlg.m_pMaterials = &m.doc.materials;
+  };
+  BindDialog<CMaterialRcDlg>(strengths, WroteThrough);
+  BindDialog<CMaterialSteelDlg>(strengths, WroteThrough);
   // The calculators and browsers change nothing in the model by themselves.
-  RegisterDialogBinding({"CRegularSectionDlg",
-                         [](CDialog& d, HostModel& m) { static_cast<CRegularSectionDlg&>(d).m_pUnits = &m.doc.units; },
-                         nullptr});
-  RegisterDialogBinding(
-      {"CStandardMaterialDlg",
-       [](CDialog& d, HostModel& m) { static_cast<CStandardMaterialDlg&>(d).m_pUnits = &m.doc.units; }, nullptr});
-  RegisterDialogBinding({"CAiscDataDlg", PrepareBrowser<CAiscDataDlg>, nullptr});
-  RegisterDialogBinding({"CNdsDataDlg", PrepareBrowser<CNdsDataDlg>, nullptr});
+  BindDialog<CRegularSectionDlg>([](CRegularSectionDlg& dlg, HostModel& m) { dlg.m_pUnits = &m.doc.units; }, nullptr);
+  BindDialog<CStandardMaterialDlg>([](CStandardMaterialDlg& dlg, HostModel& m) { dlg.m_pUnits = &m.doc.units; },
+                                   nullptr);
+  BindDialog<CAiscDataDlg>(PrepareBrowser<CAiscDataDlg>, nullptr);
+  BindDialog<CNdsDataDlg>(PrepareBrowser<CNdsDataDlg>, nullptr);
 }

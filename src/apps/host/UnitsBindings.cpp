@@ -8,25 +8,23 @@
 #include "tools/fm_exception.h"
 
 void RegisterUnitsBindings() {
-  RegisterDialogBinding({"CUnitsDlg",
-                         [](CDialog& d, HostModel& m) {
-                           auto& dlg = static_cast<CUnitsDlg&>(d);
-                           dlg.m_Units = m.doc.units;
-                           dlg.m_bModelLocked = m.doc.display.modelLocked;
-                         },
-                         [](CDialog& d, HostModel& m) {
-                           auto& dlg = static_cast<CUnitsDlg&>(d);
-                           if (dlg.m_bSaveAsDefaults) {
-                             QSettings settings;
-                             StoreDefaultUnits(dlg.m_Units, settings);
-                           }
-                           const fmUnit before = m.doc.units;
-                           try {
-                             model::ChangeDocumentUnits(m.doc, dlg.m_Units);
-                           } catch (const fmException& e) {
-                             GetPrompter().Message(&d, e.what(), MessageIcon::Error);
-                             return false;
-                           }
-                           return !(m.doc.units == before);
-                         }});
+  BindDialog<CUnitsDlg>(
+      [](CUnitsDlg& dlg, HostModel& m) {
+        dlg.m_Units = m.doc.units;
+        dlg.m_bModelLocked = m.doc.display.modelLocked;
+      },
+      [](CUnitsDlg& dlg, HostModel& m) {
+        if (dlg.m_bSaveAsDefaults) {
+          QSettings settings;
+          StoreDefaultUnits(dlg.m_Units, settings);
+        }
+        const fmUnit before = m.doc.units;
+        try {
+          model::ChangeDocumentUnits(m.doc, dlg.m_Units);
+        } catch (const fmException& e) {
+          GetPrompter().Message(&dlg, e.what(), MessageIcon::Error);
+          return false;
+        }
+        return !(m.doc.units == before);
+      });
 }

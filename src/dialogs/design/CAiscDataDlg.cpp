@@ -1,8 +1,14 @@
 #include "dialogs/design/CAiscDataDlg.h"
 
+#include "dialogs/frame/Form.h"
 #include "resources/sections_ids.h"
 
-CAiscDataDlg::CAiscDataDlg(QWidget* pParent) : CShapeBrowserDlg(res::kTplAiscData, pParent) {}
+const frame::Form<CShapeBrowserDlg>& CAiscDataDlg::Description() {
+  static const frame::Form<CShapeBrowserDlg> form = BrowserForm(res::kIddAiscData, "AISC Steel Shapes");
+  return form;
+}
+
+CAiscDataDlg::CAiscDataDlg(QWidget* pParent) : CShapeBrowserDlg(Description(), pParent) {}
 
 bool CAiscDataDlg::LoadTable() {
   library_ = tools::CurrentAiscLibrary();

@@ -6,6 +6,7 @@
 class CAiscDataDlg : public CShapeBrowserDlg {
  public:
   explicit CAiscDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CShapeBrowserDlg>& Description();
 
   tools::fmSect_AISC m_Shape;  // the chosen shape, after IDOK
 

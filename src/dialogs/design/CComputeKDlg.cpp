@@ -2,12 +2,13 @@
 
 #include <QFrame>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
 #include "dialogs/design/KFactorChart.h"
 #include "dialogs/frame/DataExchange.h"
+#include "dialogs/frame/Form.h"
+#include "dialogs/frame/TemplateBuilder.h"
 #include "resources/design_ids.h"
 #include "tools/format.h"
 #include "tools/parse.h"
@@ -15,10 +16,32 @@
 using namespace res;
 using design::FrameKind;
 
-CComputeKDlg::CComputeKDlg(QWidget* pParent) : CDialog(kIddComputeK, pParent) {
+// Inputs and results on the left, the picture of both equations beside them.
+const frame::Form<CComputeKDlg>& CComputeKDlg::Description() {
+  using F = frame::Field<CComputeKDlg>;
+  using D = CComputeKDlg;
+  static const frame::Form<D> form(
+      {.templateId = kIddComputeK, .caption = "Compute Effective Length Factor K", .minWidth = 900, .minHeight = 520,
+       .buttons = frame::FormFrame::Buttons::Close, .stretchColumn = false},
+      {
+          F::Group("Relative stiffness ratios at the top and bottom joints of the column").Span(2),
+          F::Real("@ Column Top:", &D::m_dGA, design::kGMin, design::kGMax),
+          F::Real("@ Column Bottom:", &D::m_dGB, design::kGMin, design::kGMax),
+          F::EndGroup(),
+          // The results are shown, never read back: the boxes hold them rounded.
+          F::Result("Braced K:").Id(kCtlBracedK).LabelId(0, kStrBracedK).Flags(kAlignRight),
+          F::Result("Unbraced K:").Id(kCtlUnbracedK).LabelId(0, kStrUnbracedK).Flags(kAlignRight),
+          F::Static("").Span(2).Flags(kStretchRow),
+          F::Grid().Id(kCtlKChart).At(0, 2, 4, 1).Stretch(kStretchCol),
+          F::Button("Compute").Id(kCtlCompute).At(frame::kButtonBar, 0),
+      });
+  return form;
+}
+
+CComputeKDlg::CComputeKDlg(QWidget* pParent) : CDialog(Description(), pParent) {
   OnCommand(kCtlCompute, [this] { OnCompute(); });
-  OnEditChange(kCtlGA, [this] { OnRatioEdited(); });
-  OnEditChange(kCtlGB, [this] { OnRatioEdited(); });
+  OnEditChange(frame::IdOf(&CComputeKDlg::m_dGA), [this] { OnRatioEdited(); });
+  OnEditChange(frame::IdOf(&CComputeKDlg::m_dGB), [this] { OnRatioEdited(); });
 }
 
 BOOL CComputeKDlg::OnInitDialog() {
@@ -35,11 +58,6 @@ BOOL CComputeKDlg::OnInitDialog() {
 
 void CComputeKDlg::DoDataExchange(CDataExchange* pDX) {
   CDialog::DoDataExchange(pDX);
-  DDX_Text(pDX, kCtlGA, m_dGA);
-  DDV_MinMaxDouble(pDX, m_dGA, design::kGMin, design::kGMax);
-  DDX_Text(pDX, kCtlGB, m_dGB);
-  DDV_MinMaxDouble(pDX, m_dGB, design::kGMin, design::kGMax);
-  // The results are shown, never read back: the boxes hold them rounded.
   if (!pDX->m_bSaveAndValidate) ShowResults();
 }
 
@@ -77,8 +95,8 @@ void CComputeKDlg::OnCompute() {
 }
 
 void CComputeKDlg::OnRatioEdited() {
-  const auto ga = tools::ParseDouble(GetDlgItemText(kCtlGA));
-  const auto gb = tools::ParseDouble(GetDlgItemText(kCtlGB));
+  const auto ga = tools::ParseDouble(GetDlgItemText(frame::IdOf(&CComputeKDlg::m_dGA)));
+  const auto gb = tools::ParseDouble(GetDlgItemText(frame::IdOf(&CComputeKDlg::m_dGB)));
   // Writing the computed ratios back into their boxes is no edit.
   if (computedFor_ && ga == computedFor_->first && gb == computedFor_->second) return;
   if (computedFor_) {

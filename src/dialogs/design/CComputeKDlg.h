@@ -13,6 +13,7 @@ class QKeyEvent;
 class CComputeKDlg : public CDialog {
  public:
   explicit CComputeKDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CComputeKDlg>& Description();
 
   // 1.0 until computed. A computation that finds no root in its bracket leaves its K at 1.0
   // (shown as "No root") and sets its failed flag: OK refuses a failed braced K, but passes a

@@ -2,10 +2,23 @@
 
 #include "dialogs/design/CStandardMaterialDlg.h"
 #include "dialogs/design/material_grid.h"
-#include "dialogs/frame/DataExchange.h"
 #include "resources/sections_ids.h"
 
-CMaterialDlg::CMaterialDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplMaterial, pParent) {
+const frame::Form<CMaterialDlg>& CMaterialDlg::Description() {
+  using F = frame::Field<CMaterialDlg>;
+  using namespace res;
+  static const frame::Form<CMaterialDlg> form = TableForm<CMaterialDlg>(
+      {.templateId = kIddMaterial, .caption = "Material", .minWidth = 760, .minHeight = 400,
+       .okText = "Apply", .okDefault = false},
+      {
+          F::Check("Assign active material to currently selected elements", &CMaterialDlg::m_bAssignActive)
+              .Id(kCtlMatAssign).Span(1),
+          F::Button("Std Material...").Id(kCtlMatStandard),
+      });
+  return form;
+}
+
+CMaterialDlg::CMaterialDlg(QWidget* pParent) : CPropertyGridDlg(Description(), pParent) {
   OnCommand(res::kCtlMatStandard, [this] { OnStdMaterial(); });
 }
 
@@ -19,11 +32,6 @@ BOOL CMaterialDlg::OnInitDialog() {
   return 1;
 }
 
-void CMaterialDlg::DoDataExchange(CDataExchange* pDX) {
-  CPropertyGridDlg::DoDataExchange(pDX);
-  DDX_Check(pDX, res::kCtlMatAssign, m_bAssignActive);
-}
-
 double CMaterialDlg::ConvertModulusFromPsiDocumentUnit(double psi) const {
   return psi * matgrid::PsiToDocumentStress(*m_pUnits);
 }
@@ -35,8 +43,8 @@ void CMaterialDlg::Refresh() {
 }
 
 void CMaterialDlg::FillOneRow(const fmMat& material, int row) {
-  TSpread::RedrawGuard guard(m_Spread);
-  matgrid::FillOneRow(m_Spread.sheet(), material, row);
+  m_Spread.ChangeCells("Fill Row", {1, row, m_Spread.sheet().MaxCols(), row},
+                       [&](grid::Sheet& sheet) { matgrid::FillOneRow(sheet, material, row); });
 }
 
 void CMaterialDlg::OnStdMaterial() {

@@ -14,6 +14,7 @@ class CStandardMaterialDlg;
 class CMaterialDlg : public CPropertyGridDlg {
  public:
   explicit CMaterialDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CMaterialDlg>& Description();
   ~CMaterialDlg() override;
 
   std::vector<fmMat>* m_pMaterials = nullptr;
@@ -30,7 +31,6 @@ class CMaterialDlg : public CPropertyGridDlg {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   std::vector<int> EditingControls() const override;
   void Refresh() override;
   bool Save() override;

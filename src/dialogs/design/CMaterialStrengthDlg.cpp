@@ -11,8 +11,8 @@ void CMaterialStrengthDlg::Refresh() {
 }
 
 void CMaterialStrengthDlg::FillOneRow(const fmMat& material, int row) {
-  TSpread::RedrawGuard guard(m_Spread);
-  matgrid::FillStrengthRow(m_Spread.sheet(), kind_, material, row);
+  m_Spread.ChangeCells("Fill Row", {1, row, m_Spread.sheet().MaxCols(), row},
+                       [&](grid::Sheet& sheet) { matgrid::FillStrengthRow(sheet, kind_, material, row); });
 }
 
 bool CMaterialStrengthDlg::Save() {
@@ -26,8 +26,22 @@ bool CMaterialStrengthDlg::Save() {
   return true;
 }
 
-CMaterialRcDlg::CMaterialRcDlg(QWidget* pParent)
-    : CMaterialStrengthDlg(res::kTplMaterialRc, matgrid::kConcrete, pParent) {}
+const frame::Form<CMaterialRcDlg>& CMaterialRcDlg::Description() {
+  static const frame::Form<CMaterialRcDlg> form = TableForm<CMaterialRcDlg>(
+      {.templateId = res::kIddMaterialRc, .caption = "Concrete Material Strengths", .minWidth = 600, .minHeight = 360,
+       .okDefault = false},
+      {}, {}, false);
+  return form;
+}
 
-CMaterialSteelDlg::CMaterialSteelDlg(QWidget* pParent)
-    : CMaterialStrengthDlg(res::kTplMaterialSteel, matgrid::kSteel, pParent) {}
+CMaterialRcDlg::CMaterialRcDlg(QWidget* pParent) : CMaterialStrengthDlg(Description(), matgrid::kConcrete, pParent) {}
+
+const frame::Form<CMaterialSteelDlg>& CMaterialSteelDlg::Description() {
+  static const frame::Form<CMaterialSteelDlg> form = TableForm<CMaterialSteelDlg>(
+      {.templateId = res::kIddMaterialSteel, .caption = "Steel Material Strengths", .minWidth = 600, .minHeight = 360,
+       .okDefault = false},
+      {}, {}, false);
+  return form;
+}
+
+CMaterialSteelDlg::CMaterialSteelDlg(QWidget* pParent) : CMaterialStrengthDlg(Description(), matgrid::kSteel, pParent) {}

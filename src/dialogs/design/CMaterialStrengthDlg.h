@@ -17,8 +17,8 @@ class CMaterialStrengthDlg : public CPropertyGridDlg {
   }
 
  protected:
-  CMaterialStrengthDlg(int templateId, matgrid::StrengthKind kind, QWidget* pParent)
-      : CPropertyGridDlg(templateId, pParent), kind_(kind) {}
+  CMaterialStrengthDlg(const frame::FormBase& form, matgrid::StrengthKind kind, QWidget* pParent)
+      : CPropertyGridDlg(form, pParent), kind_(kind) {}
   void DoDataExchange(CDataExchange* pDX) override;
   void Refresh() override;
   bool Save() override;
@@ -31,10 +31,12 @@ class CMaterialStrengthDlg : public CPropertyGridDlg {
 class CMaterialRcDlg : public CMaterialStrengthDlg {
  public:
   explicit CMaterialRcDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CMaterialRcDlg>& Description();
 };
 
 // Structural steel: Fy and Fu, kept in the records' fy and fys.
 class CMaterialSteelDlg : public CMaterialStrengthDlg {
  public:
   explicit CMaterialSteelDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CMaterialSteelDlg>& Description();
 };

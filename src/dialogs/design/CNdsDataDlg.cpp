@@ -1,8 +1,14 @@
 #include "dialogs/design/CNdsDataDlg.h"
 
+#include "dialogs/frame/Form.h"
 #include "resources/sections_ids.h"
 
-CNdsDataDlg::CNdsDataDlg(QWidget* pParent) : CShapeBrowserDlg(res::kTplNdsData, pParent) {}
+const frame::Form<CShapeBrowserDlg>& CNdsDataDlg::Description() {
+  static const frame::Form<CShapeBrowserDlg> form = BrowserForm(res::kIddNdsData, "NDS Sawn Lumber");
+  return form;
+}
+
+CNdsDataDlg::CNdsDataDlg(QWidget* pParent) : CShapeBrowserDlg(Description(), pParent) {}
 
 bool CNdsDataDlg::LoadTable() {
   table_ = tools::CurrentNdsTable();

@@ -6,6 +6,7 @@
 class CNdsDataDlg : public CShapeBrowserDlg {
  public:
   explicit CNdsDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CShapeBrowserDlg>& Description();
 
   tools::fmSect_NDS m_Shape;  // the chosen size, after IDOK
 

@@ -8,17 +8,12 @@
 #include "resources/grid_ids.h"
 #include "tools/parse.h"
 
-BOOL CPropertyGridDlg::OnInitDialog() {
-  CDialog::OnInitDialog();
-  m_Spread.CreateInPlace(this, res::kCtlGridPlaceholder, res::kCtlGrid);
-  Refresh();
-  if (m_bModelLocked) {
-    for (int id : {IDOK, res::kCtlNewRowCount, res::kCtlNewRows}) EnableDlgItem(id, false);
-    for (int id : EditingControls()) EnableDlgItem(id, false);
-    SetDlgItemText(IDCANCEL, "Close");
-    MessageBox("The Model is locked.\nYou can not modify data in the spreadsheet.", MessageIcon::Information);
-  }
-  return 1;
+GridEditLock CPropertyGridDlg::EditLock() const {
+  GridEditLock how;
+  how.disable = {IDOK, res::kCtlNewRowCount, res::kCtlNewRows};
+  for (int id : EditingControls()) how.disable.push_back(id);
+  how.message = kModelLockedShort;
+  return how;
 }
 
 QSize CPropertyGridDlg::sizeHint() const {

@@ -11,10 +11,11 @@ class CPropertyGridDlg : public CDataGridDlg {
   QSize sizeHint() const override;
 
  protected:
-  CPropertyGridDlg(int templateId, QWidget* pParent) : CDataGridDlg(templateId, pParent) {}
+  explicit CPropertyGridDlg(const frame::FormBase& form, QWidget* pParent) : CDataGridDlg(form, pParent) {}
 
-  // Order: captions, the grid in place, Refresh, then the locked-model handling.
-  BOOL OnInitDialog() override;
+  // The table's own editing buttons are disabled too, and the message says only that the
+  // model is locked.
+  GridEditLock EditLock() const override;
   // The controls that edit the table besides OK, the new-row count and "New Rows".
   virtual std::vector<int> EditingControls() const { return {}; }
 

@@ -11,6 +11,10 @@ class SectionPicture;
 class CRegularSectionDlg : public CDialog {
  public:
   explicit CRegularSectionDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CRegularSectionDlg>& Description();
+  // The box of dimension i (0 to 3) and its caption.
+  static int DimensionId(int i);
+  static int CaptionId(int i);
 
   int32_t m_nType = 0;  // 0 Rectangle, 1 Round, 2 Wide Flange, 3 Tee
   double m_dDim1 = 0, m_dDim2 = 0, m_dDim3 = 0, m_dDim4 = 0;
@@ -20,7 +24,6 @@ class CRegularSectionDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   void OnOK() override;
   void OnSelChangeType();
   // Captions, enabled boxes and the fixed values of the unused ones for a type.

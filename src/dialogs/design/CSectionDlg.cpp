@@ -17,7 +17,25 @@ namespace {
 constexpr const char* kOverrideSection = "Do you want to override the current section?";
 }  // namespace
 
-CSectionDlg::CSectionDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplSection, pParent) {
+const frame::Form<CSectionDlg>& CSectionDlg::Description() {
+  using F = frame::Field<CSectionDlg>;
+  using namespace res;
+  static const frame::Form<CSectionDlg> form = TableForm<CSectionDlg>(
+      {.templateId = kIddSection, .caption = "Member Sections", .minWidth = 900, .minHeight = 460,
+       .okText = "Apply", .okDefault = false},
+      {
+          F::Check("Assign active section to currently selected members", &CSectionDlg::m_bAssignActive)
+              .Id(kCtlSecAssign).Span(1),
+          F::Button("Regular Section...").Id(kCtlSecRegular),
+          F::Button("AISC Table...").Id(kCtlSecAisc),
+          F::Button("NDS Table...").Id(kCtlSecNds),
+          F::Button("Rigid Link").Id(kCtlSecRigidLink),
+      },
+      {F::Button("Export AISC Table...").Id(kCtlSecExportAisc), F::Button("Import AISC Table...").Id(kCtlSecImportAisc)});
+  return form;
+}
+
+CSectionDlg::CSectionDlg(QWidget* pParent) : CPropertyGridDlg(Description(), pParent) {
   OnCommand(res::kCtlSecRegular, [this] { OnAddRegular(); });
   OnCommand(res::kCtlSecAisc, [this] { OnAisc(); });
   OnCommand(res::kCtlSecNds, [this] { OnBnClickedNds(); });
@@ -37,19 +55,14 @@ BOOL CSectionDlg::OnInitDialog() {
   return 1;
 }
 
-void CSectionDlg::DoDataExchange(CDataExchange* pDX) {
-  CPropertyGridDlg::DoDataExchange(pDX);
-  DDX_Check(pDX, res::kCtlSecAssign, m_bAssignActive);
-}
-
 void CSectionDlg::Refresh() {
   TSpread::RedrawGuard guard(m_Spread);
   shown_ = sectiongrid::Fill(m_Spread.sheet(), *m_pSections, *m_pUnits, m_crAlternateRowColor, m_bModelLocked);
 }
 
 void CSectionDlg::FillOneRow(const fmSect& section, int row) {
-  TSpread::RedrawGuard guard(m_Spread);
-  sectiongrid::FillOneRow(m_Spread.sheet(), section, row);
+  m_Spread.ChangeCells("Fill Row", {1, row, m_Spread.sheet().MaxCols(), row},
+                       [&](grid::Sheet& sheet) { sectiongrid::FillOneRow(sheet, section, row); });
 }
 
 void CSectionDlg::OnAddRegular() {

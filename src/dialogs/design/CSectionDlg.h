@@ -11,6 +11,7 @@
 class CSectionDlg : public CPropertyGridDlg {
  public:
   explicit CSectionDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CSectionDlg>& Description();
 
   std::vector<fmSect>* m_pSections = nullptr;
   int32_t m_nActiveSection = 1;   // row made active on entry; the active row (or -1) after OK
@@ -22,7 +23,6 @@ class CSectionDlg : public CPropertyGridDlg {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   std::vector<int> EditingControls() const override;
   void Refresh() override;
   bool Save() override;

@@ -7,10 +7,30 @@
 #include <QTreeWidget>
 
 #include "dialogs/design/SectionPicture.h"
+#include "dialogs/frame/Form.h"
 #include "resources/sections_ids.h"
 #include "tools/format.h"
 
-CShapeBrowserDlg::CShapeBrowserDlg(int templateId, QWidget* pParent) : CDialog(templateId, pParent) {
+frame::Form<CShapeBrowserDlg> CShapeBrowserDlg::BrowserForm(int templateId, const char* caption) {
+  using F = frame::Field<CShapeBrowserDlg>;
+  using namespace res;
+  return frame::Form<CShapeBrowserDlg>(
+      {.templateId = templateId, .caption = caption, .minWidth = 860, .minHeight = 480, .stretchColumn = false},
+      {
+          F::Drop("Shape type:").Id(kCtlShapeType).Items([](const CShapeBrowserDlg& d) {
+            std::vector<std::string> types{res::LoadStringOr(kStrShapeAllTypes, "All types")};
+            for (std::string& t : d.TypeNames()) types.push_back(std::move(t));
+            return types;
+          }),
+          F::Text("Find:", &CShapeBrowserDlg::m_strFind).Id(kCtlShapeFind),
+          F::List("").Id(kCtlShapeList).Span(2).Stretch(kStretchRow),
+          F::Static("").Id(kCtlShapeCount).Span(2),
+          F::Report("Property\tValue\tUnit").Id(kCtlShapeProperties).At(0, 2, 4, 1).Stretch(kStretchCol),
+          F::Grid().Id(kCtlShapePicture).At(0, 3, 4, 1).Stretch(0),
+      });
+}
+
+CShapeBrowserDlg::CShapeBrowserDlg(const frame::FormBase& form, QWidget* pParent) : CDialog(form, pParent) {
   OnSelChange(res::kCtlShapeType, [this] { RefillList(); });
   OnEditChange(res::kCtlShapeFind, [this] { RefillList(); });
   OnSelChange(res::kCtlShapeList, [this] { ShowShape(CurrentShape()); });
@@ -18,8 +38,8 @@ CShapeBrowserDlg::CShapeBrowserDlg(int templateId, QWidget* pParent) : CDialog(t
 }
 
 BOOL CShapeBrowserDlg::OnInitDialog() {
-  CDialog::OnInitDialog();
   LoadTable();
+  CDialog::OnInitDialog();
   if (!picture_) {
     picture_ = new SectionPicture(this);
     picture_->CreateInPlace(this, res::kCtlShapePicture);
@@ -28,12 +48,6 @@ BOOL CShapeBrowserDlg::OnInitDialog() {
     tree->setColumnCount(3);
     tree->header()->setStretchLastSection(false);
     tree->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  }
-  if (auto* combo = Item<QComboBox>(res::kCtlShapeType)) {
-    combo->clear();
-    combo->addItem(QString::fromStdString(res::LoadStringOr(res::kStrShapeAllTypes, "All types")));
-    for (const std::string& t : TypeNames()) combo->addItem(QString::fromStdString(t));
-    combo->setCurrentIndex(0);
   }
   if (m_nSelectedShape < 0 || m_nSelectedShape >= TableSize()) m_nSelectedShape = FindLabel(m_strShapeName);
   RefillList();

@@ -18,13 +18,17 @@ class CShapeBrowserDlg : public CDialog {
   uint32_t m_crAlternateRowColor = 0xF0F5FF;
   int32_t m_nSelectedShape = -1;  // index in the table: preselected on entry, chosen on IDOK
   std::string m_strShapeName;     // label: preselected when the index is not valid; chosen on IDOK
+  std::string m_strFind;          // the search text
 
   // The table indices the list shows, in list order.
   const std::vector<int>& ShownShapes() const { return shown_; }
   SectionPicture* Picture() const { return picture_; }
 
  protected:
-  CShapeBrowserDlg(int templateId, QWidget* pParent);
+  CShapeBrowserDlg(const frame::FormBase& form, QWidget* pParent);
+  // Type filter and search above the list of labels, the chosen shape's properties and its
+  // outline beside it.
+  static frame::Form<CShapeBrowserDlg> BrowserForm(int templateId, const char* caption);
 
   BOOL OnInitDialog() override;
   void OnOK() override;

@@ -11,6 +11,7 @@
 class CStandardMaterialDlg : public CDialog {
  public:
   explicit CStandardMaterialDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CStandardMaterialDlg>& Description();
 
   std::vector<fmMat> m_Materials;  // the 22 entries; in document units once opened
   int32_t m_nMaterial = 0;
@@ -19,7 +20,6 @@ class CStandardMaterialDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   void OnOK() override;
   void OnSelChangeMaterial();
 };

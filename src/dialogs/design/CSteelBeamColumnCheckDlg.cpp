@@ -1,18 +1,18 @@
 #include "dialogs/design/CSteelBeamColumnCheckDlg.h"
 
 #include <QAbstractItemModel>
-#include <QComboBox>
 #include <QDesktopServices>
-#include <QLineEdit>
 #include <QSettings>
 #include <QTableView>
 #include <QUrl>
 #include <filesystem>
 
 #include "dialogs/design/CAiscDataDlg.h"
-#include "dialogs/frame/DataExchange.h"
+#include "dialogs/frame/Form.h"
+#include "dialogs/frame/TemplateBuilder.h"
 #include "dialogs/frame/Preferences.h"
 #include "resources/design_ids.h"
+#include "resources/ids.h"
 #include "tools/atomic_file.h"
 #include "tools/format.h"
 #include "tools/parse.h"
@@ -23,24 +23,18 @@ using design::SteelField;
 
 namespace {
 
-// The member's real-valued fields: control, member, and the field the checks name.
+using D = CSteelBeamColumnCheckDlg;
+
+// The member's real-valued fields and the field the checks name.
 struct RealField {
-  int control;
-  double CSteelBeamColumnCheckDlg::*member;
+  double D::*member;
   SteelField field;
 };
 const RealField kRealFields[] = {
-    {kCtlSteelFy, &CSteelBeamColumnCheckDlg::m_dFy, SteelField::Fy},
-    {kCtlSteelLength, &CSteelBeamColumnCheckDlg::m_dLength, SteelField::Length},
-    {kCtlSteelLux, &CSteelBeamColumnCheckDlg::m_dLux, SteelField::Lux},
-    {kCtlSteelKx, &CSteelBeamColumnCheckDlg::m_dKx, SteelField::Kx},
-    {kCtlSteelLuy, &CSteelBeamColumnCheckDlg::m_dLuy, SteelField::Luy},
-    {kCtlSteelKy, &CSteelBeamColumnCheckDlg::m_dKy, SteelField::Ky},
-    {kCtlSteelLuz, &CSteelBeamColumnCheckDlg::m_dLuz, SteelField::Luz},
-    {kCtlSteelKz, &CSteelBeamColumnCheckDlg::m_dKz, SteelField::Kz},
-    {kCtlSteelLb, &CSteelBeamColumnCheckDlg::m_dLb, SteelField::Lb},
-    {kCtlSteelCb, &CSteelBeamColumnCheckDlg::m_dCb, SteelField::Cb},
-    {kCtlSteelConnector, &CSteelBeamColumnCheckDlg::m_dConnectorDistance, SteelField::Connector},
+    {&D::m_dFy, SteelField::Fy},   {&D::m_dLength, SteelField::Length}, {&D::m_dLux, SteelField::Lux},
+    {&D::m_dKx, SteelField::Kx},   {&D::m_dLuy, SteelField::Luy},       {&D::m_dKy, SteelField::Ky},
+    {&D::m_dLuz, SteelField::Luz}, {&D::m_dKz, SteelField::Kz},         {&D::m_dLb, SteelField::Lb},
+    {&D::m_dCb, SteelField::Cb},   {&D::m_dConnectorDistance, SteelField::Connector},
 };
 
 const char* const kHeadings[CSteelBeamColumnCheckDlg::kColumns] = {
@@ -52,17 +46,49 @@ constexpr int kInitialRows = 20;
 
 }  // namespace
 
-CSteelBeamColumnCheckDlg::CSteelBeamColumnCheckDlg(QWidget* pParent) : CDialog(kIddSteelBeamColumnCheck, pParent) {
+// The member's data in three pairs of columns above the grid of load sets; the spare width goes
+// to an empty column at the right. The exchange reads the numbers in the order the checks name them.
+const frame::Form<CSteelBeamColumnCheckDlg>& CSteelBeamColumnCheckDlg::Description() {
+  using F = frame::Field<D>;
+  static const frame::Form<D> form(
+      {.templateId = kIddSteelBeamColumnCheck, .caption = "Steel Beam-Column Check", .minWidth = 1100,
+       .minHeight = 560, .numberFlags = kNarrow, .buttons = frame::FormFrame::Buttons::None, .stretchColumn = false},
+      {
+          F::DropIndex("Code:", &D::m_nCode).Items({"ANSI/AISC 360-10 LRFD"}).Span(3),
+          F::Text("Section:", &D::m_strSectionName).At(1, 0),
+          F::Button("AISC Table...").Id(kCtlSteelAiscTable).At(1, 2).Span(2),
+          F::Real("Fy (ksi):", &D::m_dFy).At(1, 4),
+          F::Real("Length (ft):", &D::m_dLength).At(2, 0),
+          F::Real("Lux (ft):", &D::m_dLux).At(3, 0),
+          F::Real("Kx:", &D::m_dKx).At(4, 0),
+          F::Real("Luy (ft):", &D::m_dLuy).At(3, 2),
+          F::Real("Ky:", &D::m_dKy).At(4, 2),
+          F::Real("Luz (ft):", &D::m_dLuz).At(3, 4),
+          F::Real("Kz:", &D::m_dKz).At(4, 4),
+          F::Real("Lb (ft):", &D::m_dLb).At(2, 2),
+          F::Real("Cb:", &D::m_dCb).At(2, 4),
+          F::Real("Connector Distance\n(for double angles only):", &D::m_dConnectorDistance).At(5, 0),
+          F::Check("Consider Moment Magnification", &D::m_bConsiderMomentMagnification).At(5, 2).Span(2),
+          F::Check("Use Direct Design Method", &D::m_bUseDirectDesignMethod).At(5, 4).Span(2),
+          F::Static("").At(0, 6).Span(1).Flags(kStretchCol),
+          F::Grid().Id(kCtlSteelGridPlaceholder).At(6, 0, 1, 7).Stretch(kStretchRow),
+          // "Compute" is OK: it runs the check and keeps the dialog open.
+          F::Button("Compute").Id(IDOK_).At(frame::kButtonBar, 0).Flags(kDefault),
+          F::Button("Show Procedure").Id(kCtlSteelShowProcedure).At(frame::kButtonBar, 1),
+          F::Button("Close").Id(IDCANCEL_, kStrClose).At(frame::kButtonBar, 2),
+      });
+  return form;
+}
+
+CSteelBeamColumnCheckDlg::CSteelBeamColumnCheckDlg(QWidget* pParent) : CDialog(Description(), pParent) {
   OnCommand(kCtlSteelAiscTable, [this] { OnBnClickedAisc(); });
   OnCommand(kCtlSteelShowProcedure, [this] { OnBnClickedViewProcedure(); });
-  OnEditChange(kCtlSteelLength, [this] { OnChangeEditLength(); });
-  OnEditChange(kCtlSteelCb, [this] { OnEnChangeEditCb(); });
-  OnEditChange(kCtlSteelSection, [this] { ClearResults(); });
+  OnEditChange(frame::IdOf(&D::m_dLength), [this] { OnChangeEditLength(); });
+  OnEditChange(frame::IdOf(&D::m_dCb), [this] { OnEnChangeEditCb(); });
+  OnEditChange(frame::IdOf(&D::m_strSectionName), [this] { ClearResults(); });
 }
 
 BOOL CSteelBeamColumnCheckDlg::OnInitDialog() {
-  if (auto* code = Item<QComboBox>(kCtlSteelCode); code && code->count() == 0)
-    code->addItem(QString::fromStdString(LoadStringOr(kStrSteelCodeAisc360, "ANSI/AISC 360-10 LRFD")));
   CDialog::OnInitDialog();
   m_Spread.CreateInPlace(this, kCtlSteelGridPlaceholder, kCtlSteelGrid);
   InitializeGrid();
@@ -87,15 +113,6 @@ void CSteelBeamColumnCheckDlg::InitializeGrid() {
     QObject::connect(view->model(), &QAbstractItemModel::dataChanged, this, [this] { OnGridChange(); });
 }
 
-void CSteelBeamColumnCheckDlg::DoDataExchange(CDataExchange* pDX) {
-  CDialog::DoDataExchange(pDX);
-  DDX_Text(pDX, kCtlSteelSection, m_strSectionName);
-  for (const RealField& f : kRealFields) DDX_Text(pDX, f.control, this->*f.member);
-  DDX_Check(pDX, kCtlSteelMagnify, m_bConsiderMomentMagnification);
-  DDX_Check(pDX, kCtlSteelDirect, m_bUseDirectDesignMethod);
-  DDX_CBIndex(pDX, kCtlSteelCode, m_nCode);
-}
-
 design::SteelMember CSteelBeamColumnCheckDlg::Member() const {
   design::SteelMember m;
   m.shape = std::string(tools::Trim(m_strSectionName));
@@ -115,19 +132,11 @@ design::SteelMember CSteelBeamColumnCheckDlg::Member() const {
   return m;
 }
 
-void CSteelBeamColumnCheckDlg::Fail(int controlId, const std::string& message) {
-  MessageBox(message);
-  if (auto* edit = Item<QLineEdit>(controlId)) {
-    edit->setFocus();
-    edit->selectAll();
-  }
-}
-
 bool CSteelBeamColumnCheckDlg::CheckGeometryAndMaterial() {
   const auto failure = design::CheckGeometryAndMaterial(Member());
   if (!failure) return true;
   for (const RealField& f : kRealFields)
-    if (f.field == failure->field) Fail(f.control, failure->message);
+    if (f.field == failure->field) FailOn(frame::IdOf(f.member), failure->message);
   return false;
 }
 
@@ -258,7 +267,7 @@ void CSteelBeamColumnCheckDlg::OnBnClickedAisc() {
   dlg.m_strShapeName = label;
   if (dlg.DoModal() != IDOK) return;
   m_strSectionName = dlg.m_Shape.label;
-  SetDlgItemText(kCtlSteelSection, m_strSectionName);
+  SetDlgItemText(frame::IdOf(&D::m_strSectionName), m_strSectionName);
   ClearResults();
 }
 

@@ -12,6 +12,7 @@
 class CSteelBeamColumnCheckDlg : public CDialog {
  public:
   explicit CSteelBeamColumnCheckDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CSteelBeamColumnCheckDlg>& Description();
 
   std::string m_strSectionName = "W14X90";
   double m_dLength = 14;
@@ -39,7 +40,6 @@ class CSteelBeamColumnCheckDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   void OnOK() override;  // "Compute" runs the check and keeps the dialog open
 
   void OnBnClickedAisc();
@@ -60,7 +60,6 @@ class CSteelBeamColumnCheckDlg : public CDialog {
   // The load sets of the grid (rows 1 to the last used one, at least one); false after a
   // refused cell, whose message was shown.
   bool ReadLoads(std::vector<design::SteelLoadSet>& loads);
-  void Fail(int controlId, const std::string& message);
 
   bool writingResults_ = false;
 };

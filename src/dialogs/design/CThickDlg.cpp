@@ -3,7 +3,14 @@
 #include "dialogs/design/thickness_grid.h"
 #include "resources/sections_ids.h"
 
-CThickDlg::CThickDlg(QWidget* pParent) : CPropertyGridDlg(res::kTplThick, pParent) {}
+const frame::Form<CThickDlg>& CThickDlg::Description() {
+  static const frame::Form<CThickDlg> form = TableForm<CThickDlg>(
+      {.templateId = res::kIddThick, .caption = "Shell Thickness", .minWidth = 480, .minHeight = 360,
+       .okDefault = false});
+  return form;
+}
+
+CThickDlg::CThickDlg(QWidget* pParent) : CPropertyGridDlg(Description(), pParent) {}
 
 void CThickDlg::Refresh() {
   filled_ = *m_pThicknesses;

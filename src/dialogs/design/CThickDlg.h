@@ -8,6 +8,7 @@
 class CThickDlg : public CPropertyGridDlg {
  public:
   explicit CThickDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CThickDlg>& Description();
 
   std::vector<fmThick>* m_pThicknesses = nullptr;
   std::string PrintTitle() const override { return "Shell Thickness Table"; }

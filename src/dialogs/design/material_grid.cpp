@@ -11,13 +11,6 @@
 namespace matgrid {
 namespace {
 
-// A cell still showing a candidate's value keeps that value's full precision.
-std::optional<double> CellValue(const std::string& text, std::initializer_list<const double*> candidates) {
-  for (const double* c : candidates)
-    if (c && std::isfinite(*c) && text == tools::FormatG(*c)) return *c;  // "inf" is no value to keep
-  return tools::ParseDouble(text);
-}
-
 int RowId(const grid::Sheet& sheet, int row) { return static_cast<int>(sheet.GetInt(kId, row).value_or(row)); }
 
 grid::GridFailure Failure(std::string message, int row) { return {std::move(message), {1, row}}; }
@@ -42,12 +35,12 @@ std::vector<std::string> Headers(const fmUnit& units) {
 }
 
 void FillOneRow(grid::Sheet& sheet, const fmMat& m, int row) {
-  sheet.SetData(kId, row, tools::Format("%d", m.id));
+  sheet.SetNumber(kId, row, tools::Format("%d", m.id));
   sheet.SetData(kLabel, row, m.label);
-  sheet.SetData(kE, row, tools::FormatG(m.E));
-  sheet.SetData(kNu, row, tools::FormatG(m.nu));
-  sheet.SetData(kDensity, row, tools::FormatG(m.density));
-  sheet.SetData(kTc, row, tools::FormatG(m.Tc));
+  sheet.SetNumberG(kE, row, m.E);
+  sheet.SetNumberG(kNu, row, m.nu);
+  sheet.SetNumberG(kDensity, row, m.density);
+  sheet.SetNumberG(kTc, row, m.Tc);
 }
 
 void Fill(grid::Sheet& sheet, const std::vector<fmMat>& materials, const fmUnit& units, grid::Color alternateRowColor,
@@ -96,7 +89,7 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmMat> old, const std:
       m.fys = chosen->fys;
     }
     const auto value = [&](int col, double fmMat::*field) {
-      return CellValue(sheet.GetData(col, row),
+      return grid::ReadReal(sheet.GetData(col, row),
                        {chosen ? &(chosen->*field) : nullptr, previous ? &(previous->*field) : nullptr});
     };
     const auto E = value(kE, &fmMat::E), nu = value(kNu, &fmMat::nu), density = value(kDensity, &fmMat::density),
@@ -131,15 +124,15 @@ std::vector<std::string> StrengthHeaders(StrengthKind kind, const fmUnit& units)
 }
 
 void FillStrengthRow(grid::Sheet& sheet, StrengthKind kind, const fmMat& m, int row) {
-  sheet.SetData(kId, row, tools::Format("%d", m.id));
+  sheet.SetNumber(kId, row, tools::Format("%d", m.id));
   sheet.SetData(kLabel, row, m.label);
   if (kind == kConcrete) {
-    sheet.SetData(3, row, tools::FormatG(m.fc));
-    sheet.SetData(4, row, tools::FormatG(m.fy));
-    sheet.SetData(5, row, tools::FormatG(m.fys));
+    sheet.SetNumberG(3, row, m.fc);
+    sheet.SetNumberG(4, row, m.fy);
+    sheet.SetNumberG(5, row, m.fys);
   } else {
-    sheet.SetData(3, row, tools::FormatG(m.fy));
-    sheet.SetData(4, row, tools::FormatG(m.fys));
+    sheet.SetNumberG(3, row, m.fy);
+    sheet.SetNumberG(4, row, m.fys);
   }
 }
 
@@ -168,7 +161,7 @@ ReadResult ReadStrengths(const grid::Sheet& sheet, StrengthKind kind, std::span<
     const fmMat& before = materials[static_cast<size_t>(row - 1)];
     const int id = RowId(sheet, row);
     const auto cell = [&](int col, double fmMat::*field) {
-      return CellValue(sheet.GetData(col, row), {&(before.*field)});
+      return grid::ReadReal(sheet.GetData(col, row), {&(before.*field)});
     };
     if (kind == kConcrete) {
       const auto fc = cell(3, &fmMat::fc), fy = cell(4, &fmMat::fy), fys = cell(5, &fmMat::fys);

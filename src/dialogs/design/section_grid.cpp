@@ -46,7 +46,7 @@ fmSect RigidLinkSection() {
 
 void FillOneRow(grid::Sheet& sheet, const fmSect& section, int row) {
   sheet.SetData(kLabel, row, section.label);
-  for (const auto& v : kValues) sheet.SetData(v.col, row, tools::FormatG(section.*v.field));
+  for (const auto& v : kValues) sheet.SetNumberG(v.col, row, section.*v.field);
 }
 
 std::vector<fmSect> Fill(grid::Sheet& sheet, const std::vector<fmSect>& sections, const fmUnit& units,
@@ -65,7 +65,7 @@ std::vector<fmSect> Fill(grid::Sheet& sheet, const std::vector<fmSect>& sections
       s = RigidLinkSection();
       s.label = label;
     }
-    sheet.SetData(kId, row, tools::Format("%d", row));
+    sheet.SetNumber(kId, row, tools::Format("%d", row));
     FillOneRow(sheet, s, row);
     shown.push_back(std::move(s));
   }
@@ -110,12 +110,10 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmSect> filled) {
     for (const auto& v : kValues) {
       const std::string& text = sheet.GetData(v.col, row);
       std::optional<double> value;
-      if (original && text == tools::FormatG((*original).*v.field))
-        value = (*original).*v.field;  // unchanged: keep the record's full precision
-      else if (MayBeEmpty(v.col) && tools::Trim(text).empty())
+      if (MayBeEmpty(v.col) && tools::Trim(text).empty())
         value = 0.0;
       else
-        value = tools::ParseDouble(text);
+        value = grid::ReadReal(text, original ? &((*original).*v.field) : nullptr);
       if (rigid) {
         if (!value || *value != 0)
           return fail(row, tools::Format("%s section must have zero for every section property.", kRigidLinkLabel));

@@ -20,9 +20,9 @@ void Fill(grid::Sheet& sheet, const std::vector<fmThick>& thicknesses, const fmU
   sheet.AddFillColumn(kThickness);
   for (int row = 1; row <= rows; ++row) {
     const fmThick& t = thicknesses[static_cast<size_t>(row - 1)];
-    sheet.SetData(kId, row, tools::Format("%d", row));
+    sheet.SetNumber(kId, row, tools::Format("%d", row));
     sheet.SetData(kLabel, row, t.label);
-    sheet.SetData(kThickness, row, tools::FormatG(t.thickness));
+    sheet.SetNumberG(kThickness, row, t.thickness);
   }
 }
 
@@ -41,12 +41,8 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmThick> filled) {
     if (const std::string rule = tools::IsValidLabel(label); !rule.empty())
       return fail("Thickness label can only " + rule);
     const std::string& text = sheet.GetData(kThickness, row);
-    std::optional<double> value;
-    if (row <= static_cast<int>(filled.size()) &&
-        text == tools::FormatG(filled[static_cast<size_t>(row - 1)].thickness))
-      value = filled[static_cast<size_t>(row - 1)].thickness;
-    else
-      value = tools::ParseDouble(text);
+    const std::optional<double> value = grid::ReadReal(
+        text, row <= static_cast<int>(filled.size()) ? &filled[static_cast<size_t>(row - 1)].thickness : nullptr);
     if (!value || !(*value > 0))
       return fail(
           tools::Format("Invalid input for thickness %d.", static_cast<int>(sheet.GetInt(kId, row).value_or(row))));

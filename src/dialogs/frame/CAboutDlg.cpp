@@ -1,15 +1,35 @@
 #include "dialogs/frame/CAboutDlg.h"
 
+#include "dialogs/frame/Form.h"
+#include "resources/frame_ids.h"
 #include "tools/format.h"
 #include "tools/release.h"
 
-CAboutDlg::CAboutDlg() : CDialog(100, nullptr), m_strAppTitle(tools::kProductName) {}
+using namespace res;
+using Buttons = frame::FormFrame::Buttons;
+
+const frame::Form<CAboutDlg>& CAboutDlg::Description() {
+  using F = frame::Field<CAboutDlg>;
+  static const frame::Form<CAboutDlg> form(
+      {kIddAbout, "About Norvane", kStrAboutCaption, 420, 0, 0, Buttons::Ok},
+      {
+          F::Static("Norvane: structural analysis and design of 3-D frames, shells and solids")
+              .Id(kCtlAboutProduct, kStrAboutProduct),
+          F::Static("").Id(kCtlAboutVersion),
+          F::Static("").Id(kCtlAboutDriver),
+          F::Static("Copyright (C) 2026 The Norvane developers. All rights reserved.")
+              .Id(kCtlAboutCopyright, kStrAboutCopyright),
+      });
+  return form;
+}
+
+CAboutDlg::CAboutDlg() : CDialog(Description(), nullptr), m_strAppTitle(tools::kProductName) {}
 
 BOOL CAboutDlg::OnInitDialog() {
   CDialog::OnInitDialog();
-  SetDlgItemText(1003, tools::Format("%s  Version %s (Build %s)", m_strAppTitle.c_str(), tools::kReleaseVersion,
+  SetDlgItemText(kCtlAboutVersion, tools::Format("%s  Version %s (Build %s)", m_strAppTitle.c_str(), tools::kReleaseVersion,
                                      tools::kReleaseBuild));
-  SetDlgItemText(1006, m_strDriverType);
+  SetDlgItemText(kCtlAboutDriver, m_strDriverType);
   return 1;
 }
 
@@ -22,12 +42,20 @@ bool CAboutDlg::Create(QWidget* pParent) {
   return true;
 }
 
-CPrivateLabelAboutDlg::CPrivateLabelAboutDlg() : CDialog(134, nullptr) {}
+const frame::Form<CPrivateLabelAboutDlg>& CPrivateLabelAboutDlg::Description() {
+  using F = frame::Field<CPrivateLabelAboutDlg>;
+  static const frame::Form<CPrivateLabelAboutDlg> form(
+      {kIddPrivateLabelAbout, "About", 0, 360, 0, 0, Buttons::Ok},
+      {F::Static("").Id(kCtlAboutVersion), F::Static("").Id(kCtlAboutDriver)});
+  return form;
+}
+
+CPrivateLabelAboutDlg::CPrivateLabelAboutDlg() : CDialog(Description(), nullptr) {}
 
 BOOL CPrivateLabelAboutDlg::OnInitDialog() {
   CDialog::OnInitDialog();
-  SetDlgItemText(1003, m_strTitle);
-  SetDlgItemText(1006, m_strDescription);
+  SetDlgItemText(kCtlAboutVersion, m_strTitle);
+  SetDlgItemText(kCtlAboutDriver, m_strDescription);
   return 1;
 }
 

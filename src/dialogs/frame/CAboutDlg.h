@@ -8,6 +8,7 @@
 class CAboutDlg : public CDialog {
  public:
   CAboutDlg();
+  static const frame::Form<CAboutDlg>& Description();
   explicit CAboutDlg(QWidget* pParent) : CAboutDlg() { setParent(pParent, windowFlags()); }
 
   std::string m_strAppTitle;    // e.g. "Norvane"
@@ -25,6 +26,7 @@ class CAboutDlg : public CDialog {
 class CPrivateLabelAboutDlg : public CDialog {
  public:
   CPrivateLabelAboutDlg();
+  static const frame::Form<CPrivateLabelAboutDlg>& Description();
   explicit CPrivateLabelAboutDlg(QWidget* pParent) : CPrivateLabelAboutDlg() { setParent(pParent, windowFlags()); }
 
   std::string m_strTitle;        // control 1003

@@ -14,6 +14,7 @@
 #include "dialogs/frame/FolderBrowseEdit.h"
 #include "dialogs/frame/Form.h"
 #include "dialogs/frame/TemplateBuilder.h"
+#include "resources/ids.h"
 #include "tools/format.h"
 
 namespace {
@@ -272,10 +273,15 @@ void CDialog::LoadTemplateCaptions() {
     if (c.stringId != 0 && c.id != 0) LoadControlCaption(c.id, c.stringId);
 }
 
-void CDialog::ApplyGridEditLock(BOOL bShowSelectedOnly, BOOL bModelLocked) {
+void CDialog::ApplyGridEditLock(BOOL bShowSelectedOnly, BOOL bModelLocked, const GridEditLock& how) {
   if (!bShowSelectedOnly && !bModelLocked) return;
-  for (int id : {IDOK, 8050, 8006, 8082}) EnableDlgItem(id, false);
-  SetDlgItemText(IDCANCEL, "Close");
+  for (int id : how.disable) EnableDlgItem(id, false);
+  SetDlgItemText(how.closeButton, res::LoadStringOr(res::kStrClose, "Close"));
+  if (how.hideCancel) ShowDlgItem(IDCANCEL, false);
+  if (!how.message.empty()) {
+    MessageBox(how.message, MessageIcon::Information);
+    return;
+  }
   // The second message deliberately repeats the first when both flags are set.
   std::string message;
   if (bModelLocked) {

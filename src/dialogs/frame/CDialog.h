@@ -18,6 +18,15 @@ class FormBase;
 template <class Dlg>
 class Form;
 }  // namespace frame
+// How a grid dialog turns read-only when the model is locked or only selected entities are
+// shown. The defaults are the standard guard; a dialog changes only what differs.
+struct GridEditLock {
+  std::vector<int> disable{IDOK, 8050, 8006, 8082};  // new-row count, "New Rows", the grid's own action
+  int closeButton = IDCANCEL;                        // the button that then reads "Close"
+  bool hideCancel = false;                           // OK itself closes, so Cancel goes
+  std::string message;  // not empty: this one box instead of the locked and selected-only texts
+};
+
 class CWnd;  // the host's window is a plain QWidget here
 using CWndPtr = QWidget*;
 
@@ -81,7 +90,8 @@ class CDialog : public QDialog {
   bool LoadControlCaption(int controlId, int stringId);
   // Every control of the template that names a string gets that string's text.
   void LoadTemplateCaptions();
-  void ApplyGridEditLock(BOOL bShowSelectedOnly, BOOL bModelLocked);
+  // The locked-model guard: nothing happens unless a flag is set.
+  void ApplyGridEditLock(BOOL bShowSelectedOnly, BOOL bModelLocked, const GridEditLock& how = {});
 
   // The message map: handlers by control id.
   void OnCommand(int controlId, std::function<void()> handler);

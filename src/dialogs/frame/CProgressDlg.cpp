@@ -3,11 +3,14 @@
 #include <QMetaObject>
 #include <QProgressBar>
 
+#include "dialogs/frame/Form.h"
+#include "resources/frame_ids.h"
 #include "tools/format.h"
+
+using res::kCtlProgressBar;
 
 namespace {
 const CRuntimeClass classCDialog = {"CDialog", static_cast<int>(sizeof(CDialog)), nullptr};
-constexpr int kProgressBar = 1325;
 }  // namespace
 
 bool CRuntimeClass::IsDerivedFrom(const CRuntimeClass* base) const {
@@ -19,7 +22,15 @@ bool CRuntimeClass::IsDerivedFrom(const CRuntimeClass* base) const {
 const CRuntimeClass CProgressDlg::classCProgressDlg = {"CProgressDlg", static_cast<int>(sizeof(CProgressDlg)),
                                                        &classCDialog};
 
-CProgressDlg::CProgressDlg(QWidget* pParent) : CDialog(1545, pParent) {}
+const frame::Form<CProgressDlg>& CProgressDlg::Description() {
+  using F = frame::Field<CProgressDlg>;
+  static const frame::Form<CProgressDlg> form(
+      {res::kIddProgress, "Sparse Matrix Factorization...", 0, 360, 0, 0, frame::FormFrame::Buttons::None},
+      {F::Progress().Id(kCtlProgressBar)});
+  return form;
+}
+
+CProgressDlg::CProgressDlg(QWidget* pParent) : CDialog(Description(), pParent) {}
 
 bool CProgressDlg::Create(QWidget* pParent) {
   if (pParent) setParent(pParent, windowFlags());
@@ -31,7 +42,7 @@ bool CProgressDlg::Create(QWidget* pParent) {
 
 BOOL CProgressDlg::OnInitDialog() {
   CDialog::OnInitDialog();
-  if (auto* bar = Item<QProgressBar>(kProgressBar)) {
+  if (auto* bar = Item<QProgressBar>(kCtlProgressBar)) {
     bar->setRange(0, 100);
     bar->setValue(0);
   }
@@ -39,7 +50,7 @@ BOOL CProgressDlg::OnInitDialog() {
 }
 
 int CProgressDlg::Position() const {
-  auto* bar = Item<QProgressBar>(kProgressBar);
+  auto* bar = Item<QProgressBar>(kCtlProgressBar);
   return bar ? bar->value() : 0;
 }
 
@@ -59,7 +70,7 @@ void CProgressDlg::PostMessage(UINT message, WPARAM wParam, LPARAM lParam) {
 
 LRESULT CProgressDlg::OnUpdateProgress(WPARAM wParam, LPARAM) {
   const int percent = static_cast<int>(wParam);
-  if (auto* bar = Item<QProgressBar>(kProgressBar)) bar->setValue(percent);
+  if (auto* bar = Item<QProgressBar>(kCtlProgressBar)) bar->setValue(percent);
   setWindowTitle(QString::fromStdString(tools::Format("Sparse Matrix Factorization (%d%%)", percent)));
   raise();
   return 1;
@@ -72,6 +83,6 @@ LRESULT CProgressDlg::OnShowProgress(WPARAM, LPARAM) {
 
 LRESULT CProgressDlg::OnHideProgress(WPARAM, LPARAM) {
   hide();
-  if (auto* bar = Item<QProgressBar>(kProgressBar)) bar->setValue(0);
+  if (auto* bar = Item<QProgressBar>(kCtlProgressBar)) bar->setValue(0);
   return 1;
 }

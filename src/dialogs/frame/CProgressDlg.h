@@ -25,6 +25,7 @@ class CProgressDlg : public CDialog {
   static constexpr UINT WM_PROGRESS_HIDE = WM_USER + 102;
 
   explicit CProgressDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CProgressDlg>& Description();
 
   static const CRuntimeClass classCProgressDlg;
   static const CRuntimeClass* GetThisClass() { return &classCProgressDlg; }

@@ -29,40 +29,35 @@ void WriteText(QWidget* w, const std::string& text) { frame::SetControlText(w, Q
 
 }  // namespace
 
-void DDX_Text(CDataExchange* pDX, int controlId, int32_t& value) {
+namespace {
+
+// A number edit: written with the format, read by the parser, refused with the text.
+template <class T, class Parser>
+void ExchangeNumber(CDataExchange* pDX, int controlId, T& value, const char* format, Parser parse,
+                    const char* refusal) {
   QWidget* w = pDX->PrepareCtrl(controlId);
   if (!w) return;
   if (!pDX->m_bSaveAndValidate) {
-    WriteText(w, tools::Format("%d", value));
+    WriteText(w, tools::Format(format, value));
     return;
   }
-  const auto v = tools::ParseInt32(ReadText(w));
-  if (!v) pDX->Fail("Please enter a whole number.");
+  const auto v = parse(ReadText(w));
+  if (!v) pDX->Fail(refusal);
   value = *v;
+}
+
+}  // namespace
+
+void DDX_Text(CDataExchange* pDX, int controlId, int32_t& value) {
+  ExchangeNumber(pDX, controlId, value, "%d", tools::ParseInt32, "Please enter a whole number.");
 }
 
 void DDX_Text(CDataExchange* pDX, int controlId, uint32_t& value) {
-  QWidget* w = pDX->PrepareCtrl(controlId);
-  if (!w) return;
-  if (!pDX->m_bSaveAndValidate) {
-    WriteText(w, tools::Format("%u", value));
-    return;
-  }
-  const auto v = tools::ParseUInt32(ReadText(w));
-  if (!v) pDX->Fail("Please enter a whole number that is not negative.");
-  value = *v;
+  ExchangeNumber(pDX, controlId, value, "%u", tools::ParseUInt32, "Please enter a whole number that is not negative.");
 }
 
 void DDX_Text(CDataExchange* pDX, int controlId, double& value) {
-  QWidget* w = pDX->PrepareCtrl(controlId);
-  if (!w) return;
-  if (!pDX->m_bSaveAndValidate) {
-    WriteText(w, tools::Format("%.15g", value));
-    return;
-  }
-  const auto v = tools::ParseDouble(ReadText(w));
-  if (!v) pDX->Fail("Please enter a number.");
-  value = *v;
+  ExchangeNumber(pDX, controlId, value, "%.15g", tools::ParseDouble, "Please enter a number.");
 }
 
 void DDX_Text(CDataExchange* pDX, int controlId, std::string& value) {

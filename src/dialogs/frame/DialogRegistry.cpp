@@ -27,3 +27,9 @@ const DialogClassInfo* FindDialogClass(std::string_view className) {
     if (info.className == className) return &info;
   return nullptr;
 }
+
+const DialogClassInfo* FindDialogClass(std::type_index type) {
+  for (const auto& info : Registry())
+    if (info.type == type) return &info;
+  return nullptr;
+}

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <string_view>
 
 #include "dialogs/frame/TemplateBuilder.h"
 #include "resources/ids.h"
@@ -70,6 +71,7 @@ void FormBase::AssignIds() {
     if (id == 0 && text && *text) id = nextString++;
   };
   string(frame_.captionStringId, frame_.caption);
+  if (std::string_view(frame_.okText) != "OK") string(frame_.okStringId, frame_.okText);
   for (FieldLayout& f : layouts_) {
     if (f.kind == FK::EndGroup) continue;
     control(f.id);
@@ -106,9 +108,11 @@ void FormBase::Publish() const {
     if (id != 0 && text && *text) res::AddGeneratedString(id, text);
   };
   addString(frame_.captionStringId, frame_.caption);
+  addString(frame_.okStringId, frame_.okText);
 
   std::map<int, Container> containers;  // by group id; 0 is the dialog body
   int group = 0, sideButtons = 0;
+  std::vector<int> outerGroups;  // a group box may hold another
   // One row of the template; labelled fields note their columns for the stretch.
   auto add = [&](res::Control c, bool labelled) {
     out.push_back(c);
@@ -118,16 +122,19 @@ void FormBase::Publish() const {
 
   for (const FieldLayout& f : layouts_) {
     if (f.kind == FK::EndGroup) {
-      group = 0;
+      group = outerGroups.empty() ? 0 : outerGroups.back();
+      if (!outerGroups.empty()) outerGroups.pop_back();
       continue;
     }
     const int span = f.colSpan;
     if (f.kind == FK::Group) {
-      Container& body = containers[0];
-      const int row = f.row == kNextRow ? body.nextRow : f.row;
-      out.push_back({f.id, res::Kind::Group, f.stringId, f.text, row, f.col, f.rowSpan, std::max(span, 1), 0, f.flags});
-      body.nextRow = std::max(body.nextRow, row + f.rowSpan);
+      Container& outer = containers[group];
+      const int row = f.row == kNextRow ? outer.nextRow : f.row;
+      out.push_back(
+          {f.id, res::Kind::Group, f.stringId, f.text, row, f.col, f.rowSpan, std::max(span, 1), group, f.flags});
+      outer.nextRow = std::max(outer.nextRow, row + f.rowSpan);
       addString(f.stringId, f.text);
+      outerGroups.push_back(group);
       group = f.id;
       continue;
     }
@@ -142,7 +149,7 @@ void FormBase::Publish() const {
     uint32_t flags = f.flags;
     if (IsNumber(f.kind)) flags |= frame_.numberFlags;
     if (f.kind == FK::Result) flags |= res::kReadOnly;
-    if (Stretches(f.kind)) flags |= res::kStretchRow | res::kStretchCol;
+    if (Stretches(f.kind) && f.autoStretch) flags |= res::kStretchRow | res::kStretchCol;
     if (f.kind == FK::Radio) {
       for (size_t i = 0; i < f.items.size(); ++i) {
         out.push_back({f.itemIds[i], res::Kind::Radio, f.itemStringIds[i], f.items[i], row + static_cast<int>(i), f.col,
@@ -184,11 +191,12 @@ void FormBase::Publish() const {
     box.nextRow = std::max(box.nextRow, row + rows);
   }
   for (const auto& [id, box] : containers)
-    if (box.rightmost >= 0) out[box.rightmostControl].flags |= res::kStretchCol;
+    if (frame_.stretchColumn && box.rightmost >= 0) out[box.rightmostControl].flags |= res::kStretchCol;
 
   using B = FormFrame::Buttons;
   if (frame_.buttons == B::OkCancel || frame_.buttons == B::Ok)
-    out.push_back({res::IDOK_, res::Kind::Button, res::kStrOk, "OK", kButtonBar, 0, 1, 1, 0, res::kDefault});
+    out.push_back({res::IDOK_, res::Kind::Button, frame_.okStringId ? frame_.okStringId : res::kStrOk, frame_.okText,
+                   kButtonBar, 0, 1, 1, 0, frame_.okDefault ? res::kDefault : 0u});
   if (frame_.buttons == B::OkCancel)
     out.push_back({res::IDCANCEL_, res::Kind::Button, res::kStrCancel, "Cancel", kButtonBar, 1});
   if (frame_.buttons == B::Close)

@@ -23,7 +23,7 @@ enum class FieldKind : uint8_t {
   DropIndex, DropText,    // drop-down bound by index or by text
   CheckList, List, Report,
   Folder, Font, Progress, Grid, Button, Static,
-  Group, EndGroup,        // the fields between them are laid out inside the group box
+  Group, EndGroup,        // the fields between them are laid out inside the group box (which may hold another)
 };
 
 // A field without a row of its own goes below the previous one in its group; a button
@@ -44,6 +44,7 @@ struct FieldLayout {
   int row = kNextRow, col = 0, rowSpan = 1, colSpan = 0;
   uint32_t flags = 0, labelFlags = 0;
   bool labelAbove = false;
+  bool autoStretch = true;  // grids, lists and reports take the spare room unless placed otherwise
 };
 
 // The caption and frame of a form.
@@ -54,6 +55,13 @@ struct FormFrame {
   int minWidth = 0, minHeight = 0;
   uint32_t numberFlags = 0;  // extra template flags of every number edit (res::kNarrow ...)
   enum class Buttons { OkCancel, Ok, Close, None } buttons = Buttons::OkCancel;  // Close: Cancel reads "Close"
+  // The rightmost column of labelled fields in each group takes the spare width; a form laid
+  // out as a table keeps its columns as wide as their contents.
+  bool stretchColumn = true;
+  // OK's own text where a dialog names it otherwise ("Apply", "Ok").
+  const char* okText = "OK";
+  int okStringId = 0;
+  bool okDefault = true;  // a table's OK is no default button: Enter belongs to the grid
 };
 
 // The untyped part of a form: ids, the template and its strings.
@@ -103,6 +111,8 @@ class Field {
   static Field Text(const char* label, std::string Dlg::* m) { return Bound(FieldKind::Text, label, m, DDX_TextOf<std::string>); }
   static Field Folder(const char* label, std::string Dlg::* m) { return Bound(FieldKind::Folder, label, m, DDX_TextOf<std::string>); }
   static Field Font(const char* label, std::string Dlg::* m) { return Bound(FieldKind::Font, label, m, DDX_CBString); }
+  // An edit the dialog reads itself (a table's new-row count ...).
+  static Field Edit(const char* label) { return Plain(FieldKind::Text, label); }
   // A read-only box the dialog writes itself.
   static Field Result(const char* label) { return Plain(FieldKind::Result, label); }
   static Field Check(const char* text, BOOL Dlg::* m) { return Bound(FieldKind::Check, text, m, DDX_Check); }
@@ -115,6 +125,28 @@ class Field {
   // A drop-down list bound by index; an index outside the list shows (and reads back) the first entry.
   static Field DropIndex(const char* label, int32_t Dlg::* m) {
     return Bound(FieldKind::DropIndex, label, m, DDX_CBIndexOrFirst);
+  }
+  // A drop-down bound by index where -1, no entry chosen, is a value of its own.
+  static Field DropIndexOrNone(const char* label, int32_t Dlg::* m) {
+    return Bound(FieldKind::DropIndex, label, m, DDX_CBIndex);
+  }
+  // Bound through an accessor, for what a pointer to member cannot name (an element of a
+  // member array); the drop-down shows the value less the offset.
+  static Field DropIndex(const char* label, std::function<int32_t&(Dlg&)> ref, int32_t offset = 0) {
+    Field f = Plain(FieldKind::DropIndex, label);
+    f.exchange = [ref, offset](Dlg& d, CDataExchange* pDX, int id) {
+      int32_t index = ref(d) - offset;
+      DDX_CBIndexOrFirst(pDX, id, index);
+      if (pDX->m_bSaveAndValidate) ref(d) = index + offset;
+    };
+    f.keep = KeepVia(ref);
+    return f;
+  }
+  static Field Check(const char* text, std::function<int32_t&(Dlg&)> ref) {
+    Field f = Plain(FieldKind::Check, text);
+    f.exchange = [ref](Dlg& d, CDataExchange* pDX, int id) { DDX_Check(pDX, id, ref(d)); };
+    f.keep = KeepVia(ref);
+    return f;
   }
   static Field DropText(const char* label, std::string Dlg::* m) { return Bound(FieldKind::DropText, label, m, DDX_CBString); }
   static Field Drop(const char* label) { return Plain(FieldKind::DropIndex, label); }
@@ -141,8 +173,21 @@ class Field {
   }
   Field& Span(int colSpan) { return layout.colSpan = colSpan, *this; }
   Field& Flags(uint32_t flags) { return layout.flags |= flags, *this; }
+  // Only these stretch flags, for a grid or list that shares its rows with other fields.
+  Field& Stretch(uint32_t flags) { return layout.autoStretch = false, layout.flags |= flags, *this; }
   Field& LabelFlags(uint32_t flags) { return layout.labelFlags |= flags, *this; }
   Field& LabelAbove() { return layout.labelAbove = true, *this; }
+  // Read back only while the condition holds (the fields of another choice keep their
+  // values and their texts are not checked); always shown.
+  Field& ReadWhen(std::function<bool(const Dlg&)> when) {
+    if (exchange)
+      exchange = [inner = exchange, when](Dlg& d, CDataExchange* pDX, int id) {
+        if (!pDX->m_bSaveAndValidate || when(d)) inner(d, pDX, id);
+      };
+    return *this;
+  }
+  // Shown (with its label and suffix) only while the condition holds when the dialog opens.
+  Field& ShownWhen(std::function<bool(const Dlg&)> when) { return shown = std::move(when), *this; }
   // A drop-down's fixed entries (string-table texts) or the dialog's own list of them.
   Field& Items(std::initializer_list<const char*> items) { return layout.items = items, *this; }
   Field& Items(std::function<std::vector<std::string>(const Dlg&)> source) { return items = std::move(source), *this; }
@@ -150,8 +195,9 @@ class Field {
   FieldLayout layout;
   std::any member;  // the pointer to member, found again by IdOf
   std::function<void(Dlg&, CDataExchange*, int id)> exchange;
-  std::function<std::function<void(Dlg&)>(const Dlg&)> keep;
+  std::function<std::function<void(Dlg&)>(Dlg&)> keep;
   std::function<std::vector<std::string>(const Dlg&)> items;
+  std::function<bool(const Dlg&)> shown;
 
  private:
   template <class T>
@@ -169,8 +215,11 @@ class Field {
     Field f = Plain(kind, text);
     f.member = m;
     f.exchange = [m, ddx](Dlg& d, CDataExchange* pDX, int id) { ddx(pDX, id, d.*m); };
-    f.keep = [m](const Dlg& d) { return [m, saved = d.*m](Dlg& into) { into.*m = saved; }; };
+    f.keep = [m](Dlg& d) { return [m, saved = d.*m](Dlg& into) { into.*m = saved; }; };
     return f;
+  }
+  static std::function<std::function<void(Dlg&)>(Dlg&)> KeepVia(std::function<int32_t&(Dlg&)> ref) {
+    return [ref](Dlg& d) { return [ref, saved = ref(d)](Dlg& into) { ref(into) = saved; }; };
   }
   template <class T>
   static Field Number(FieldKind kind, const char* label, T Dlg::* m,
@@ -188,8 +237,8 @@ class Field {
 template <class Dlg>
 class Form final : public FormBase {
  public:
-  Form(FormFrame frame, std::initializer_list<Field<Dlg>> fields, fmUnit* Dlg::* units = nullptr)
-      : FormBase(frame, LayoutsOf(fields)), fields_(fields), units_(units) {
+  Form(FormFrame frame, std::vector<Field<Dlg>> fields, fmUnit* Dlg::* units = nullptr)
+      : FormBase(frame, LayoutsOf(fields)), fields_(std::move(fields)), units_(units) {
     for (size_t i = 0; i < fields_.size(); ++i) fields_[i].layout = Layouts()[i];
   }
 
@@ -214,6 +263,9 @@ class Form final : public FormBase {
     for (const Field<Dlg>& f : fields_) {
       const std::vector<std::string> items = f.items ? f.items(*d) : std::vector<std::string>{};
       PrepareField(dlg, f.layout, units, f.items ? &items : nullptr);
+      if (f.shown)
+        for (const int id : {f.layout.id, f.layout.labelId, f.layout.suffixId})
+          if (id != 0) dlg.ShowDlgItem(id, f.shown(*d));
     }
   }
   void Exchange(CDialog& dlg, CDataExchange* pDX) const override {
@@ -233,7 +285,7 @@ class Form final : public FormBase {
   }
 
  private:
-  static std::vector<FieldLayout> LayoutsOf(std::initializer_list<Field<Dlg>> fields) {
+  static std::vector<FieldLayout> LayoutsOf(const std::vector<Field<Dlg>>& fields) {
     std::vector<FieldLayout> layouts;
     for (const Field<Dlg>& f : fields) layouts.push_back(f.layout);
     return layouts;

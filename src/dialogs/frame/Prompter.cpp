@@ -7,7 +7,9 @@
 #include <QRegularExpression>
 #include <QCursor>
 #include <QMenu>
+#include <QGuiApplication>
 #include <QMessageBox>
+#include <QScreen>
 
 #include <cstdlib>
 
@@ -48,24 +50,50 @@ Prompter* SetPrompter(Prompter* prompter) {
   return previous;
 }
 
-void WidgetPrompter::Message(QWidget* parent, const std::string& text, MessageIcon icon) {
-  const QString title = QString::fromUtf8(tools::kProductName);
-  const QString body = QString::fromStdString(text);
-  switch (icon) {
-    case MessageIcon::Information: QMessageBox::information(parent, title, body); break;
-    case MessageIcon::Warning: QMessageBox::warning(parent, title, body); break;
-    case MessageIcon::Error: QMessageBox::critical(parent, title, body); break;
+void PlaceOver(QWidget& box, QWidget* parent) {
+  // A dialog's set-up may speak before the dialog is shown: then its parent window, or the
+  // screen, is what the box is centred on.
+  QWidget* anchor = parent ? parent->window() : nullptr;
+  while (anchor && !anchor->isVisible()) anchor = anchor->parentWidget() ? anchor->parentWidget()->window() : nullptr;
+  QRect area;
+  if (anchor) {
+    area = anchor->frameGeometry();
+  } else if (QScreen* screen = parent && parent->screen() ? parent->screen() : QGuiApplication::primaryScreen()) {
+    area = screen->availableGeometry();
   }
+  if (area.isEmpty()) return;
+  box.adjustSize();
+  box.move(area.center() - QPoint(box.width() / 2, box.height() / 2));
+}
+
+namespace {
+
+QMessageBox::StandardButton AskBox(QWidget* parent, QMessageBox::Icon icon, const std::string& text,
+                                   QMessageBox::StandardButtons buttons, QMessageBox::StandardButton preferred) {
+  QMessageBox box(icon, QString::fromUtf8(tools::kProductName), QString::fromStdString(text), buttons, parent);
+  box.setDefaultButton(preferred);
+  PlaceOver(box, parent);
+  const int answer = box.exec();
+  return static_cast<QMessageBox::StandardButton>(answer);
+}
+
+}  // namespace
+
+void WidgetPrompter::Message(QWidget* parent, const std::string& text, MessageIcon icon) {
+  const QMessageBox::Icon shown = icon == MessageIcon::Information ? QMessageBox::Information
+                                  : icon == MessageIcon::Warning   ? QMessageBox::Warning
+                                                                   : QMessageBox::Critical;
+  AskBox(parent, shown, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 bool WidgetPrompter::Question(QWidget* parent, const std::string& text) {
-  return QMessageBox::question(parent, QString::fromUtf8(tools::kProductName), QString::fromStdString(text),
-                               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+  return AskBox(parent, QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+         QMessageBox::Yes;
 }
 
 Answer WidgetPrompter::QuestionWithCancel(QWidget* parent, const std::string& text) {
-  const auto b = QMessageBox::question(parent, QString::fromUtf8(tools::kProductName), QString::fromStdString(text),
-                                       QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Cancel);
+  const auto b = AskBox(parent, QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+                        QMessageBox::Cancel);
   return b == QMessageBox::Yes ? Answer::Yes : b == QMessageBox::No ? Answer::No : Answer::Cancel;
 }
 
@@ -73,6 +101,7 @@ std::string WidgetPrompter::SaveFileName(QWidget* parent, const FileDialogReques
   QFileDialog dialog(parent);
   Configure(dialog, request);
   dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite, !request.confirmReplace);
   // A name typed without an extension takes the chosen filter's, so "Tab Delimited Text
   // File (*.txt)" saves "nodes" as "nodes.txt" rather than with the default extension.
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {

@@ -20,6 +20,7 @@ struct FileDialogRequest {
   std::string defaultName;       // e.g. "*.htm"
   std::string defaultExtension;  // added when the user types none, e.g. "htm"
   std::vector<std::string> filters;  // e.g. "HTML File (*.htm)"
+  bool confirmReplace = true;        // ask before an existing file is chosen to be replaced
 };
 
 class Prompter {
@@ -101,6 +102,10 @@ class ScriptedPrompter : public Prompter {
   std::vector<Prompt> prompts_;
   std::deque<std::string> answers_;
 };
+
+// Centres a message box or question on the window of the widget that raised it (on the
+// first shown window above it, or the screen, while that one is not shown yet).
+void PlaceOver(QWidget& box, QWidget* parent);
 
 Prompter& GetPrompter();
 // Installs a prompter (not owned) and returns the previous one; nullptr restores the default.

@@ -29,6 +29,7 @@ QWidget* MakeWidget(const res::Control& c, QWidget* parent) {
     case res::Kind::Static: {
       auto* w = new QLabel(text, parent);
       if (c.flags & res::kAlignRight) w->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      w->setWordWrap(c.flags & res::kMultiline);
       return w;
     }
     case res::Kind::Edit: {

@@ -9,6 +9,7 @@
 class CGenerateCylindricalFrameDlg : public CDialog {
  public:
   explicit CGenerateCylindricalFrameDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CGenerateCylindricalFrameDlg>& Description();
 
   fmUnit* m_pUnits = nullptr;             // the length label comes from it
   std::string m_strRadialList = "20,10";  // radial distances
@@ -23,7 +24,5 @@ class CGenerateCylindricalFrameDlg : public CDialog {
   BOOL m_bGenerateMembers = 1;
 
  protected:
-  BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
-  void OnBnClickedOk();
+  bool ValidateOnOK() override;
 };

@@ -195,10 +195,9 @@ CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters
   const size_t radialPerLevel = (l.radii.size() - 1) * angleCount;
   const size_t memberCount =
       p.generateMembers ? l.levels.size() * (alongRings + radialPerLevel) + (l.levels.size() - 1) * perLevel : 0;
-  constexpr uint64_t kMaxId = std::numeric_limits<uint32_t>::max();
   if (firstNodeId == 0 || firstMemberId == 0 || firstNodeId - 1 + uint64_t{nodeCount} > kMaxId ||
       firstMemberId - 1 + uint64_t{memberCount} > kMaxId) {
-    result.error = "The new nodes and members cannot be numbered: ids would pass 4294967295";
+    result.error = kIdsUsedUp;
     return result;
   }
 
@@ -280,15 +279,14 @@ CylindricalFrameResult AddCylindricalFrameToDocument(model::ModelDocument& doc, 
   uint32_t highestNode = 0, highestMember = 0;
   for (const fmNd& n : doc.nodes) highestNode = std::max(highestNode, n.id);
   for (const fmBm& m : doc.members) highestMember = std::max(highestMember, m.id);
-  constexpr uint32_t kMaxId = std::numeric_limits<uint32_t>::max();
-  if (highestNode == kMaxId || (p.generateMembers && highestMember == kMaxId)) {
+  if (highestNode >= kMaxId || (p.generateMembers && highestMember >= kMaxId)) {
     CylindricalFrameResult r;
-    r.error = "The new nodes and members cannot be numbered: ids would pass 4294967295";
+    r.error = kIdsUsedUp;
     return r;
   }
   // Without members the member ids are not used; 1 keeps the generator's check quiet.
   CylindricalFrameResult r =
-      GenerateCylindricalFrame(p, highestNode + 1, highestMember == kMaxId ? 1 : highestMember + 1);
+      GenerateCylindricalFrame(p, highestNode + 1, highestMember >= kMaxId ? 1 : highestMember + 1);
   if (!r.ok()) return r;
 
   if (!doc.materials.empty()) r.material = 1;

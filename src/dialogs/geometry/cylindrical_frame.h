@@ -36,6 +36,8 @@ inline constexpr const char* kLevelTooLarge = "The Y direction distances add up 
 inline constexpr const char* kCoordinatesTooLarge =
     "The frame's coordinates would be larger than a number can hold; use smaller distances or insertion point";
 
+inline constexpr const char* kIdsUsedUp = "The new nodes and members cannot be numbered: ids would pass 2147483647";
+
 // One generation may make at most this many nodes.
 inline constexpr size_t kMaxGeneratedNodes = 1000000;
 
@@ -110,7 +112,7 @@ CylindricalFrameResult GenerateCylindricalFrame(const CylindricalFrameParameters
                                                 uint32_t firstMemberId);
 
 // Generates into a model, all or nothing: the model is untouched when the parameters are
-// refused or the new ids would pass 4294967295.
+// refused or the new ids would pass kMaxId (2147483647).
 // - Nodes are numbered after the model's highest node id and members after its highest
 //   member id, and appended to `nodes` and `members`.
 // - Every member takes the model's first material (reference 1) and its first section that

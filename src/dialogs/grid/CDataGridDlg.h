@@ -1,9 +1,14 @@
 #pragma once
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <string>
 
 #include "dialogs/frame/CDialog.h"
+#include "dialogs/frame/Form.h"
+#include "dialogs/frame/TemplateBuilder.h"
 #include "dialogs/grid/TSpread.h"
+#include "resources/grid_ids.h"
 #include "tools/fm_unit.h"
 
 // What every table dialog (nodes, members, load cases ...) shares: the grid created in place
@@ -23,9 +28,38 @@ class CDataGridDlg : public CDialog {
 
  protected:
   CDataGridDlg(int templateId, QWidget* pParent);
+  explicit CDataGridDlg(const frame::FormBase& form, QWidget* pParent);
 
-  // Order: captions, the grid in place, Refresh, the locked-model guard.
+  // A table's description: the grid filling the body with `fields` below it or, for buttons,
+  // on the right between the new-row count with "New Rows" and "Print..." with "Save...";
+  // `after` follows those. Without new rows the table has neither count nor "New Rows".
+  template <class Dlg>
+  static frame::Form<Dlg> TableForm(frame::FormFrame look, std::vector<frame::Field<Dlg>> fields = {},
+                                    std::vector<frame::Field<Dlg>> after = {}, bool newRows = true) {
+    using F = frame::Field<Dlg>;
+    look.stretchColumn = false;
+    // The fields below the grid come first, as the focus goes.
+    const auto isButton = [](const F& f) { return f.layout.kind == frame::FieldKind::Button; };
+    std::vector<F> all{F::Grid().Id(res::kCtlGridPlaceholder)};
+    std::copy_if(fields.begin(), fields.end(), std::back_inserter(all), [&](const F& f) { return !isButton(f); });
+    if (newRows) {
+      all.push_back(F::Edit("").Id(res::kCtlNewRowCount).At(frame::kSideBar, 0));
+      all.push_back(F::Button("New Rows").Id(res::kCtlNewRows, res::kStrNewRows));
+    }
+    std::copy_if(fields.begin(), fields.end(), std::back_inserter(all), isButton);
+    all.push_back(F::Button("Print...").Id(res::kCtlPrint, res::kStrPrint));
+    all.push_back(F::Button("Save...").Id(res::kCtlSave, res::kStrSave));
+    all.insert(all.end(), after.begin(), after.end());
+    return frame::Form<Dlg>(look, std::move(all));
+  }
+
+  // What the tables whose guard says only that the model is locked show.
+  static constexpr const char* kModelLockedShort = "The Model is locked.\nYou can not modify data in the spreadsheet.";
+
+  // Order: captions, the grid in place, Refresh, the locked-model guard with EditLock().
   BOOL OnInitDialog() override;
+  // How this table turns read-only; the standard guard unless a table differs.
+  virtual GridEditLock EditLock() const { return {}; }
   void DoDataExchange(CDataExchange* pDX) override;
   void OnOK() override;
 
@@ -34,11 +68,18 @@ class CDataGridDlg : public CDialog {
   // Grid to model; shows the first failure and returns false, the model untouched.
   virtual bool Save() = 0;
 
+  // "New Rows" as one undoable step; Enter in the count field runs it too.
   void OnNewRows();
+  // Fills the defaults of new rows firstRow..lastRow, within the "New Rows" step.
+  virtual void PrepareNewRows(grid::Sheet&, int /*firstRow*/, int /*lastRow*/) {}
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void OnPrint() { m_Spread.PrintGrid(PrintTitle()); }
   void OnSave() { m_Spread.ExportGrid(PrintTitle()); }
   virtual void OnGridRClick(int col, int row);
   bool IsReadOnly() const { return m_bModelLocked || m_bShowSelectedOnly; }
 
   TSpread m_Spread;
+
+ private:
+  void Connect();
 };

@@ -4,11 +4,37 @@
 #include <QPixmap>
 #include <QPushButton>
 
-#include "dialogs/frame/DataExchange.h"
+#include "dialogs/frame/Form.h"
+#include "resources/frame_ids.h"
 #include "resources/grid_ids.h"
 #include "tools/format.h"
 
-CDataSettingsDlg::CDataSettingsDlg(QWidget* pParent) : CDialog(res::kIddDataSettings, pParent) {
+// The grid settings in one group, the colour button showing the colour it stands for. The
+// captions are the preferences' spreadsheet strings.
+const frame::Form<CDataSettingsDlg>& CDataSettingsDlg::Description() {
+  using F = frame::Field<CDataSettingsDlg>;
+  using D = CDataSettingsDlg;
+  using namespace res;
+  static const frame::Form<D> form(
+      {.templateId = kIddDataSettings, .caption = "Spreadsheet Settings", .captionStringId = kStrPrefSpreadsheet,
+       .stretchColumn = false},
+      {
+          F::Group("Grid"),
+          F::UInt("Font size:", &D::m_nFontSize, prefs::kMinSpreadFontSize, prefs::kMaxSpreadFontSize)
+              .LabelId(0, kStrPrefFontSize).Suffix("points").Flags(kAlignRight),
+          F::UInt("Row height:", &D::m_nRowHeight, prefs::kMinSpreadRowHeight, prefs::kMaxSpreadRowHeight)
+              .LabelId(0, kStrPrefRowHeight).Suffix("pixels").Flags(kAlignRight),
+          F::Static("Alternate row color:").At(2, 0).Span(1),
+          F::Button("").Id(kCtlDsColor).At(2, 1).Span(2),
+          F::Check("Show row headers in spreadsheets", &D::m_bShowRowHeader).Id(0, kStrPrefShowRowHeaders),
+          F::Check("Append to existing file when saving spreadsheet to htm/txt format", &D::m_bAppendSave)
+              .Id(0, kStrPrefAppendSave),
+          F::EndGroup(),
+      });
+  return form;
+}
+
+CDataSettingsDlg::CDataSettingsDlg(QWidget* pParent) : CDialog(Description(), pParent) {
   OnCommand(res::kCtlDsColor, [this] { OnChooseColor(); });
 }
 
@@ -34,16 +60,6 @@ BOOL CDataSettingsDlg::OnInitDialog() {
   CDialog::OnInitDialog();
   ShowColor();
   return 1;
-}
-
-void CDataSettingsDlg::DoDataExchange(CDataExchange* pDX) {
-  CDialog::DoDataExchange(pDX);
-  DDX_Text(pDX, res::kCtlDsFontSize, m_nFontSize);
-  DDV_MinMaxUInt(pDX, m_nFontSize, prefs::kMinSpreadFontSize, prefs::kMaxSpreadFontSize);
-  DDX_Text(pDX, res::kCtlDsRowHeight, m_nRowHeight);
-  DDV_MinMaxUInt(pDX, m_nRowHeight, prefs::kMinSpreadRowHeight, prefs::kMaxSpreadRowHeight);
-  DDX_Check(pDX, res::kCtlDsShowRowHeader, m_bShowRowHeader);
-  DDX_Check(pDX, res::kCtlDsAppendSave, m_bAppendSave);
 }
 
 void CDataSettingsDlg::OnChooseColor() {

@@ -10,6 +10,7 @@
 class CDataSettingsDlg : public CDialog {
  public:
   explicit CDataSettingsDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CDataSettingsDlg>& Description();
 
   uint32_t m_nFontSize = 7;    // points
   uint32_t m_nRowHeight = 14;  // pixels
@@ -22,7 +23,6 @@ class CDataSettingsDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   void OnChooseColor();
 
  private:

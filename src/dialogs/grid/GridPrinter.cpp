@@ -48,11 +48,14 @@ struct GridPrinter::Layout {
 
 GridPrinter::GridPrinter(const grid::Sheet& sheet, const grid::Block& block, std::string title)
     : sheet_(sheet), block_(block), title_(std::move(title)) {
-  if (block_.IsEmpty()) block_ = {1, 1, sheet_.MaxCols(), sheet_.MaxRows()};
+  const bool oneCell = block_.col1 == block_.col2 && block_.row1 == block_.row2;
+  if (block_.IsEmpty() || oneCell) block_ = {1, 1, sheet_.MaxCols(), sheet_.MaxRows()};
   block_.col1 = std::max(block_.col1, 1);
   block_.row1 = std::max(block_.row1, 1);
   block_.col2 = std::min(block_.col2, sheet_.MaxCols());
   block_.row2 = std::min(block_.row2, sheet_.MaxRows());
+  if (block_.col1 > 1 && sheet_.MaxCols() >= 1) columns_.push_back(1);
+  for (int col = block_.col1; col <= block_.col2; ++col) columns_.push_back(col);
   cellFont_ = QGuiApplication::font();
   cellFont_.setPointSizeF(8);
   headingFont_ = cellFont_;
@@ -70,7 +73,7 @@ GridPrinter::Layout GridPrinter::Measure(QPrinter& printer) const {
   l.headingHeight = std::ceil(heading.height() * 1.6);
   l.titleHeight = title_.empty() ? 0 : std::ceil(title.height() * 1.8);
   l.footerHeight = std::ceil(cell.height() * 2.0);
-  for (int col = block_.col1; col <= block_.col2; ++col) {
+  for (int col : columns_) {
     const double byWidth = sheet_.GetColWidth(col) * cell.averageCharWidth();
     const double byHeading = heading.horizontalAdvance(CellText(sheet_.GetData(col, 0)));
     // A character's slack, so that the printer's own hinting never clips a heading.
@@ -95,6 +98,14 @@ GridPrinter::Layout GridPrinter::Measure(QPrinter& printer) const {
 
 bool GridPrinter::Print(QPrinter& printer) {
   pages_ = 0;
+  QMarginsF margins = printer.pageLayout().minimumMargins();
+  const QMarginsF least = QMarginsF(1, 1, 1, 1) * kMarginMillimetres;
+  const double toMillimetres = 25.4 / 72;  // minimum margins are in points
+  margins = QMarginsF(std::max(least.left(), margins.left() * toMillimetres),
+                      std::max(least.top(), margins.top() * toMillimetres),
+                      std::max(least.right(), margins.right() * toMillimetres),
+                      std::max(least.bottom(), margins.bottom() * toMillimetres));
+  printer.setPageMargins(margins, QPageLayout::Millimeter);
   const Layout layout = Measure(printer);
   QPainter painter;
   if (!painter.begin(&printer)) return false;
@@ -133,7 +144,7 @@ void GridPrinter::PrintPage(QPainter& painter, const Layout& l, int page, int fi
     painter.setPen(Qt::black);
     const QRectF inner = box.adjusted(l.padding, 0, -l.padding, 0);
     painter.drawText(inner, Qt::AlignCenter,
-                     painter.fontMetrics().elidedText(CellText(sheet_.GetData(block_.col1 + int(i), 0)),
+                     painter.fontMetrics().elidedText(CellText(sheet_.GetData(columns_[i], 0)),
                                                       Qt::ElideRight, int(inner.width())));
     x += l.colWidths[i];
   }
@@ -146,7 +157,7 @@ void GridPrinter::PrintPage(QPainter& painter, const Layout& l, int page, int fi
     x = 0;
     const grid::Color band = row % 2 == 0 ? even : odd;
     for (size_t i = 0; i < l.colWidths.size(); ++i) {
-      const int col = block_.col1 + int(i);
+      const int col = columns_[i];
       const QRectF box(x, y, l.colWidths[i], l.rowHeight);
       const grid::Color back = sheet_.GetBackColor(col, row);
       if (back != grid::kNoColor)

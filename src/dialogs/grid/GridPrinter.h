@@ -14,7 +14,8 @@ class QPrinter;
 // still is scaled down to the page's width.
 class GridPrinter {
  public:
-  // An empty block prints the whole grid.
+  // An empty block, or a single cell, prints the whole grid. A block that leaves out column 1
+  // still prints it at the left, so every printed row keeps its id.
   GridPrinter(const grid::Sheet& sheet, const grid::Block& block, std::string title);
 
   // Prints every page; false when the printer cannot be started (a PDF file that cannot be
@@ -23,6 +24,9 @@ class GridPrinter {
   // Pages of the last Print.
   int PageCount() const { return pages_; }
   const grid::Block& PrintedBlock() const { return block_; }
+  const std::vector<int>& PrintedColumns() const { return columns_; }
+  // The least page margin; the printer's own, where larger, is kept.
+  static constexpr double kMarginMillimetres = 15;
 
  private:
   struct Layout;
@@ -31,6 +35,7 @@ class GridPrinter {
 
   const grid::Sheet& sheet_;
   grid::Block block_;
+  std::vector<int> columns_;
   std::string title_;
   QFont cellFont_;
   QFont headingFont_;

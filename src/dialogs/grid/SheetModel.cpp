@@ -42,7 +42,10 @@ bool SheetModel::setData(const QModelIndex& index, const QVariant& value, int ro
   if (!index.isValid() || role != Qt::EditRole) return false;
   const int col = index.column() + 1, row = index.row() + 1;
   if (sheet_.IsLocked(col, row)) return false;
-  sheet_.SetData(col, row, value.toString().toStdString());
+  const std::string text = value.toString().toStdString();
+  if (text == sheet_.GetData(col, row)) return true;
+  if (onEdit) return onEdit(col, row, text);
+  sheet_.SetTypedData(col, row, text);
   emit dataChanged(index, index, {Qt::DisplayRole, Qt::EditRole});
   return true;
 }

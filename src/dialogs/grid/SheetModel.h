@@ -1,5 +1,7 @@
 #pragma once
 #include <QAbstractTableModel>
+#include <functional>
+#include <string>
 
 #include "dialogs/grid/sheet.h"
 
@@ -24,6 +26,8 @@ class SheetModel : public QAbstractTableModel {
 
   grid::Sheet& sheet() { return sheet_; }
   bool showRowHeadings = true;
+  // A cell edited in the view; true when the text was taken. Without it the text is set.
+  std::function<bool(int col, int row, const std::string& text)> onEdit;
 
  private:
   grid::Sheet& sheet_;

@@ -21,13 +21,17 @@ class SheetDelegate : public QStyledItemDelegate {
   SheetView* view_;
 };
 
-// The table view: Enter commits and moves to the cell below, Ctrl+C / Ctrl+V copy and paste
-// the block, Delete clears it.
+// The table view, keyed as a spreadsheet: typing on a cell replaces its text however the
+// cell was reached (there is no keyboard search), F2 and double-click edit in place, Enter
+// commits and moves down, Tab moves right, Escape cancels the cell's edit only; Ctrl+C, X
+// and V copy, cut and paste the block, Delete clears it, Ctrl+Z and Ctrl+Y (Ctrl+Shift+Z)
+// undo and redo; Alt+Down opens a drop-down cell's list.
 class SheetView : public QTableView {
  public:
   SheetView(TSpread& spread, QWidget* parent);
   // The editor was left with Enter: move down once it has closed.
   void NoteEnter() { enterPressed_ = true; }
+  void keyboardSearch(const QString&) override {}
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -35,7 +39,9 @@ class SheetView : public QTableView {
   bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
 
  private:
-  void MoveDown();
+  void MoveBy(int rows, int cols);
+  // Opens the current cell's editor; with replaceBy the typed key replaces its text.
+  QWidget* OpenEditor(QKeyEvent* replaceBy);
   TSpread& spread_;
   bool enterPressed_ = false;
 };

@@ -8,6 +8,7 @@
 #include <QLayout>
 #include <QPrinter>
 #include <QScrollBar>
+#include <QUndoStack>
 
 #include "dialogs/frame/CDialog.h"
 #include "dialogs/frame/Preferences.h"
@@ -19,7 +20,42 @@
 #include "resources/grid_ids.h"
 #include "resources/resources.h"
 
-TSpread::TSpread() : model_(new SheetModel(sheet_, this)), view_(new SheetView(*this, this)) {
+// One undoable change of the grid: the block it changed, before and after. The change is
+// already made when the step is pushed, so the first redo does nothing.
+class SpreadStep : public QUndoCommand {
+ public:
+  SpreadStep(TSpread& spread, const std::string& name, grid::SavedBlock before, grid::SavedBlock after,
+             std::function<void(bool)> onStep)
+      : QUndoCommand(QString::fromStdString(name)),
+        spread_(spread),
+        before_(std::move(before)),
+        after_(std::move(after)),
+        onStep_(std::move(onStep)) {}
+  void undo() override {
+    spread_.Restore(before_);
+    if (onStep_) onStep_(true);
+  }
+  void redo() override {
+    if (done_) {
+      done_ = false;
+      return;
+    }
+    spread_.Restore(after_);
+    if (onStep_) onStep_(false);
+  }
+
+ private:
+  TSpread& spread_;
+  grid::SavedBlock before_, after_;
+  std::function<void(bool)> onStep_;
+  bool done_ = true;
+};
+
+TSpread::TSpread()
+    : model_(new SheetModel(sheet_, this)), view_(new SheetView(*this, this)), undo_(new QUndoStack(this)) {
+  model_->onEdit = [this](int col, int row, const std::string& text) {
+    return WriteCells("Typing", grid::CellWrites{{col, row, col, row}, {text}});
+  };
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(view_);
@@ -40,7 +76,9 @@ TSpread::TSpread() : model_(new SheetModel(sheet_, this)), view_(new SheetView(*
 }
 
 TSpread::~TSpread() {
-  // The view and model read the sheet, a member that goes before QWidget deletes children.
+  // The view, model and steps read the sheet, a member that goes before QWidget deletes
+  // children.
+  delete undo_;
   delete view_;
   delete model_;
 }
@@ -102,6 +140,7 @@ void TSpread::Refresh() {
   model_->BeginReset();
   model_->EndReset();
   ApplySettings();
+  ForgetStaleSteps();
 }
 
 TSpread::RedrawGuard::RedrawGuard(TSpread& spread) : spread_(spread) {
@@ -116,19 +155,93 @@ TSpread::RedrawGuard::~RedrawGuard() {
     spread_.model_->EndReset();
     spread_.ApplySettings();
     spread_.view_->setUpdatesEnabled(true);
+    spread_.ForgetStaleSteps();
     const grid::CellRef active = spread_.sheet_.ActiveCell();
     if (active.col >= 1 && active.row >= 1) spread_.SetActiveCell(active.col, active.row);
   }
 }
 
-int TSpread::AddRows(int count, bool numberIds) {
-  int first = 0;
+int TSpread::AddRows(int count, bool numberIds, const RowsPreparer& prepare) {
+  const int first = sheet_.MaxRows() + 1;
+  if (count <= 0) return first;
+  ChangeRows("New Rows", first, [&](grid::Sheet& sheet) {
+    grid::AddRows(sheet, count, numberIds);
+    if (prepare) prepare(sheet, first, sheet.MaxRows());
+  });
+  SetActiveCell(1, first);
+  ShowRow(first);
+  view_->setFocus();
+  return first;
+}
+
+void TSpread::ForgetStaleSteps() {
+  if (sheet_.Layout() == undoLayout_) return;
+  undo_->clear();
+  undoLayout_ = sheet_.Layout();
+}
+
+void TSpread::ChangeCells(const std::string& stepName, const grid::Block& block,
+                          const std::function<void(grid::Sheet&)>& change) {
+  ForgetStaleSteps();
+  grid::SavedBlock before = grid::SaveBlock(sheet_, block);
+  change(sheet_);
+  grid::SavedBlock after = grid::SaveBlock(sheet_, block);
+  if (before.texts == after.texts) return;  // nothing changed: no step to undo
+  const grid::Block changed = after.block;
+  undo_->push(new SpreadStep(*this, stepName, std::move(before), std::move(after), {}));
+  if (redrawOff_ == 0) model_->CellsChanged(changed.col1, changed.row1, changed.col2, changed.row2);
+}
+
+void TSpread::ChangeRows(const std::string& stepName, int firstRow, const std::function<void(grid::Sheet&)>& change,
+                         std::function<void(bool)> onStep) {
+  ForgetStaleSteps();
+  grid::SavedBlock before = grid::SaveRows(sheet_, firstRow);
   {
     RedrawGuard guard(*this);
-    first = grid::AddRows(sheet_, count, numberIds);
+    change(sheet_);
   }
-  ShowRow(first);
-  return first;
+  grid::SavedBlock after = grid::SaveRows(sheet_, firstRow);
+  if (before.maxRows == after.maxRows && before.texts == after.texts && before.locks == after.locks) return;
+  undo_->push(new SpreadStep(*this, stepName, std::move(before), std::move(after), std::move(onStep)));
+}
+
+void TSpread::Undo() {
+  ForgetStaleSteps();
+  if (!sheet_.IsLockedAll()) undo_->undo();
+}
+
+void TSpread::Redo() {
+  ForgetStaleSteps();
+  if (!sheet_.IsLockedAll()) undo_->redo();
+}
+
+void TSpread::Restore(const grid::SavedBlock& saved) {
+  if (saved.wholeRows) {
+    {
+      RedrawGuard guard(*this);
+      grid::RestoreBlock(sheet_, saved);
+      const int row = std::min(saved.block.row1, sheet_.MaxRows());
+      sheet_.SetActiveCell(row >= 1 ? 1 : -1, row >= 1 ? row : -1);
+    }
+    ShowChangedBlock({});
+    return;
+  }
+  grid::RestoreBlock(sheet_, saved);
+  if (redrawOff_ == 0) model_->CellsChanged(saved.block.col1, saved.block.row1, saved.block.col2, saved.block.row2);
+  ShowChangedBlock(saved.block);
+}
+
+// After an undo or redo the user sees what came back: the block selected, its first cell
+// active.
+void TSpread::ShowChangedBlock(const grid::Block& block) {
+  if (redrawOff_ > 0) return;
+  if (!block.IsEmpty()) {
+    SetActiveCell(block.col1, block.row1);
+    SetSelectBlock(block);
+  } else if (const grid::CellRef active = sheet_.ActiveCell(); active.col >= 1 && active.row >= 1) {
+    SetActiveCell(active.col, active.row);
+  }
+  view_->setFocus();
 }
 
 void TSpread::SetActiveCell(int col, int row) {
@@ -176,6 +289,7 @@ bool TSpread::ShowFailure(const std::optional<grid::GridFailure>& failure) {
   if (!failure) return true;
   GetPrompter().Message(window(), failure->message, MessageIcon::Warning);
   SetActiveCell(failure->cell.col, failure->cell.row);
+  view_->setFocus();
   return false;
 }
 
@@ -196,31 +310,60 @@ bool TSpread::FillSelection(int col, int row, bool lock) {
   const int choice = GetPrompter().ChooseFromMenu(this, entries);
   if (choice < 0) return true;
   const grid::Block block = sheet_.SelectBlock();
-  grid::FillSelection(sheet_, col, row, choice == 0 ? grid::FillMode::Copy : grid::FillMode::Series);
-  if (!block.IsEmpty()) model_->CellsChanged(col, block.row1, col, block.row2);
+  const grid::FillMode mode = choice == 0 ? grid::FillMode::Copy : grid::FillMode::Series;
+  ChangeCells("Fill", {col, block.row1, col, block.row2},
+              [&](grid::Sheet& sheet) { grid::FillSelection(sheet, col, row, mode); });
   return true;
 }
 
-void TSpread::CopySelection() {
+grid::Block TSpread::SelectionOrActiveCell() {
   SyncSelection();
-  QApplication::clipboard()->setText(QString::fromStdString(grid::CopyBlock(sheet_, sheet_.SelectBlock())));
+  grid::Block block = sheet_.SelectBlock();
+  if (block.IsEmpty()) {
+    const grid::CellRef at = sheet_.ActiveCell();
+    block = {at.col, at.row, at.col, at.row};
+  }
+  return block;
+}
+
+void TSpread::CopySelection() {
+  const grid::Block block = SelectionOrActiveCell();
+  QApplication::clipboard()->setText(QString::fromStdString(grid::CopyBlock(sheet_, block)));
 }
 
 void TSpread::PasteClipboard() {
-  const grid::CellRef at = sheet_.ActiveCell();
-  if (at.col < 1 || at.row < 1 || sheet_.IsLockedAll()) return;
-  const grid::Block written = grid::PasteText(sheet_, at.col, at.row, QApplication::clipboard()->text().toStdString());
-  if (!written.IsEmpty()) model_->CellsChanged(written.col1, written.row1, written.col2, written.row2);
+  if (sheet_.IsLockedAll()) return;
+  SyncSelection();
+  grid::PastePlan plan = grid::PlanPaste(sheet_, sheet_.SelectBlock(), sheet_.ActiveCell(),
+                                         QApplication::clipboard()->text().toStdString());
+  if (!ShowFailure(plan.refusal)) return;
+  const grid::Block block = plan.writes.block;
+  if (!WriteCells("Paste", std::move(plan.writes))) return;
+  SetActiveCell(block.col1, block.row1);
+  SetSelectBlock(block);
+}
+
+bool TSpread::WriteCells(const std::string& stepName, grid::CellWrites writes) {
+  if (writes.block.IsEmpty() || sheet_.IsLockedAll()) return false;
+  if (!ShowFailure(grid::CheckWrites(sheet_, writes))) return false;
+  ChangeCells(stepName, writes.block, [&](grid::Sheet& sheet) { grid::ApplyWrites(sheet, writes); });
+  return true;
+}
+
+void TSpread::CutSelection() {
+  if (sheet_.IsLockedAll()) return;
+  CopySelection();
+  ClearSelection();
 }
 
 void TSpread::ClearSelection() {
-  SyncSelection();
-  const grid::Block block = sheet_.SelectBlock();
+  const grid::Block block = SelectionOrActiveCell();
   if (block.IsEmpty() || sheet_.IsLockedAll()) return;
-  for (int row = block.row1; row <= block.row2; ++row)
-    for (int col = block.col1; col <= block.col2; ++col)
-      if (!sheet_.IsLocked(col, row)) sheet_.ClearData(col, row);
-  model_->CellsChanged(block.col1, block.row1, block.col2, block.row2);
+  ChangeCells("Clear", block, [&](grid::Sheet& sheet) {
+    for (int row = block.row1; row <= block.row2; ++row)
+      for (int col = block.col1; col <= block.col2; ++col)
+        if (!sheet.IsLocked(col, row)) sheet.ClearData(col, row);
+  });
 }
 
 bool TSpread::ExportGrid(const std::string& title) {
@@ -232,9 +375,11 @@ bool TSpread::ExportGrid(const std::string& title) {
                      res::LoadStringOr(res::kStrExportFilterText, "Tab Delimited Text File (*.txt)"),
                      res::LoadStringOr(res::kStrExportFilterXls, "Excel Book File (*.xls)"),
                      res::LoadStringOr(res::kStrExportFilterXlsx, "Excel Workbook (*.xlsx)")};
+  // Appending keeps what the file holds, so there is no replacing to ask about.
+  const bool append = prefs::ReadSpreadsheetSettings().appendSave;
+  request.confirmReplace = !append;
   const std::string path = GetPrompter().SaveFileName(window(), request);
   if (path.empty()) return false;
-  const bool append = prefs::ReadSpreadsheetSettings().appendSave;
   if (const auto failure = grid::ExportSheet(sheet_, path, append, title)) {
     GetPrompter().Message(window(), *failure, MessageIcon::Warning);
     return false;

@@ -9,6 +9,7 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <map>
 
 #include "tools/atomic_file.h"
 #include "tools/format.h"
@@ -161,17 +162,69 @@ class Workbook {
   lxw_workbook* book_ = nullptr;
 };
 
-lxw_error WriteCell(lxw_worksheet* ws, lxw_row_t row, lxw_col_t col, const std::string& text, lxw_format* format,
-                    bool asNumber) {
-  if (text.empty()) return LXW_NO_ERROR;
-  if (asNumber)
-    if (const auto value = tools::ParseDouble(text)) return worksheet_write_number(ws, row, col, *value, format);
-  // Always a string, never a formula: a cell reading "=A1" is the text "=A1".
-  if (text.size() > kWorkbookMaxStringChars && tools::CountChars(text) > kWorkbookMaxStringChars)
-    return worksheet_write_string(ws, row, col, tools::CutLabel(text, kWorkbookMaxStringChars).c_str(),
-                                  format);
-  return worksheet_write_string(ws, row, col, text.c_str(), format);
+// The number format that shows a value the way the grid's text shows it: as many decimals,
+// exponential notation when the text has an exponent, a trailing percent sign (the value then
+// being the fraction). Empty (the spreadsheet's general format) for any other text.
+std::string NumberFormatOf(std::string_view text) {
+  text = tools::Trim(text);
+  size_t i = 0;
+  auto digits = [&] {
+    const size_t from = i;
+    while (i < text.size() && text[i] >= '0' && text[i] <= '9') ++i;
+    return i - from;
+  };
+  if (i < text.size() && (text[i] == '-' || text[i] == '+')) ++i;
+  size_t count = digits();
+  size_t decimals = 0;
+  if (i < text.size() && text[i] == '.') {
+    ++i;
+    decimals = digits();
+    count += decimals;
+  }
+  if (count == 0) return {};
+  std::string format = "0";
+  if (decimals > 0) format.append(".").append(decimals, '0');
+  if (i < text.size() && (text[i] == 'e' || text[i] == 'E')) {
+    ++i;
+    if (i < text.size() && (text[i] == '-' || text[i] == '+')) ++i;
+    if (digits() == 0) return {};
+    format += "E+00";
+  }
+  const std::string_view rest = text.substr(i);
+  if (rest == "%" || rest == " %") return format + std::string(rest);
+  return rest.empty() ? format : std::string();
 }
+
+class Writer {
+ public:
+  explicit Writer(lxw_workbook* book) : book_(book) {}
+
+  lxw_error Cell(lxw_worksheet* ws, lxw_row_t row, lxw_col_t col, const std::string& text, lxw_format* format,
+                 std::optional<double> number) {
+    if (text.empty()) return LXW_NO_ERROR;
+    if (number) return worksheet_write_number(ws, row, col, *number, NumberFormat(text));
+    // Always a string, never a formula: a cell reading "=A1" is the text "=A1".
+    if (text.size() > kWorkbookMaxStringChars && tools::CountChars(text) > kWorkbookMaxStringChars)
+      return worksheet_write_string(ws, row, col, tools::CutLabel(text, kWorkbookMaxStringChars).c_str(),
+                                    format);
+    return worksheet_write_string(ws, row, col, text.c_str(), format);
+  }
+
+ private:
+  lxw_format* NumberFormat(const std::string& text) {
+    std::string code = NumberFormatOf(text);
+    if (code.empty()) return nullptr;
+    auto [it, added] = formats_.try_emplace(std::move(code), nullptr);
+    if (added) {
+      it->second = workbook_add_format(book_);
+      if (it->second) format_set_num_format(it->second, it->first.c_str());
+    }
+    return it->second;
+  }
+
+  lxw_workbook* book_;
+  std::map<std::string, lxw_format*, std::less<>> formats_;
+};
 
 std::optional<std::string> WriteWorkbook(const Sheet& sheet, const std::string& file, const std::string& target,
                                          const std::string& title) {
@@ -205,10 +258,12 @@ std::optional<std::string> WriteWorkbook(const Sheet& sheet, const std::string& 
   }
   worksheet_freeze_panes(ws, 1, 0);
 
+  Writer writer(book.get());
   for (int row = 0; row <= rows; ++row) {
     for (int col = 1; col <= cols; ++col) {
-      const lxw_error err = WriteCell(ws, lxw_row_t(row), lxw_col_t(col - 1), sheet.GetData(col, row),
-                                      row == 0 ? bold : nullptr, row > 0);
+      const lxw_error err =
+          writer.Cell(ws, lxw_row_t(row), lxw_col_t(col - 1), sheet.GetData(col, row), row == 0 ? bold : nullptr,
+                      row > 0 ? sheet.GetNumber(col, row) : std::nullopt);
       if (err != LXW_NO_ERROR) return CannotWrite(target, lxw_strerror(err));
     }
   }

@@ -35,7 +35,7 @@ int AddRows(Sheet& sheet, int count, bool numberIds) {
   sheet.SetMaxRows(oldRows + count);
   if (numberIds) {
     for (int r = 1; r <= count; ++r) {
-      sheet.SetData(1, oldRows + r, tools::FormatInt(nextId + r - 1));
+      sheet.SetNumber(1, oldRows + r, tools::FormatInt(nextId + r - 1));
       sheet.SetLock(1, oldRows + r, true);
     }
   }
@@ -125,10 +125,11 @@ int FillSelection(Sheet& sheet, int col, int row, FillMode mode) {
   for (int r = firstRow; r <= lastRow; ++r) {
     if (r == row || sheet.IsLocked(col, r)) continue;
     if (mode == FillMode::Copy) {
-      sheet.SetData(col, r, value);
+      if (sheet.IsNumber(col, row)) sheet.SetNumber(col, r, value);
+      else sheet.SetData(col, r, value);
     } else {
       const double v = *start + (r - row) * *step;
-      sheet.SetData(col, r, tools::Format("%g", std::abs(v) < 1e-12 * std::max(1.0, std::abs(*step)) ? 0.0 : v));
+      sheet.SetNumber(col, r, tools::Format("%g", std::abs(v) < 1e-12 * std::max(1.0, std::abs(*step)) ? 0.0 : v));
     }
     ++written;
   }
@@ -201,24 +202,14 @@ std::vector<std::vector<std::string>> ParseTabSeparated(const std::string& text)
   return rows;
 }
 
-Block PasteText(Sheet& sheet, int col, int row, const std::string& text) {
-  const auto rows = ParseTabSeparated(text);
-  Block written;
-  for (size_t r = 0; r < rows.size(); ++r) {
-    const int targetRow = row + static_cast<int>(r);
-    if (targetRow > sheet.MaxRows()) break;
-    for (size_t c = 0; c < rows[r].size(); ++c) {
-      const int targetCol = col + static_cast<int>(c);
-      if (targetCol > sheet.MaxCols()) break;
-      if (sheet.IsLocked(targetCol, targetRow)) continue;
-      sheet.SetData(targetCol, targetRow, rows[r][c]);
-      if (written.IsEmpty()) written = {targetCol, targetRow, targetCol, targetRow};
-      written.col2 = std::max(written.col2, targetCol);
-      written.row2 = std::max(written.row2, targetRow);
-      written.col1 = std::min(written.col1, targetCol);
-    }
-  }
-  return written;
+std::optional<double> ReadReal(std::string_view text, const double* original) {
+  return ReadReal(text, {original});
+}
+
+std::optional<double> ReadReal(std::string_view text, std::initializer_list<const double*> originals) {
+  for (const double* original : originals)
+    if (original && std::isfinite(*original) && text == tools::FormatG(*original)) return *original;
+  return tools::ParseDouble(text);
 }
 
 }  // namespace grid

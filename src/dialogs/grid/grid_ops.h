@@ -1,6 +1,8 @@
 #pragma once
+#include <initializer_list>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "dialogs/grid/sheet.h"
@@ -47,11 +49,16 @@ bool CanFill(const Sheet& sheet, int col, int row);
 // as numbers and that one is not empty, else 1. Returns the number of cells written.
 int FillSelection(Sheet& sheet, int col, int row, FillMode mode);
 
+// A number read back from a cell. A cell still showing what was filled into it (the "%g"
+// text of `original`, six significant digits) keeps the original's full precision; anything
+// else is parsed. Empty or unreadable text gives nullopt, as does a non-finite original
+// that the user left in place ("inf" is no value to keep).
+std::optional<double> ReadReal(std::string_view text, const double* original);
+// The same with several candidates, the first whose text matches wins.
+std::optional<double> ReadReal(std::string_view text, std::initializer_list<const double*> originals);
+
 // Block copy and paste as tab-separated text, the form spreadsheet programs exchange.
 std::string CopyBlock(const Sheet& sheet, const Block& block);
-// Pastes starting at a cell; locked cells and cells beyond the grid are skipped. Returns the
-// block that was written to.
-Block PasteText(Sheet& sheet, int col, int row, const std::string& text);
 // Parses tab-separated text into rows of cells (quoted cells may hold tabs and newlines).
 std::vector<std::vector<std::string>> ParseTabSeparated(const std::string& text);
 

@@ -1,5 +1,8 @@
 #include "dialogs/grid/sheet.h"
 
+#include <cmath>
+
+#include "tools/format.h"
 #include "tools/parse.h"
 #include "tools/labels.h"
 #include "tools/parallel.h"
@@ -12,6 +15,7 @@ const CellType kEditType;
 
 void Sheet::SetMaxCols(int cols) {
   if (cols < 0) cols = 0;
+  ++layout_;
   const size_t old = columns_.size();
   columns_.resize(static_cast<size_t>(cols) + 1);
   for (size_t c = old; c < columns_.size(); ++c) {
@@ -32,6 +36,8 @@ void Sheet::SetMaxRows(int rows) {
       Column& c = columns_[i];
       c.cells.resize(static_cast<size_t>(rows) + 1);
       if (!c.locks.empty()) c.locks.resize(static_cast<size_t>(rows) + 1, 0);
+      if (!c.numbers.empty()) c.numbers.resize(static_cast<size_t>(rows) + 1, 0);
+      if (!c.values.empty()) c.values.resize(static_cast<size_t>(rows) + 1, 0.0);
     }
   });
 }
@@ -46,10 +52,55 @@ void Sheet::SetData(int col, int row, std::string_view text) {
   const CellType& type = GetCellType(col, row);
   const bool mayBeTooLong = row > 0 && type.kind == CellType::Edit && type.maxLength > 0 &&
                             text.size() > static_cast<size_t>(type.maxLength);
+  Column& c = columns_[col];
   if (mayBeTooLong)
-    columns_[col].cells[row] = tools::CutLabel(text, static_cast<size_t>(type.maxLength));
+    c.cells[row] = tools::CutLabel(text, static_cast<size_t>(type.maxLength));
   else
-    columns_[col].cells[row].assign(text);
+    c.cells[row].assign(text);
+  if (!c.numbers.empty()) c.numbers[row] = 0;
+}
+
+void Sheet::SetNumber(int col, int row, std::string_view text) {
+  if (!InGrid(col, row)) return;
+  SetData(col, row, text);
+  Column& c = columns_[col];
+  if (c.numbers.empty()) c.numbers.assign(c.cells.size(), 0);
+  c.numbers[row] = kFromText;
+}
+
+void Sheet::SetNumber(int col, int row, double value, std::string_view text) {
+  if (!InGrid(col, row)) return;
+  SetNumber(col, row, text);
+  if (!std::isfinite(value)) return;
+  Column& c = columns_[col];
+  if (c.values.empty()) c.values.assign(c.cells.size(), 0.0);
+  c.values[row] = value;
+  c.numbers[row] = kFromValue;
+}
+
+bool Sheet::IsNumber(int col, int row) const {
+  if (!InGrid(col, row)) return false;
+  const Column& c = columns_[col];
+  return static_cast<size_t>(row) < c.numbers.size() && c.numbers[row];
+}
+
+void Sheet::SetNumberG(int col, int row, double value) {
+  if (!InGrid(col, row)) return;
+  SetNumber(col, row, value, tools::FormatG(value));
+}
+
+std::optional<double> Sheet::GetNumber(int col, int row) const {
+  if (!IsNumber(col, row)) return std::nullopt;
+  const Column& c = columns_[col];
+  if (c.numbers[row] == kFromValue) return c.values[row];
+  return tools::ParseDouble(c.cells[row]);
+}
+
+void Sheet::SetTypedData(int col, int row, std::string_view text) {
+  if (IsNumber(col, row) && tools::ParseDouble(text))
+    SetNumber(col, row, text);
+  else
+    SetData(col, row, text);
 }
 
 std::optional<int64_t> Sheet::GetInt(int col, int row) const { return tools::ParseInt(GetData(col, row)); }
@@ -59,6 +110,12 @@ bool Sheet::IsLocked(int col, int row) const {
   if (col < 0 || col > MaxCols()) return false;
   const Column& c = columns_[col];
   if (c.locked) return true;
+  return row >= 0 && static_cast<size_t>(row) < c.locks.size() && c.locks[row];
+}
+
+bool Sheet::IsCellLocked(int col, int row) const {
+  if (col < 0 || col > MaxCols()) return false;
+  const Column& c = columns_[col];
   return row >= 0 && static_cast<size_t>(row) < c.locks.size() && c.locks[row];
 }
 

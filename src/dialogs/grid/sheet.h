@@ -41,6 +41,7 @@ struct CellRef {
 struct Block {
   int col1 = -1, row1 = -1, col2 = -1, row2 = -1;
   bool IsEmpty() const { return col1 < 1 || row1 < 1 || col2 < col1 || row2 < row1; }
+  bool operator==(const Block&) const = default;
   bool Contains(int col, int row) const { return !IsEmpty() && col >= col1 && col <= col2 && row >= row1 && row <= row2; }
 };
 
@@ -56,7 +57,10 @@ class Sheet {
 
   int MaxCols() const { return static_cast<int>(columns_.size()) - 1; }
   int MaxRows() const { return rows_; }
+  // Setting the columns lays the grid out anew: the layout number changes, so what was
+  // kept of the old layout (undo steps) is known to be stale.
   void SetMaxCols(int cols);
+  uint64_t Layout() const { return layout_; }
   void SetMaxRows(int rows);
 
   // Text of a cell (row 0: heading, col 0: row heading); empty outside the grid.
@@ -65,10 +69,26 @@ class Sheet {
   // maximum length, cut between characters.
   void SetData(int col, int row, std::string_view text);
   void ClearData(int col, int row) { SetData(col, row, {}); }
+  // A cell filled from a number: exported to a workbook as a number. Every other cell is
+  // text there, however much it looks like a number ("0012", "1E3", a label).
+  void SetNumber(int col, int row, std::string_view text);
+  // A cell filled from a value: the grid shows the text, a workbook gets the value itself at
+  // full precision. A value that is not finite leaves a number cell read from its text.
+  void SetNumber(int col, int row, double value, std::string_view text);
+  // The same, shown as "%g" shows it.
+  void SetNumberG(int col, int row, double value);
+  bool IsNumber(int col, int row) const;
+  // A number cell's value: the one it was filled from, else its text read as a number.
+  std::optional<double> GetNumber(int col, int row) const;
+  // What the user typed or pasted: a number cell stays one when the new text reads as a
+  // number; any other cell stays text.
+  void SetTypedData(int col, int row, std::string_view text);
   // Integer value of a cell's text, if it reads as one.
   std::optional<int64_t> GetInt(int col, int row) const;
 
   bool IsLocked(int col, int row) const;
+  // The cell's own lock only, not its column's or the grid's.
+  bool IsCellLocked(int col, int row) const;
   void SetLock(int col, int row, bool locked);
   void SetColumnLock(int col, bool locked);
   void SetLockAll(bool locked);
@@ -114,6 +134,8 @@ class Sheet {
   struct Column {
     std::vector<std::string, tools::LargeBlockAllocator<std::string>> cells;  // index = row, 0 = heading
     std::vector<uint8_t> locks;      // per row; empty until a cell lock is set
+    std::vector<uint8_t> numbers;    // per row; empty until a number is set (kFromText, kFromValue)
+    std::vector<double> values;      // per row; empty until a cell is filled from a value
     bool locked = false;
     CellType type;
     double width = 10;
@@ -123,11 +145,13 @@ class Sheet {
     Color back = kNoColor;
     Color fore = kNoColor;
   };
+  static constexpr uint8_t kFromText = 1, kFromValue = 2;
   static uint64_t Key(int col, int row) { return (uint64_t(uint32_t(col)) << 32) | uint32_t(row); }
   bool InGrid(int col, int row) const { return col >= 0 && col <= MaxCols() && row >= 0 && row <= rows_; }
 
   std::vector<Column> columns_ = std::vector<Column>(1);  // column 0: row headings
   int rows_ = 0;
+  uint64_t layout_ = 0;
   bool lockAll_ = false;
   std::map<uint64_t, CellType> cellTypes_;
   std::map<uint64_t, Colors> colors_;

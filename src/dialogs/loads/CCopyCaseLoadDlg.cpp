@@ -10,7 +10,7 @@ const frame::Form<CCopyCaseLoadDlg>& CCopyCaseLoadDlg::Description() {
     return d.m_pLoadCases ? loads::CopyCaseLoadChoices(*d.m_pLoadCases) : std::vector<std::string>{};
   };
   static const frame::Form<CCopyCaseLoadDlg> form(
-      {res::kTplCopyCaseLoad, "Copy Loads", 0, 380},
+      {res::kIddCopyCaseLoad, "Copy Loads", 0, 380},
       {
           F::DropIndex("From:", &CCopyCaseLoadDlg::m_nFrom).Items(cases),
           F::DropIndex("To:", &CCopyCaseLoadDlg::m_nTo).Items(cases),

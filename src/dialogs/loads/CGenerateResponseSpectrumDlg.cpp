@@ -3,11 +3,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
-#include <QLineEdit>
 #include <QVBoxLayout>
 #include <optional>
 
-#include "dialogs/frame/DataExchange.h"
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/SpectrumChart.h"
 #include "resources/spectra_ids.h"
 #include "tools/parse.h"
@@ -16,34 +15,57 @@ using namespace res;
 
 namespace {
 
+using D = CGenerateResponseSpectrumDlg;
 constexpr char kGrounds[] = "ABCDE";
 
-void FillCombo(QComboBox* combo, int count, const std::function<QString(int)>& text) {
-  if (!combo) return;
-  combo->clear();
-  for (int i = 0; i < count; ++i) combo->addItem(text(i));
+template <class T>
+int Ctl(T D::* member) {
+  return frame::IdOf(member);
 }
+bool Ec8(const D& d) { return d.m_nCode == model::kEurocode8; }
+bool Asce(const D& d) { return d.m_nCode >= model::kAsce2005 && d.m_nCode <= model::kAsce2016; }
 
 }  // namespace
 
-CGenerateResponseSpectrumDlg::CGenerateResponseSpectrumDlg(QWidget* pParent)
-    : CDialog(kTplGenerateResponseSpectrum, pParent) {
-  OnCommand(IDOK, [this] { OnBnClickedOk(); });
-  OnSelChange(kCtlSpecCode, [this] { OnSelChangeCode(); });
-  for (int id : {kCtlSpecType, kCtlSpecGround}) OnSelChange(id, [this] { UpdatePreview(); });
-  for (int id : {kCtlSpecValue1, kCtlSpecValue2, kCtlSpecTl, kCtlSpecAg, kCtlSpecImportance, kCtlSpecDamping})
-    OnEditChange(id, [this] { UpdatePreview(); });
-  OnCommand(kCtlSpecLogScale, [this] { UpdatePreview(); });
+// The inputs on the left, the curve on the right; the line under the curve says why there
+// is none while the values are not usable. Only the fields of the chosen code are read: a
+// stale text in a disabled field must not hold the user up.
+const frame::Form<CGenerateResponseSpectrumDlg>& CGenerateResponseSpectrumDlg::Description() {
+  using F = frame::Field<D>;
+  const auto notEc8 = [](const D& d) { return !Ec8(d); };
+  static const frame::Form<D> form(
+      {.templateId = kIddGenerateResponseSpectrum, .caption = "Generate Response Spectrum", .minWidth = 900,
+       .minHeight = 470, .numberFlags = kNarrow, .stretchColumn = false},
+      {
+          F::DropIndex("Design code:", &D::m_nCode)
+              .Items({"UBC 97", "IBC 2000", "ASCE 2005", "ASCE 2010", "ASCE 7-16", "Eurocode 8"}).Span(2),
+          F::Real("SDS:", &D::m_dValue1).ReadWhen(notEc8),
+          F::Real("SD1:", &D::m_dValue2).ReadWhen(notEc8),
+          F::Real("TL:", &D::m_dTL).Suffix("sec").ReadWhen(Asce),
+          F::Group("Eurocode 8 (EN 1998-1, horizontal elastic spectrum)").Id(kCtlSpecEc8Group).Span(3),
+          F::DropIndex("Spectrum type:", &D::m_nEc8Type).Items({"Type 1", "Type 2"}).Span(2).ReadWhen(Ec8),
+          F::DropIndex("Ground type:", &D::m_nGround).Items({"A", "B", "C", "D", "E"}).Span(2).ReadWhen(Ec8),
+          F::Real("agR [g]:", &D::m_dAg).ReadWhen(Ec8),
+          F::Real("Importance factor:", &D::m_dImportance).ReadWhen(Ec8),
+          F::Real("Viscous damping:", &D::m_dDamping).Suffix("%").ReadWhen(Ec8),
+          F::EndGroup(),
+          F::Check("Logarithmic period axis", &D::m_bLogScale),
+          F::Static("").Flags(kStretchRow),
+          F::Grid().Id(kCtlSpecChart).At(0, 3, 7, 1).Stretch(kStretchCol),
+          F::Static("").Id(kCtlSpecStatus).At(7, 0).Span(4),
+      });
+  return form;
+}
+
+CGenerateResponseSpectrumDlg::CGenerateResponseSpectrumDlg(QWidget* pParent) : CDialog(Description(), pParent) {
+  OnSelChange(Ctl(&D::m_nCode), [this] { OnSelChangeCode(); });
+  for (int id : {Ctl(&D::m_nEc8Type), Ctl(&D::m_nGround)}) OnSelChange(id, [this] { UpdatePreview(); });
+  for (auto m : {&D::m_dValue1, &D::m_dValue2, &D::m_dTL, &D::m_dAg, &D::m_dImportance, &D::m_dDamping})
+    OnEditChange(Ctl(m), [this] { UpdatePreview(); });
+  OnCommand(Ctl(&D::m_bLogScale), [this] { UpdatePreview(); });
 }
 
 BOOL CGenerateResponseSpectrumDlg::OnInitDialog() {
-  FillCombo(Item<QComboBox>(kCtlSpecCode), model::kSpectrumCodeCount, [](int i) {
-    return QString::fromStdString(LoadStringOr(kStrSpecCodeFirst + i, model::SpectrumCodeName(i)));
-  });
-  FillCombo(Item<QComboBox>(kCtlSpecType), 2, [](int i) {
-    return QString::fromStdString(LoadStringOr(kStrSpecTypeFirst + i, i == 0 ? "Type 1" : "Type 2"));
-  });
-  FillCombo(Item<QComboBox>(kCtlSpecGround), 5, [](int i) { return QString(QChar(kGrounds[i])); });
   CDialog::OnInitDialog();
   if (auto* place = Item<QFrame>(kCtlSpecChart)) {
     auto* layout = new QVBoxLayout(place);
@@ -54,29 +76,6 @@ BOOL CGenerateResponseSpectrumDlg::OnInitDialog() {
   ShowCodeControls();
   UpdatePreview();
   return 1;
-}
-
-void CGenerateResponseSpectrumDlg::DoDataExchange(CDataExchange* pDX) {
-  CDialog::DoDataExchange(pDX);
-  DDX_CBIndex(pDX, kCtlSpecCode, m_nCode);
-  if (pDX->m_bSaveAndValidate && m_nCode < 0) pDX->Fail("Please select an item from the list.");
-  const bool ec8 = m_nCode == model::kEurocode8;
-  // Only the fields of the chosen code are read: a stale text in a disabled field must
-  // not hold the user up.
-  if (!pDX->m_bSaveAndValidate || !ec8) {
-    DDX_Text(pDX, kCtlSpecValue1, m_dValue1);
-    DDX_Text(pDX, kCtlSpecValue2, m_dValue2);
-  }
-  if (!pDX->m_bSaveAndValidate || (m_nCode >= model::kAsce2005 && m_nCode <= model::kAsce2016))
-    DDX_Text(pDX, kCtlSpecTl, m_dTL);
-  if (!pDX->m_bSaveAndValidate || ec8) {
-    DDX_CBIndex(pDX, kCtlSpecType, m_nEc8Type);
-    DDX_CBIndex(pDX, kCtlSpecGround, m_nGround);
-    DDX_Text(pDX, kCtlSpecAg, m_dAg);
-    DDX_Text(pDX, kCtlSpecImportance, m_dImportance);
-    DDX_Text(pDX, kCtlSpecDamping, m_dDamping);
-  }
-  DDX_Check(pDX, kCtlSpecLogScale, m_bLogScale);
 }
 
 model::SpectrumInput CGenerateResponseSpectrumDlg::InputFromMembers() const {
@@ -96,15 +95,15 @@ model::SpectrumInput CGenerateResponseSpectrumDlg::InputFromMembers() const {
 int CGenerateResponseSpectrumDlg::FieldControl(model::SpectrumField field) const {
   using F = model::SpectrumField;
   switch (field) {
-    case F::Code: return kCtlSpecCode;
-    case F::Value1: return kCtlSpecValue1;
-    case F::Value2: return kCtlSpecValue2;
-    case F::Tl: return kCtlSpecTl;
-    case F::Type: return kCtlSpecType;
-    case F::Ground: return kCtlSpecGround;
-    case F::Ag: return kCtlSpecAg;
-    case F::Importance: return kCtlSpecImportance;
-    case F::Damping: return kCtlSpecDamping;
+    case F::Code: return Ctl(&D::m_nCode);
+    case F::Value1: return Ctl(&D::m_dValue1);
+    case F::Value2: return Ctl(&D::m_dValue2);
+    case F::Tl: return Ctl(&D::m_dTL);
+    case F::Type: return Ctl(&D::m_nEc8Type);
+    case F::Ground: return Ctl(&D::m_nGround);
+    case F::Ag: return Ctl(&D::m_dAg);
+    case F::Importance: return Ctl(&D::m_dImportance);
+    case F::Damping: return Ctl(&D::m_dDamping);
     case F::None: break;
   }
   return 0;
@@ -113,13 +112,16 @@ int CGenerateResponseSpectrumDlg::FieldControl(model::SpectrumField field) const
 // The value captions follow the code: Ca and Cv for UBC 97, SDS and SD1 for the others;
 // only the chosen code's fields take input.
 void CGenerateResponseSpectrumDlg::ShowCodeControls() {
-  const int code = Item<QComboBox>(kCtlSpecCode) ? Item<QComboBox>(kCtlSpecCode)->currentIndex() : m_nCode;
+  const auto* combo = Item<QComboBox>(Ctl(&D::m_nCode));
+  const int code = combo ? combo->currentIndex() : m_nCode;
   const bool ubc = code == model::kUbc97, ec8 = code == model::kEurocode8;
   const bool asce = code >= model::kAsce2005 && code <= model::kAsce2016;
-  SetDlgItemText(kCtlSpecValue1Text, ubc ? LoadStringOr(kStrSpecCa, "Ca:") : LoadStringOr(kStrSpecSds, "SDS:"));
-  SetDlgItemText(kCtlSpecValue2Text, ubc ? LoadStringOr(kStrSpecCv, "Cv:") : LoadStringOr(kStrSpecSd1, "SD1:"));
-  for (int id : {kCtlSpecValue1Text, kCtlSpecValue1, kCtlSpecValue2Text, kCtlSpecValue2}) EnableDlgItem(id, !ec8);
-  for (int id : {kCtlSpecTlText, kCtlSpecTl, kCtlSpecTlUnit}) EnableDlgItem(id, asce);
+  const frame::FieldLayout &value1 = frame::FieldOf(&D::m_dValue1), &value2 = frame::FieldOf(&D::m_dValue2),
+                           &tl = frame::FieldOf(&D::m_dTL);
+  SetDlgItemText(value1.labelId, ubc ? LoadStringOr(kStrSpecCa, "Ca:") : LoadStringOr(kStrSpecSds, "SDS:"));
+  SetDlgItemText(value2.labelId, ubc ? LoadStringOr(kStrSpecCv, "Cv:") : LoadStringOr(kStrSpecSd1, "SD1:"));
+  for (int id : {value1.labelId, value1.id, value2.labelId, value2.id}) EnableDlgItem(id, !ec8);
+  for (int id : {tl.labelId, tl.id, tl.suffixId}) EnableDlgItem(id, asce);
   EnableDlgItem(kCtlSpecEc8Group, ec8);
 }
 
@@ -139,22 +141,22 @@ void CGenerateResponseSpectrumDlg::UpdatePreview() {
     else if (unreadable.empty())
       unreadable = std::string(caption) + " is not a number.";
   };
-  if (auto* code = Item<QComboBox>(kCtlSpecCode)) in.code = code->currentIndex();
+  if (auto* code = Item<QComboBox>(Ctl(&D::m_nCode))) in.code = code->currentIndex();
   const bool ec8 = in.code == model::kEurocode8;
   if (ec8) {
-    if (auto* t = Item<QComboBox>(kCtlSpecType)) in.ec8Type = t->currentIndex() + 1;
-    if (auto* g = Item<QComboBox>(kCtlSpecGround); g && g->currentIndex() >= 0 && g->currentIndex() < 5)
+    if (auto* t = Item<QComboBox>(Ctl(&D::m_nEc8Type))) in.ec8Type = t->currentIndex() + 1;
+    if (auto* g = Item<QComboBox>(Ctl(&D::m_nGround)); g && g->currentIndex() >= 0 && g->currentIndex() < 5)
       in.ground = kGrounds[g->currentIndex()];
-    read(kCtlSpecAg, in.ag, "agR");
-    read(kCtlSpecImportance, in.importance, "The importance factor");
-    read(kCtlSpecDamping, in.damping, "The damping");
+    read(Ctl(&D::m_dAg), in.ag, "agR");
+    read(Ctl(&D::m_dImportance), in.importance, "The importance factor");
+    read(Ctl(&D::m_dDamping), in.damping, "The damping");
   } else {
     const bool ubc = in.code == model::kUbc97;
-    read(kCtlSpecValue1, in.value1, ubc ? "Ca" : "SDS");
-    read(kCtlSpecValue2, in.value2, ubc ? "Cv" : "SD1");
-    if (in.code >= model::kAsce2005 && in.code <= model::kAsce2016) read(kCtlSpecTl, in.tl, "TL");
+    read(Ctl(&D::m_dValue1), in.value1, ubc ? "Ca" : "SDS");
+    read(Ctl(&D::m_dValue2), in.value2, ubc ? "Cv" : "SD1");
+    if (in.code >= model::kAsce2005 && in.code <= model::kAsce2016) read(Ctl(&D::m_dTL), in.tl, "TL");
   }
-  if (auto* log = Item<QCheckBox>(kCtlSpecLogScale)) chart_->SetLogScale(log->isChecked());
+  if (auto* log = Item<QCheckBox>(Ctl(&D::m_bLogScale))) chart_->SetLogScale(log->isChecked());
   if (!unreadable.empty()) {
     chart_->Plot({}, "");
     SetDlgItemText(kCtlSpecStatus, unreadable);
@@ -165,18 +167,13 @@ void CGenerateResponseSpectrumDlg::UpdatePreview() {
   SetDlgItemText(kCtlSpecStatus, r.ok() ? std::to_string(r.spectrum.points.size()) + " points" : r.message);
 }
 
-void CGenerateResponseSpectrumDlg::OnBnClickedOk() {
-  if (!UpdateData(1)) return;
+bool CGenerateResponseSpectrumDlg::ValidateOnOK() {
   model::SpectrumResult r = model::GenerateResponseSpectrum(InputFromMembers());
   if (!r.ok()) {
-    MessageBox(r.message);
-    if (auto* edit = Item<QLineEdit>(FieldControl(r.field))) {
-      edit->setFocus();
-      edit->selectAll();
-    }
-    return;
+    FailOn(FieldControl(r.field), r.message);
+    return false;
   }
   m_spectrum = std::move(r.spectrum);
   m_bGenerated = 1;
-  EndDialog(IDOK);
+  return true;
 }

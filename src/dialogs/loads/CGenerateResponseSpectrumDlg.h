@@ -12,6 +12,7 @@ class SpectrumChart;
 class CGenerateResponseSpectrumDlg : public CDialog {
  public:
   explicit CGenerateResponseSpectrumDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CGenerateResponseSpectrumDlg>& Description();
 
   int32_t m_nCode = model::kAsce2010;  // 0 UBC 97, 1 IBC 2000, 2 ASCE 2005, 3 ASCE 2010, 4 ASCE 7-16, 5 Eurocode 8
   double m_dValue1 = 1.0;  // Ca (UBC 97) or SDS
@@ -31,8 +32,7 @@ class CGenerateResponseSpectrumDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
-  void OnBnClickedOk();
+  bool ValidateOnOK() override;
   void OnSelChangeCode();
   // Redraws the curve from the controls as they read now; an unusable value leaves the
   // chart empty and says why under it.

@@ -1,9 +1,9 @@
 #include "dialogs/loads/CLoadComboDlg.h"
 
-#include <QEvent>
-#include <QHeaderView>
 #include <QTreeWidget>
 
+#include "dialogs/frame/Form.h"
+#include "dialogs/frame/ReportColumns.h"
 #include "dialogs/loads/CLoadComboItemDlg.h"
 #include "dialogs/loads/CStdLoadCombinationDlg.h"
 #include "dialogs/loads/load_combinations.h"
@@ -13,26 +13,28 @@ using namespace res;
 
 namespace {
 
-// Keeps the list's columns at their share of its width whenever it is resized.
-class ColumnFitter : public QObject {
- public:
-  ColumnFitter(QTreeWidget* list, std::function<void()> fit) : QObject(list), fit_(std::move(fit)) {
-    list->viewport()->installEventFilter(this);
-  }
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Resize) fit_();
-    return false;
-  }
-
- private:
-  std::function<void()> fit_;
-};
-
 const char* YesNo(int32_t flag) { return flag ? "Yes" : "No"; }
 
 }  // namespace
 
-CLoadComboDlg::CLoadComboDlg(QWidget* pParent) : CDialog(kTplLoadCombo, pParent) {
+const frame::Form<CLoadComboDlg>& CLoadComboDlg::Description() {
+  using F = frame::Field<CLoadComboDlg>;
+  static const frame::Form<CLoadComboDlg> form(
+      {.templateId = kIddLoadCombo, .caption = "Load Combinations", .minWidth = 920, .minHeight = 420},
+      {
+          F::Report("Combinations\tP-Delta\tSteel Design\tConcrete Design\tTotal Load Defl.\tLive Load Defl.")
+              .Id(kCtlComboList),
+          F::Button("Add").Id(kCtlComboAdd),
+          F::Button("Modify").Id(kCtlComboModify),
+          F::Button("Copy").Id(kCtlComboCopy),
+          F::Button("Delete").Id(kCtlComboDelete),
+          F::Button("Unit Cases").Id(kCtlComboUnitCases),
+          F::Button("Generate Std").Id(kCtlComboGenerateStd),
+      });
+  return form;
+}
+
+CLoadComboDlg::CLoadComboDlg(QWidget* pParent) : CDialog(Description(), pParent) {
   OnCommand(kCtlComboAdd, [this] { OnAdd(); });
   OnCommand(kCtlComboModify, [this] { OnModify(); });
   OnCommand(kCtlComboCopy, [this] { OnCopy(); });
@@ -46,21 +48,11 @@ BOOL CLoadComboDlg::OnInitDialog() {
   CDialog::OnInitDialog();
   if (auto* list = Item<QTreeWidget>(kCtlComboList)) {
     list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    list->header()->setStretchLastSection(false);
-    new ColumnFitter(list, [this] { FitColumns(); });
+    frame::KeepColumnShares(list, {0.3, 0.14, 0.14, 0.14, 0.14, 0.14});
   }
   loads::EnsureDefaultCombination(*m_pLoadCombs, *m_pLoadCases);
   Refresh(static_cast<int>(m_pLoadCombs->size()) - 1);
-  FitColumns();
   return 1;
-}
-
-void CLoadComboDlg::FitColumns() {
-  auto* list = Item<QTreeWidget>(kCtlComboList);
-  if (!list) return;
-  const int width = list->viewport()->width();
-  list->setColumnWidth(0, static_cast<int>(width * 0.3));
-  for (int col = 1; col <= 5; ++col) list->setColumnWidth(col, static_cast<int>(width * 0.14));
 }
 
 void CLoadComboDlg::Refresh(int selectRow) {

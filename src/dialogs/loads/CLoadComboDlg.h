@@ -12,6 +12,7 @@
 class CLoadComboDlg : public CDialog {
  public:
   explicit CLoadComboDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CLoadComboDlg>& Description();
 
   std::vector<fmLoadCase>* m_pLoadCases = nullptr;
   std::vector<fmLoadComb>* m_pLoadCombs = nullptr;
@@ -37,6 +38,5 @@ class CLoadComboDlg : public CDialog {
  private:
   std::vector<size_t> SelectedRows() const;
   int CurrentRow() const;
-  void FitColumns();
   void RunEditor(int index);
 };

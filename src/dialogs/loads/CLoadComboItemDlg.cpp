@@ -2,7 +2,7 @@
 
 #include <QLineEdit>
 
-#include "dialogs/frame/DataExchange.h"
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/load_combinations.h"
 #include "dialogs/loads/load_grids.h"
 #include "resources/grid_ids.h"
@@ -10,10 +10,34 @@
 
 using namespace res;
 
-CLoadComboItemDlg::CLoadComboItemDlg(QWidget* pParent) : CDialog(kTplLoadComboItem, pParent) {}
+// Label, flags and factors on the left, the case factors on the right.
+const frame::Form<CLoadComboItemDlg>& CLoadComboItemDlg::Description() {
+  using F = frame::Field<CLoadComboItemDlg>;
+  using D = CLoadComboItemDlg;
+  static const frame::Form<D> form(
+      {.templateId = kIddLoadComboItem, .caption = "Load Combination", .minWidth = 820, .minHeight = 420,
+       .stretchColumn = false},
+      {
+          F::Text("Label:", &D::m_strLabel),
+          F::Check("Perform P-Delta Analysis on this Load Combination", &D::m_bPDelta).Span(2),
+          F::Check("Perform Steel Design using this Load Combination", &D::m_bSteelDesign).Span(2),
+          F::Check("Perform Concrete Design using this Load Combination", &D::m_bConcreteDesign).Span(2),
+          F::Check("Check Total Load Deflection", &D::m_bTotalDeflection).Span(2),
+          F::Check("Check Live Load Deflection", &D::m_bLiveDeflection).Span(2),
+          F::Real("Sustained Load Factor:", &D::m_dSustainedFactor),
+          F::Real("Response Spectrum Load Factor:", &D::m_dSpectrumFactor),
+          F::Static("").Span(2).Flags(kStretchRow),
+          F::Grid().Id(kCtlGridPlaceholder).At(0, 2, 9, 1).Stretch(kStretchCol),
+          F::Button("Print...").Id(kCtlPrint, kStrPrint),
+          F::Button("Save...").Id(kCtlSave, kStrSave),
+      });
+  return form;
+}
+
+CLoadComboItemDlg::CLoadComboItemDlg(QWidget* pParent) : CDialog(Description(), pParent) {}
 
 std::string CLoadComboItemDlg::PrintTitle() const {
-  const auto* edit = Item<QLineEdit>(kCtlItemLabel);
+  const auto* edit = Item<QLineEdit>(frame::IdOf(&CLoadComboItemDlg::m_strLabel));
   return loadgrid::FactorTableTitle(edit ? edit->text().toStdString() : m_comb.name);
 }
 
@@ -34,18 +58,6 @@ BOOL CLoadComboItemDlg::OnInitDialog() {
   return 1;
 }
 
-void CLoadComboItemDlg::DoDataExchange(CDataExchange* pDX) {
-  CDialog::DoDataExchange(pDX);
-  DDX_Text(pDX, kCtlItemLabel, m_strLabel);
-  DDX_Check(pDX, kCtlItemPDelta, m_bPDelta);
-  DDX_Check(pDX, kCtlItemSteelDesign, m_bSteelDesign);
-  DDX_Check(pDX, kCtlItemTotalDeflection, m_bTotalDeflection);
-  DDX_Check(pDX, kCtlItemLiveDeflection, m_bLiveDeflection);
-  DDX_Check(pDX, kCtlItemConcreteDesign, m_bConcreteDesign);
-  DDX_Text(pDX, kCtlItemSustained, m_dSustainedFactor);
-  DDX_Text(pDX, kCtlItemSpectrum, m_dSpectrumFactor);
-}
-
 void CLoadComboItemDlg::OnOK() {
   if (!UpdateData(1)) return;
   loads::CombinationEdit edit;
@@ -61,12 +73,9 @@ void CLoadComboItemDlg::OnOK() {
   fmLoadComb saved;
   const loads::EditCheck check = loads::SaveCombinationEdit(edit, *m_pLoadCombs, m_nIndex, saved);
   if (!check.ok()) {
-    MessageBox(check.message);
-    const int focus = check.field == loads::EditCheck::Field::SustainedFactor ? kCtlItemSustained : kCtlItemLabel;
-    if (auto* field = Item<QLineEdit>(focus)) {
-      field->setFocus();
-      field->selectAll();
-    }
+    FailOn(check.field == loads::EditCheck::Field::SustainedFactor ? frame::IdOf(&CLoadComboItemDlg::m_dSustainedFactor)
+                                                                  : frame::IdOf(&CLoadComboItemDlg::m_strLabel),
+           check.message);
     return;
   }
   m_comb = std::move(saved);

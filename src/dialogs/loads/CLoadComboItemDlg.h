@@ -13,12 +13,17 @@
 class CLoadComboItemDlg : public CDialog {
  public:
   explicit CLoadComboItemDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CLoadComboItemDlg>& Description();
 
   int32_t m_nIndex = -1;  // the edited combination's place in *m_pLoadCombs, -1 for a new one
   std::vector<fmLoadCase>* m_pLoadCases = nullptr;
   std::vector<fmLoadComb>* m_pLoadCombs = nullptr;
   fmLoadComb m_comb;
   uint32_t m_crAlternateRowColor = 0xF0F5FF;
+  // The fields, loaded from m_comb when the dialog opens.
+  std::string m_strLabel;
+  BOOL m_bPDelta = 0, m_bSteelDesign = 0, m_bTotalDeflection = 0, m_bLiveDeflection = 0, m_bConcreteDesign = 0;
+  double m_dSustainedFactor = 0, m_dSpectrumFactor = 1;
 
   TSpread& Spread() { return m_Spread; }
   // "Load Comb - <label> Table", the title of the grid's printout and export.
@@ -26,12 +31,8 @@ class CLoadComboItemDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   void OnOK() override;
 
  private:
   TSpread m_Spread;
-  std::string m_strLabel;
-  BOOL m_bPDelta = 0, m_bSteelDesign = 0, m_bTotalDeflection = 0, m_bLiveDeflection = 0, m_bConcreteDesign = 0;
-  double m_dSustainedFactor = 0, m_dSpectrumFactor = 1;
 };

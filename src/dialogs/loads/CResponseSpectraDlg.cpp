@@ -4,8 +4,11 @@
 #include <QTreeWidget>
 
 #include "dialogs/loads/CGenerateResponseSpectrumDlg.h"
+#include "dialogs/frame/Form.h"
+#include "dialogs/frame/TemplateBuilder.h"
 #include "dialogs/loads/CResponseSpectrumDataDlg.h"
 #include "model/response_spectrum_manager.h"
+#include "resources/ids.h"
 #include "resources/spectra_ids.h"
 #include "tools/fm_exception.h"
 #include "tools/format.h"
@@ -26,7 +29,27 @@ const std::vector<std::string> kFileFilters = {"CSV File (*.csv)", "Text File (*
 
 }  // namespace
 
-CResponseSpectraDlg::CResponseSpectraDlg(QWidget* pParent) : CDialog(kTplResponseSpectra, pParent) {
+// The spectra of the shared file with the file's path below them; the dialog changes the file
+// itself, so its one button at the bottom is Close.
+const frame::Form<CResponseSpectraDlg>& CResponseSpectraDlg::Description() {
+  using F = frame::Field<CResponseSpectraDlg>;
+  static const frame::Form<CResponseSpectraDlg> form(
+      {.templateId = kIddResponseSpectra, .caption = "Response Spectra", .minWidth = 620, .minHeight = 380,
+       .buttons = frame::FormFrame::Buttons::None},
+      {
+          F::Report("Spectrum Name\tNumber of Points").Id(kCtlSpectraList),
+          F::Static("").Id(kCtlSpectraFile).Span(1),
+          F::Button("Add from Code...").Id(kCtlSpectraGenerate),
+          F::Button("Add from File...").Id(kCtlSpectraImport),
+          F::Button("Modify...").Id(kCtlSpectraModify),
+          F::Button("Delete").Id(kCtlSpectraDelete),
+          F::Button("Export...").Id(kCtlSpectraExport),
+          F::Button("Close").Id(IDCANCEL_, kStrClose).At(frame::kButtonBar, 0).Flags(kDefault),
+      });
+  return form;
+}
+
+CResponseSpectraDlg::CResponseSpectraDlg(QWidget* pParent) : CDialog(Description(), pParent) {
   OnCommand(kCtlSpectraGenerate, [this] { OnGenerate(); });
   OnCommand(kCtlSpectraImport, [this] { OnImport(); });
   OnCommand(kCtlSpectraModify, [this] { OnModify(); });

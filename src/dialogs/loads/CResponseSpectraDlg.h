@@ -10,6 +10,7 @@
 class CResponseSpectraDlg : public CDialog {
  public:
   explicit CResponseSpectraDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CResponseSpectraDlg>& Description();
 
  protected:
   BOOL OnInitDialog() override;

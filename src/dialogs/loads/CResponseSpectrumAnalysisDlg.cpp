@@ -1,9 +1,8 @@
 #include "dialogs/loads/CResponseSpectrumAnalysisDlg.h"
 
 #include <QComboBox>
-#include <QLineEdit>
 
-#include "dialogs/frame/DataExchange.h"
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/CResponseSpectraDlg.h"
 #include "model/response_spectrum_manager.h"
 #include "resources/spectra_ids.h"
@@ -14,6 +13,8 @@ using F = model::SpectrumSettingsField;
 
 namespace {
 
+using D = CResponseSpectrumAnalysisDlg;
+
 int IndexOf(const std::vector<fmResponseSpectrum>& spectra, const std::string& name) {
   for (size_t i = 0; i < spectra.size(); ++i)
     if (tools::LabelsEqual(spectra[i].name, name)) return static_cast<int>(i);
@@ -22,9 +23,38 @@ int IndexOf(const std::vector<fmResponseSpectrum>& spectra, const std::string& n
 
 }  // namespace
 
-CResponseSpectrumAnalysisDlg::CResponseSpectrumAnalysisDlg(QWidget* pParent)
-    : CDialog(kTplResponseSpectrumAnalysis, pParent) {
-  OnCommand(IDOK, [this] { OnBnClickedOk(); });
+int32_t D::* const D::kSpectrum[3] = {&D::spectrumX_, &D::spectrumY_, &D::spectrumZ_};
+double D::* const D::kFactor[3] = {&D::factorX_, &D::factorY_, &D::factorZ_};
+
+const frame::Form<CResponseSpectrumAnalysisDlg>& CResponseSpectrumAnalysisDlg::Description() {
+  using Fld = frame::Field<D>;
+  const auto methods = [](const D&) {
+    return std::vector<std::string>(std::begin(model::kSpectrumCombinations), std::end(model::kSpectrumCombinations));
+  };
+  static const frame::Form<D> form(
+      {.templateId = kIddResponseSpectrumAnalysis, .caption = "Response Spectrum Analysis", .minWidth = 620,
+       .numberFlags = kNarrow, .stretchColumn = false},
+      {
+          Fld::Check("Perform response spectrum analysis", &D::perform_).Id(kCtlRsaPerform).Span(2),
+          Fld::Group("Excitation directions").Span(2),
+          Fld::Static("Spectrum").At(0, 1).Span(1),
+          Fld::Static("Contribution factor").At(0, 2).Span(1),
+          Fld::DropIndexOrNone("Direction-X:", &D::spectrumX_).Id(kCtlRsaSpectrumX).At(1, 0).Flags(kStretchCol),
+          Fld::Real("", &D::factorX_).Id(kCtlRsaFactorX).At(1, 2),
+          Fld::DropIndexOrNone("Direction-Y:", &D::spectrumY_).Id(kCtlRsaSpectrumX + 1).At(2, 0).Flags(kStretchCol),
+          Fld::Real("", &D::factorY_).Id(kCtlRsaFactorX + 1).At(2, 2),
+          Fld::DropIndexOrNone("Direction-Z:", &D::spectrumZ_).Id(kCtlRsaSpectrumX + 2).At(3, 0).Flags(kStretchCol),
+          Fld::Real("", &D::factorZ_).Id(kCtlRsaFactorX + 2).At(3, 2),
+          Fld::EndGroup(),
+          Fld::DropIndexOrNone("Modal combination:", &D::combination_).Id(kCtlRsaCombination).Items(methods),
+          Fld::Real("Critical damping ratio:", &D::damping_).Id(kCtlRsaDamping),
+          Fld::Static("").Span(2).Flags(kStretchRow),
+          Fld::Button("Spectra...").Id(kCtlRsaSpectra),
+      });
+  return form;
+}
+
+CResponseSpectrumAnalysisDlg::CResponseSpectrumAnalysisDlg(QWidget* pParent) : CDialog(Description(), pParent) {
   OnCommand(kCtlRsaSpectra, [this] { OnSpectra(); });
 }
 
@@ -37,19 +67,15 @@ BOOL CResponseSpectrumAnalysisDlg::OnInitDialog() {
   damping_ = m_settings.dampingRatio;
   bool missing = false;
   for (int d = 0; d < 3; ++d) {
-    factor_[d] = m_settings.factor[static_cast<size_t>(d)];
+    this->*kFactor[d] = m_settings.factor[static_cast<size_t>(d)];
     const std::string& name = m_settings.spectrum[static_cast<size_t>(d)];
     // A model that never chose starts on the first spectrum; a name the file no longer
     // holds is said at once and left unchosen.
-    spectrumIndex_[d] = name.empty() ? 0 : IndexOf(spectra_, name);
-    missing = missing || spectrumIndex_[d] < 0;
+    this->*kSpectrum[d] = name.empty() ? 0 : IndexOf(spectra_, name);
+    missing = missing || this->*kSpectrum[d] < 0;
   }
-  if (auto* combo = Item<QComboBox>(kCtlRsaCombination)) {
-    combo->clear();
-    for (const char* method : model::kSpectrumCombinations) combo->addItem(method);
-  }
-  FillSpectra();
   CDialog::OnInitDialog();
+  FillSpectra();
   if (m_bModelLocked) EnableDlgItem(IDOK, false);
   if (!loaded) MessageBox(manager.LastError(), MessageIcon::Error);
   if (missing) MessageBox("Invalid spectrum is specified");
@@ -57,24 +83,12 @@ BOOL CResponseSpectrumAnalysisDlg::OnInitDialog() {
 }
 
 void CResponseSpectrumAnalysisDlg::FillSpectra() {
+  std::vector<std::string> names;
+  for (const fmResponseSpectrum& s : spectra_) names.push_back(s.name);
   for (int d = 0; d < 3; ++d) {
-    auto* combo = Item<QComboBox>(kCtlRsaSpectrumX + d);
-    if (!combo) continue;
-    combo->clear();
-    for (const fmResponseSpectrum& s : spectra_) combo->addItem(QString::fromStdString(s.name));
-    combo->setCurrentIndex(spectrumIndex_[d]);
+    SetComboItems(kCtlRsaSpectrumX + d, names);
+    if (auto* combo = Item<QComboBox>(kCtlRsaSpectrumX + d)) combo->setCurrentIndex(this->*kSpectrum[d]);
   }
-}
-
-void CResponseSpectrumAnalysisDlg::DoDataExchange(CDataExchange* pDX) {
-  CDialog::DoDataExchange(pDX);
-  DDX_Check(pDX, kCtlRsaPerform, perform_);
-  for (int d = 0; d < 3; ++d) {
-    DDX_CBIndex(pDX, kCtlRsaSpectrumX + d, spectrumIndex_[d]);
-    DDX_Text(pDX, kCtlRsaFactorX + d, factor_[d]);
-  }
-  DDX_CBIndex(pDX, kCtlRsaCombination, combination_);
-  DDX_Text(pDX, kCtlRsaDamping, damping_);
 }
 
 void CResponseSpectrumAnalysisDlg::OnSpectra() {
@@ -82,29 +96,27 @@ void CResponseSpectrumAnalysisDlg::OnSpectra() {
   // Keep the choices by name across the list's changes.
   std::string names[3];
   for (int d = 0; d < 3; ++d)
-    if (spectrumIndex_[d] >= 0 && spectrumIndex_[d] < static_cast<int>(spectra_.size()))
-      names[d] = spectra_[static_cast<size_t>(spectrumIndex_[d])].name;
+    if (const int i = this->*kSpectrum[d]; i >= 0 && i < static_cast<int>(spectra_.size()))
+      names[d] = spectra_[static_cast<size_t>(i)].name;
   CResponseSpectraDlg dlg(this);
   dlg.DoModal();
   spectra_ = CResponseSpectrumManager::Instance().GetSpectra();
-  for (int d = 0; d < 3; ++d) spectrumIndex_[d] = names[d].empty() ? -1 : IndexOf(spectra_, names[d]);
+  for (int d = 0; d < 3; ++d) this->*kSpectrum[d] = names[d].empty() ? -1 : IndexOf(spectra_, names[d]);
   FillSpectra();
 }
 
-void CResponseSpectrumAnalysisDlg::OnBnClickedOk() {
-  if (!UpdateData(1)) return;
+bool CResponseSpectrumAnalysisDlg::ValidateOnOK() {
   fmResponseSpectrumSettings s;
   s.enabled = perform_ != 0;
   for (int d = 0; d < 3; ++d) {
-    const int i = spectrumIndex_[d];
+    const int i = this->*kSpectrum[d];
     s.spectrum[static_cast<size_t>(d)] = i >= 0 && i < static_cast<int>(spectra_.size()) ? spectra_[static_cast<size_t>(i)].name : "";
-    s.factor[static_cast<size_t>(d)] = factor_[d];
+    s.factor[static_cast<size_t>(d)] = this->*kFactor[d];
   }
   s.combination = combination_ >= 0 && combination_ < 2 ? model::kSpectrumCombinations[combination_] : m_settings.combination;
   s.dampingRatio = damping_;
   const model::SpectrumSettingsCheck check = model::CheckSpectrumSettings(s, spectra_);
   if (!check.ok()) {
-    MessageBox(check.message);
     int focus = 0;
     switch (check.field) {
       case F::Spectrum: focus = kCtlRsaSpectrumX + check.direction; break;
@@ -115,10 +127,9 @@ void CResponseSpectrumAnalysisDlg::OnBnClickedOk() {
       case F::FactorZ: focus = kCtlRsaFactorX + 2; break;
       case F::None: break;
     }
-    if (QWidget* w = GetDlgItem(focus)) w->setFocus();
-    if (auto* edit = Item<QLineEdit>(focus)) edit->selectAll();
-    return;
+    FailOn(focus, check.message);
+    return false;
   }
   m_settings = s;
-  EndDialog(IDOK);
+  return true;
 }

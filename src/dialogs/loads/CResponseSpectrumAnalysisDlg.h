@@ -11,14 +11,14 @@
 class CResponseSpectrumAnalysisDlg : public CDialog {
  public:
   explicit CResponseSpectrumAnalysisDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CResponseSpectrumAnalysisDlg>& Description();
 
   fmResponseSpectrumSettings m_settings;
   BOOL m_bModelLocked = 0;
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
-  void OnBnClickedOk();
+  bool ValidateOnOK() override;
   // Opens the spectrum list, then offers the spectra it left.
   void OnSpectra();
 
@@ -26,9 +26,12 @@ class CResponseSpectrumAnalysisDlg : public CDialog {
   void FillSpectra();
 
   std::vector<fmResponseSpectrum> spectra_;
-  int32_t spectrumIndex_[3] = {-1, -1, -1};
+  // The fields: a spectrum (its index, -1 for none) and a factor per direction X, Y, Z.
+  int32_t spectrumX_ = -1, spectrumY_ = -1, spectrumZ_ = -1;
+  double factorX_ = 1, factorY_ = 1, factorZ_ = 0;
   int32_t combination_ = 0;
   BOOL perform_ = 0;
   double damping_ = 0.05;
-  double factor_[3] = {1, 1, 0};
+  static int32_t CResponseSpectrumAnalysisDlg::* const kSpectrum[3];
+  static double CResponseSpectrumAnalysisDlg::* const kFactor[3];
 };

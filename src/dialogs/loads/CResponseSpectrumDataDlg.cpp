@@ -5,7 +5,6 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include "dialogs/frame/DataExchange.h"
 #include "dialogs/loads/SpectrumChart.h"
 #include "dialogs/loads/spectrum_grid.h"
 #include "model/response_spectrum_manager.h"
@@ -15,7 +14,27 @@
 
 using namespace res;
 
-CResponseSpectrumDataDlg::CResponseSpectrumDataDlg(QWidget* pParent) : CDataGridDlg(kTplResponseSpectrumData, pParent) {
+// The name above the points; the curve of the points beside them.
+const frame::Form<CResponseSpectrumDataDlg>& CResponseSpectrumDataDlg::Description() {
+  using F = frame::Field<CResponseSpectrumDataDlg>;
+  using D = CResponseSpectrumDataDlg;
+  static const frame::Form<D> form(
+      {.templateId = kIddResponseSpectrumData, .caption = "Response Spectrum Data", .minWidth = 960, .minHeight = 480,
+       .stretchColumn = false},
+      {
+          F::Text("Name:", &D::name_).Id(kCtlSpecName).Span(2),
+          F::Grid().Id(kCtlGridPlaceholder).Span(2).Stretch(kStretchRow),
+          F::Grid().Id(kCtlSpecDataChart).At(1, 2).Stretch(kStretchCol),
+          F::Edit("").Id(kCtlNewRowCount).At(frame::kSideBar, 0),
+          F::Button("New Rows").Id(kCtlNewRows, kStrNewRows),
+          F::Button("Delete Rows").Id(kCtlSpecDeleteRows),
+          F::Button("Print...").Id(kCtlPrint, kStrPrint),
+          F::Button("Save...").Id(kCtlSave, kStrSave),
+      });
+  return form;
+}
+
+CResponseSpectrumDataDlg::CResponseSpectrumDataDlg(QWidget* pParent) : CDataGridDlg(Description(), pParent) {
   OnCommand(kCtlNewRows, [this] { OnNewPointRows(); });
   OnCommand(kCtlSpecDeleteRows, [this] { OnDeleteRows(); });
 }
@@ -40,11 +59,6 @@ BOOL CResponseSpectrumDataDlg::OnInitDialog() {
   }
   UpdatePlot();
   return 1;
-}
-
-void CResponseSpectrumDataDlg::DoDataExchange(CDataExchange* pDX) {
-  CDataGridDlg::DoDataExchange(pDX);
-  DDX_Text(pDX, kCtlSpecName, name_);
 }
 
 void CResponseSpectrumDataDlg::Refresh() {

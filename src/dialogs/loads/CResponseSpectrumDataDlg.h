@@ -12,6 +12,7 @@ class SpectrumChart;
 class CResponseSpectrumDataDlg : public CDataGridDlg {
  public:
   explicit CResponseSpectrumDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CResponseSpectrumDataDlg>& Description();
 
   fmResponseSpectrum m_spectrum;
   std::vector<std::string> m_otherNames;  // names the edited spectrum may not take
@@ -21,7 +22,6 @@ class CResponseSpectrumDataDlg : public CDataGridDlg {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   void Refresh() override;
   bool Save() override;
   void OnNewPointRows();

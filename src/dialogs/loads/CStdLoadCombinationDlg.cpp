@@ -3,38 +3,48 @@
 #include <QComboBox>
 #include <QListWidget>
 
-#include "dialogs/frame/DataExchange.h"
+#include "dialogs/frame/Form.h"
 #include "resources/loads_ids.h"
 
 using namespace res;
 
-CStdLoadCombinationDlg::CStdLoadCombinationDlg(QWidget* pParent) : CDialog(kTplStdLoadCombination, pParent) {
-  OnSelChange(kCtlStdCode, [this] { OnSelchangeComboCode(); });
+const frame::Form<CStdLoadCombinationDlg>& CStdLoadCombinationDlg::Description() {
+  using F = frame::Field<CStdLoadCombinationDlg>;
+  using D = CStdLoadCombinationDlg;
+  const auto codes = [](const D&) {
+    std::vector<std::string> titles;
+    for (const loads::StdCombCode& code : loads::StandardCombinationCodes()) titles.emplace_back(code.title);
+    return titles;
+  };
+  static const frame::Form<D> form(
+      {kIddStdLoadCombination, "Standard Load Combinations", 0, 560, 480},
+      {
+          F::DropIndex("Design code:", &D::m_nCode).Items(codes),
+          F::Static("Select standard load combinations:").Span(2),
+          F::CheckList("").Id(kCtlStdList).Span(2).Stretch(kStretchRow),
+          F::Check("Perform P-Delta Analyses on the load combinations", &D::m_bPDelta).Span(2),
+          F::Button("Select All").Id(kCtlStdSelectAll),
+          F::Button("Clear All").Id(kCtlStdClearAll),
+      });
+  return form;
+}
+
+CStdLoadCombinationDlg::CStdLoadCombinationDlg(QWidget* pParent) : CDialog(Description(), pParent) {
+  OnSelChange(frame::IdOf(&CStdLoadCombinationDlg::m_nCode), [this] { OnSelchangeComboCode(); });
   OnCommand(kCtlStdSelectAll, [this] { OnSelectAll(); });
   OnCommand(kCtlStdClearAll, [this] { OnClearAll(); });
 }
 
 BOOL CStdLoadCombinationDlg::OnInitDialog() {
-  CDialog::OnInitDialog();
   const auto codes = loads::StandardCombinationCodes();
-  if (auto* combo = Item<QComboBox>(kCtlStdCode)) {
-    combo->clear();
-    for (const loads::StdCombCode& code : codes) combo->addItem(QString::fromUtf8(code.title));
-  }
   if (m_nCode < 0 || m_nCode >= static_cast<int32_t>(codes.size())) m_nCode = 0;
-  UpdateData(0);
+  CDialog::OnInitDialog();
   ResetCheckList(codes[static_cast<size_t>(m_nCode)].rows);
   return 1;
 }
 
-void CStdLoadCombinationDlg::DoDataExchange(CDataExchange* pDX) {
-  CDialog::DoDataExchange(pDX);
-  DDX_CBIndex(pDX, kCtlStdCode, m_nCode);
-  DDX_Check(pDX, kCtlStdPDelta, m_bPDelta);
-}
-
 void CStdLoadCombinationDlg::OnSelchangeComboCode() {
-  auto* combo = Item<QComboBox>(kCtlStdCode);
+  auto* combo = Item<QComboBox>(frame::IdOf(&CStdLoadCombinationDlg::m_nCode));
   const loads::StdCombCode* code = combo ? loads::FindStandardCombinationCode(combo->currentIndex()) : nullptr;
   if (!code) return;
   m_nCode = combo->currentIndex();

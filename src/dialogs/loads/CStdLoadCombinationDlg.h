@@ -11,6 +11,7 @@
 class CStdLoadCombinationDlg : public CDialog {
  public:
   explicit CStdLoadCombinationDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CStdLoadCombinationDlg>& Description();
 
   int32_t m_nCode = 0;            // index in the "Design code:" list, 0 to 7
   BOOL m_bPDelta = 0;             // "Perform P-Delta Analyses on the load combinations"
@@ -18,7 +19,6 @@ class CStdLoadCombinationDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   void OnOK() override;
 
   void OnSelchangeComboCode();

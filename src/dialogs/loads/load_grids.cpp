@@ -29,7 +29,7 @@ void FillCases(grid::Sheet& sheet, const std::vector<fmLoadCase>& cases, grid::C
   sheet.AddFillColumn(kCaseType);
   for (int row = 1; row <= rows; ++row) {
     const fmLoadCase& lc = cases[static_cast<size_t>(row - 1)];
-    sheet.SetData(kCaseNo, row, tools::Format("%d", row));
+    sheet.SetNumber(kCaseNo, row, tools::Format("%d", row));
     sheet.SetData(kCaseLabel, row, lc.name);
     sheet.SetComboIndex(kCaseType, row, GetLoadCaseTypeIndex(lc.type));
   }
@@ -80,7 +80,7 @@ void FillFactors(grid::Sheet& sheet, const std::vector<loads::CombinationEdit::R
   sheet.AddFillColumn(kFactorValue);
   for (int row = 1; row <= count; ++row) {
     sheet.SetData(kFactorCase, row, rows[static_cast<size_t>(row - 1)].caseLabel);
-    sheet.SetData(kFactorValue, row, rows[static_cast<size_t>(row - 1)].factorText);
+    sheet.SetNumber(kFactorValue, row, rows[static_cast<size_t>(row - 1)].factorText);
   }
 }
 

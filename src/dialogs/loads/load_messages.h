@@ -7,7 +7,6 @@ inline constexpr const char* kFmtBadCaseLabel = "Load case label can only %s";
 inline constexpr const char* kFmtBadCombLabel = "Load combination label can only %s";
 inline constexpr const char* kFmtDuplicateLabel = "Duplicate label [%s] can not be used.";
 inline constexpr const char* kMsgFirstCaseNotDeleted = "You may not delete the first load case";
-inline constexpr const char* kMsgModelLocked = "The Model is locked.\nYou can not modify data in the spreadsheet.";
 inline constexpr const char* kMsgCombLabelUsed = "Load combination label already used.";
 inline constexpr const char* kMsgSustainedNegative = "Sustained load factor must not be less than 0.0";
 inline constexpr const char* kMsgFirstCombNotDeleted = "The first load combination may not be deleted.";

@@ -2,7 +2,13 @@
 
 #include "resources/model_ids.h"
 
-CBeamDataDlg::CBeamDataDlg(QWidget* pParent) : CElementDataDlg(res::kIddBeamData, elementgrid::kMembers, pParent) {}
+const frame::Form<CBeamDataDlg>& CBeamDataDlg::Description() {
+  static const frame::Form<CBeamDataDlg> form = TableForm<CBeamDataDlg>(
+      {.templateId = res::kIddBeamData, .caption = "Member Data", .minWidth = 1020, .minHeight = 460, .okDefault = false});
+  return form;
+}
+
+CBeamDataDlg::CBeamDataDlg(QWidget* pParent) : CElementDataDlg(Description(), elementgrid::kMembers, pParent) {}
 
 elementgrid::ElementLists CBeamDataDlg::Lists() const {
   elementgrid::ElementLists lists = CElementDataDlg::Lists();

@@ -8,6 +8,7 @@
 class CBeamDataDlg : public CElementDataDlg {
  public:
   explicit CBeamDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CBeamDataDlg>& Description();
 
   std::vector<fmSect>* m_pSections = nullptr;
   std::vector<fmBm>* m_pBeams = nullptr;

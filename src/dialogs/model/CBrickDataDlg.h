@@ -8,6 +8,7 @@
 class CBrickDataDlg : public CElementDataDlg {
  public:
   explicit CBrickDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CBrickDataDlg>& Description();
 
   std::vector<fmBrick>* m_pBricks = nullptr;
 

@@ -1,11 +1,8 @@
 #include "dialogs/model/CElementDataDlg.h"
 
-#include "resources/grid_ids.h"
 
-CElementDataDlg::CElementDataDlg(int templateId, const elementgrid::Kind& kind, QWidget* pParent)
-    : CDataGridDlg(templateId, pParent), kind_(kind) {
-  OnCommand(res::kCtlNewRows, [this] { OnNewElementRows(); });
-}
+CElementDataDlg::CElementDataDlg(const frame::FormBase& form, const elementgrid::Kind& kind, QWidget* pParent)
+    : CDataGridDlg(form, pParent), kind_(kind) {}
 
 elementgrid::ElementLists CElementDataDlg::Lists() const {
   elementgrid::ElementLists lists;
@@ -14,11 +11,6 @@ elementgrid::ElementLists CElementDataDlg::Lists() const {
   return lists;
 }
 
-void CElementDataDlg::OnNewElementRows() {
-  const int before = m_Spread.sheet().MaxRows();
-  OnNewRows();
-  const int after = m_Spread.sheet().MaxRows();
-  if (after == before) return;
-  TSpread::RedrawGuard guard(m_Spread);
-  elementgrid::SetNewRowDefaults(m_Spread.sheet(), kind_, before + 1, after);
+void CElementDataDlg::PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) {
+  elementgrid::SetNewRowDefaults(sheet, kind_, firstRow, lastRow);
 }

@@ -16,7 +16,7 @@ class CElementDataDlg : public CDataGridDlg {
   std::string PrintTitle() const override { return kind_.printTitle; }
 
  protected:
-  CElementDataDlg(int templateId, const elementgrid::Kind& kind, QWidget* pParent);
+  CElementDataDlg(const frame::FormBase& form, const elementgrid::Kind& kind, QWidget* pParent);
 
   // The lists the drop-downs offer and the look-ups check.
   virtual elementgrid::ElementLists Lists() const;
@@ -26,7 +26,7 @@ class CElementDataDlg : public CDataGridDlg {
   template <class Record>
   bool SaveRows(std::vector<Record>& elements, const std::vector<Record>& filled);
 
-  void OnNewElementRows();
+  void PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) override;
 
   template <class T>
   static std::span<const T> ListOf(const std::vector<T>* list) {

@@ -5,7 +5,20 @@
 #include "resources/resources.h"
 #include "tools/format.h"
 
-CNodeDataDlg::CNodeDataDlg(QWidget* pParent) : CDataGridDlg(8007, pParent) {
+const frame::Form<CNodeDataDlg>& CNodeDataDlg::Description() {
+  using F = frame::Field<CNodeDataDlg>;
+  using namespace res;
+  static const frame::Form<CNodeDataDlg> form = TableForm<CNodeDataDlg>(
+      {.templateId = kIddNodeData, .caption = "Node Data", .captionStringId = kStrNodeDataCaption, .minWidth = 640,
+       .minHeight = 420, .okDefault = false},
+      {
+          F::Button("Round-off Coordinates").Id(kCtlRoundOff, kStrRoundOff),
+          F::Static("").Id(kCtlEpsilon).At(frame::kSideBar, 1),  // after the button: the epsilon it uses
+      });
+  return form;
+}
+
+CNodeDataDlg::CNodeDataDlg(QWidget* pParent) : CDataGridDlg(Description(), pParent) {
   OnCommand(res::kCtlRoundOff, [this] { OnRoundOff(); });
 }
 
@@ -38,6 +51,6 @@ bool CNodeDataDlg::Save() {
 
 void CNodeDataDlg::OnRoundOff() {
   if (IsReadOnly()) return;
-  TSpread::RedrawGuard guard(m_Spread);
-  nodegrid::RoundOffCoordinates(m_Spread.sheet(), m_dEpsilon);
+  m_Spread.ChangeCells("Round-off Coordinates", {nodegrid::kX, 1, nodegrid::kZ, m_Spread.sheet().MaxRows()},
+                       [&](grid::Sheet& sheet) { nodegrid::RoundOffCoordinates(sheet, m_dEpsilon); });
 }

@@ -9,6 +9,7 @@
 class CNodeDataDlg : public CDataGridDlg {
  public:
   explicit CNodeDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CNodeDataDlg>& Description();
 
   std::vector<fmNd>* m_pNodes = nullptr;
   double m_dEpsilon = 1e-10;  // round-off tolerance

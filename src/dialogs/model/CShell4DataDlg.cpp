@@ -2,7 +2,13 @@
 
 #include "resources/model_ids.h"
 
-CShell4DataDlg::CShell4DataDlg(QWidget* pParent) : CElementDataDlg(res::kIddShell4Data, elementgrid::kShells, pParent) {}
+const frame::Form<CShell4DataDlg>& CShell4DataDlg::Description() {
+  static const frame::Form<CShell4DataDlg> form = TableForm<CShell4DataDlg>(
+      {.templateId = res::kIddShell4Data, .caption = "Shell4 Data", .minWidth = 1020, .minHeight = 460, .okDefault = false});
+  return form;
+}
+
+CShell4DataDlg::CShell4DataDlg(QWidget* pParent) : CElementDataDlg(Description(), elementgrid::kShells, pParent) {}
 
 elementgrid::ElementLists CShell4DataDlg::Lists() const {
   elementgrid::ElementLists lists = CElementDataDlg::Lists();

@@ -8,6 +8,7 @@
 class CShell4DataDlg : public CElementDataDlg {
  public:
   explicit CShell4DataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CShell4DataDlg>& Description();
 
   std::vector<fmThick>* m_pThicknesses = nullptr;
   std::vector<fmShell4>* m_pShells = nullptr;

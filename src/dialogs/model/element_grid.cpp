@@ -4,6 +4,7 @@
 #include <charconv>
 #include <unordered_map>
 
+#include "dialogs/grid/grid_edit.h"
 #include "dialogs/grid/grid_ops.h"
 #include "model/element_lookup.h"
 #include "tools/fm_exception.h"
@@ -66,7 +67,7 @@ void SetNonlinear(fmBrick&, int) {}
 void SetUInt(grid::Sheet& sheet, int col, int row, uint32_t value) {
   char text[16];
   const auto end = std::to_chars(text, text + sizeof text, value).ptr;
-  sheet.SetData(col, row, std::string_view(text, static_cast<size_t>(end - text)));
+  sheet.SetNumber(col, row, std::string_view(text, static_cast<size_t>(end - text)));
 }
 
 std::string_view ItemOf(const std::vector<std::string>& items, int position) {
@@ -136,9 +137,7 @@ class ReferenceColumn {
 // the six digits shown.
 std::optional<double> ReadAngle(const std::string& text, const double* original) {
   if (tools::Trim(text).empty()) return 0.0;
-  const auto value = tools::ParseDouble(text);
-  if (original && ((value && *value == *original) || text == tools::FormatG(*original))) return *original;
-  return value;
+  return grid::ReadReal(text, original);
 }
 
 template <size_t N>
@@ -220,7 +219,7 @@ int Fill(grid::Sheet& sheet, std::span<const Record> rows, const ElementLists& l
     for (int k = 0; k < Record::kNodeCount; ++k) SetUInt(sheet, c.firstNode + k, row, r.nodes[static_cast<size_t>(k)]);
     sheet.SetData(c.material, row, ItemOf(materials, r.mat - 1));
     if (c.property) sheet.SetData(c.property, row, ItemOf(properties, PropertyOf(r) - 1));
-    if (c.angle) sheet.SetData(c.angle, row, tools::FormatG(AngleOf(r)));
+    if (c.angle) sheet.SetNumberG(c.angle, row, AngleOf(r));
     if (c.nonlinear) sheet.SetData(c.nonlinear, row, ItemOf(kNonlinearItems, NonlinearOf(r)));
     sheet.SetData(c.activation, row, kActivationItems[r.IsInactive() ? 1 : 0]);
     sheet.SetData(c.selfWeight, row, kSelfWeightItems[r.IsExcludedFromSelfWeight() ? 1 : 0]);
@@ -266,6 +265,12 @@ ReadResult<Record> Read(const grid::Sheet& sheet, std::span<const Record> filled
           tools::Format("Invalid %s id \"%s\" in row %d.", kind.inputWord, idText.c_str(), row), {c.id, row}};
       return result;
     }
+    if (*id > kMaxId) {
+      result.failure = grid::GridFailure{
+          tools::Format("Invalid %s id %u in row %d: the highest id is %u.", kind.inputWord, *id, row, kMaxId),
+          {c.id, row}};
+      return result;
+    }
     r.id = *id;
     const auto refuse = [&](int col, const std::string& why) {
       result.failure =
@@ -277,8 +282,8 @@ ReadResult<Record> Read(const grid::Sheet& sheet, std::span<const Record> filled
     try {
       for (int k = 0; k < Record::kNodeCount; ++k, ++col) {
         const auto nodeId = tools::ParseUInt32(sheet.GetData(col, row));
-        if (!nodeId) {
-          refuse(col, tools::Format("Node-%d must be a node id, a whole number from 0 to 4294967295, not \"%s\".", k + 1,
+        if (!nodeId || *nodeId > kMaxId) {
+          refuse(col, tools::Format("Node-%d must be a node id, a whole number from 0 to %u, not \"%s\".", k + 1, kMaxId,
                                     cellText(col).c_str()));
           return result;
         }
@@ -323,7 +328,15 @@ ReadResult<Record> Read(const grid::Sheet& sheet, std::span<const Record> filled
       }
       SetAngle(r, *angle);
     }
-    if (c.nonlinear) SetNonlinear(r, std::max(ItemPosition(kNonlinearItems, sheet.GetData(c.nonlinear, row)), 0));
+    if (c.nonlinear) {
+      // The other drop-downs read a stray text as their plain choice; a nonlinearity has no
+      // plain reading of one, so it is refused.
+      if (auto refusal = grid::ComboRefusal(sheet, c.nonlinear, row, sheet.GetData(c.nonlinear, row))) {
+        refuse(c.nonlinear, *refusal);
+        return result;
+      }
+      SetNonlinear(r, std::max(ItemPosition(kNonlinearItems, sheet.GetData(c.nonlinear, row)), 0));
+    }
     if (ItemPosition(kActivationItems, sheet.GetData(c.activation, row)) == 1) r.flags |= fmElementBase::kInactive;
     if (ItemPosition(kSelfWeightItems, sheet.GetData(c.selfWeight, row)) == 1) r.flags |= fmElementBase::kNoSelfWeight;
     const int status = ItemPosition(kStatusItems, sheet.GetData(c.status, row));

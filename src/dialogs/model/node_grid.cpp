@@ -41,10 +41,10 @@ int Fill(grid::Sheet& sheet, const std::vector<fmNd>& nodes, const fmUnit& units
   for (const fmNd& nd : nodes) {
     if (selectedOnly && !nd.IsSelected()) continue;
     ++row;
-    sheet.SetData(kId, row, tools::FormatInt(nd.id));
-    sheet.SetData(kX, row, tools::FormatG(nd.x));
-    sheet.SetData(kY, row, tools::FormatG(nd.y));
-    sheet.SetData(kZ, row, tools::FormatG(nd.z));
+    sheet.SetNumber(kId, row, tools::FormatInt(nd.id));
+    sheet.SetNumberG(kX, row, nd.x);
+    sheet.SetNumberG(kY, row, nd.y);
+    sheet.SetNumberG(kZ, row, nd.z);
     sheet.SetData(kStatus, row, kStatusItems[nd.IsFrozen() ? 2 : nd.IsSelected() ? 1 : 0]);
   }
   return rows;
@@ -67,19 +67,17 @@ ReadResult Read(const grid::Sheet& sheet, std::span<const fmNd> filled) {
           tools::Format("Invalid node id \"%s\" in row %d.", sheet.GetData(kId, row).c_str(), row), {kId, row}};
       return result;
     }
+    if (*id > kMaxId) {
+      result.failure = grid::GridFailure{
+          tools::Format("Invalid node id %u in row %d: the highest id is %u.", *id, row, kMaxId), {kId, row}};
+      return result;
+    }
     nd.id = *id;
     double* coords[] = {&nd.x, &nd.y, &nd.z};
     for (int axis = 0; axis < 3; ++axis) {
       const std::string& text = sheet.GetData(kX + axis, row);
-      // A cell left as it was filled keeps the node's full precision, not the six digits shown.
-      if (row <= filledRows) {
-        const double original = axis == 0 ? filled[row - 1].x : axis == 1 ? filled[row - 1].y : filled[row - 1].z;
-        if (std::isfinite(original) && text == tools::FormatG(original)) {
-          *coords[axis] = original;
-          continue;
-        }
-      }
-      const auto v = tools::ParseDouble(text);
+      const fmNd* before = row <= filledRows ? &filled[row - 1] : nullptr;
+      const auto v = grid::ReadReal(text, before ? (axis == 0 ? &before->x : axis == 1 ? &before->y : &before->z) : nullptr);
       if (!v) {
         result.failure = grid::GridFailure{
             tools::Format("Invalid input for node %u.\n%s must be a number, not \"%s\".", nd.id, kAxisNames[axis],

@@ -1,34 +1,47 @@
 #include "dialogs/results/CResultsDlg.h"
 
-#include <QBoxLayout>
-#include <QComboBox>
-#include <QGuiApplication>
-#include <QScreen>
 #include <QStyle>
 
-#include "dialogs/frame/DataExchange.h"
+#include "dialogs/frame/DialogLayout.h"
+#include "dialogs/frame/Form.h"
+#include "dialogs/frame/TemplateBuilder.h"
 #include "dialogs/results/info_sheets.h"
 #include "dialogs/results/nodal_reports.h"
 #include "dialogs/results/report_kinds.h"
 #include "resources/grid_ids.h"
+#include "resources/ids.h"
 #include "resources/results_ids.h"
 #include "tools/fm_exception.h"
 
-namespace {
-
-// The box layout that holds a widget, searched through nested layouts.
-QBoxLayout* BoxLayoutOf(QLayout* layout, QWidget* widget) {
-  if (!layout) return nullptr;
-  if (layout->indexOf(widget) >= 0) return qobject_cast<QBoxLayout*>(layout);
-  for (int i = 0; i < layout->count(); ++i)
-    if (QBoxLayout* found = BoxLayoutOf(layout->itemAt(i)->layout(), widget)) return found;
-  return nullptr;
+// The choice of case and the selection switch above the grid, each shown for the report kinds
+// that use it; print, save and close below, from the left.
+const frame::Form<CResultsDlg>& CResultsDlg::Description() {
+  using F = frame::Field<CResultsDlg>;
+  using D = CResultsDlg;
+  using namespace res;
+  const auto cases = [](const D& d) {
+    return d.m_pStruct ? results::ComboEntries(*d.m_pStruct, d.m_nReportType) : std::vector<std::string>{};
+  };
+  static const frame::Form<D> form(
+      {.templateId = kIddResults, .caption = "Results", .minWidth = 860, .minHeight = 520,
+       .buttons = frame::FormFrame::Buttons::None, .stretchColumn = false},
+      {
+          F::DropIndexOrNone("Load Combination:", &D::m_nCombination)
+              .Id(kCtlResultsCombo).LabelId(kCtlResultsComboLabel, 0).Items(cases)
+              .ShownWhen([](const D& d) { return results::ControlsFor(d.m_nReportType).combo; }),
+          F::Check("Show selected only", &D::m_bShowSelected).Id(kCtlResultsShowSelected).At(0, 2).Span(1)
+              .ShownWhen([](const D& d) { return results::ControlsFor(d.m_nReportType).check; }),
+          F::Static("").At(0, 3).Span(1).Flags(kStretchCol),
+          F::Grid().Id(kCtlGridPlaceholder).At(1, 0).Span(4).Stretch(kStretchRow),
+          F::Button("Print...").Id(kCtlPrint, kStrPrint).At(frame::kButtonBar, 0),
+          F::Button("Save...").Id(kCtlSave, kStrSave).At(frame::kButtonBar, 1),
+          F::Button("Close").Id(IDCANCEL_, kStrClose).At(frame::kButtonBar, 2),
+      });
+  return form;
 }
 
-}  // namespace
-
 CResultsDlg::CResultsDlg(QWidget* pParent)
-    : CDialog(res::kDlgResults, pParent), m_hIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView)) {
+    : CDialog(Description(), pParent), m_hIcon(style()->standardIcon(QStyle::SP_FileDialogDetailedView)) {
   OnSelChange(res::kCtlResultsCombo, [this] { OnSelchangeComboCombination(); });
   OnCommand(res::kCtlResultsShowSelected, [this] { OnCheckShowSelected(); });
   OnCommand(res::kCtlPrint, [this] { OnPrint(); });
@@ -37,49 +50,21 @@ CResultsDlg::CResultsDlg(QWidget* pParent)
 
 CResultsDlg::~CResultsDlg() = default;
 
-void CResultsDlg::DoDataExchange(CDataExchange* pDX) {
-  CDialog::DoDataExchange(pDX);
-  DDX_CBIndex(pDX, res::kCtlResultsCombo, m_nCombination);
-  DDX_Check(pDX, res::kCtlResultsShowSelected, m_bShowSelected);
-}
-
 BOOL CResultsDlg::OnInitDialog() {
+  m_bShowSelected = m_pStruct && m_pStruct->m_nShowSelected != 0;
   CDialog::OnInitDialog();
   setWindowIcon(m_hIcon);
   m_Spread.CreateInPlace(this, res::kCtlGridPlaceholder, res::kCtlGrid);
 
   const int kind = m_nReportType;
-  const results::ControlsShown shown = results::ControlsFor(kind);
-  if (shown.compact) {
-    // Statistics and information sheets are one narrow column: a smaller, taller window.
-    const QSize client = CDialog::sizeHint().expandedTo(minimumSize());
-    initialSize_ = QSize(static_cast<int>(client.width() * 0.65), static_cast<int>(client.height() * 1.2));
-    setMinimumSize(0, 0);
-    resize(initialSize_);
-    const QWidget* over = parentWidget() ? parentWidget()->window() : nullptr;
-    const QRect area = over ? over->geometry() : QGuiApplication::primaryScreen()->availableGeometry();
-    move(area.center() - QPoint(initialSize_.width() / 2, initialSize_.height() / 2));
-    RepositionButtons();
-  }
-  ShowDlgItem(res::kCtlResultsComboLabel, shown.label);
-  ShowDlgItem(res::kCtlResultsCombo, shown.combo);
-  ShowDlgItem(res::kCtlResultsShowSelected, shown.check);
-
-  if (auto* combo = Item<QComboBox>(res::kCtlResultsCombo)) {
-    combo->clear();
-    if (m_pStruct)
-      for (const std::string& entry : results::ComboEntries(*m_pStruct, kind))
-        combo->addItem(QString::fromStdString(entry));
-  }
+  // Statistics and information sheets are one narrow column: a smaller, taller window.
+  if (results::ControlsFor(kind).compact) initialSize_ = frame::ResizeCentred(*this, 0.65, 1.2);
   if (results::ComboListOf(kind) != results::ComboList::Cases) {
     SetDlgItemText(res::kCtlResultsComboLabel, res::LoadStringOr(res::kStrResultsModeLabel, "Mode Shape:"));
     setWindowTitle(QString::fromStdString(results::ModeListTitleOf(kind)));
   }
-
-  m_bShowSelected = m_pStruct && m_pStruct->m_nShowSelected != 0;
-  UpdateData(0);
   m_nGridWidth = m_Spread.width();
-  if (!shown.compact) RepositionButtons();
+  frame::ButtonsFromTheLeft(*this, {res::kCtlPrint, res::kCtlSave, IDCANCEL});
   Refresh();
   return 1;
 }
@@ -87,21 +72,24 @@ BOOL CResultsDlg::OnInitDialog() {
 results::ReportContext CResultsDlg::Context() {
   static const CfmStruct kNoModel;
   return results::ReportContext{m_Spread.sheet(), m_pStruct ? *m_pStruct : kNoModel, m_nReportType, m_nQueryId,
-                                m_crAlternateRowColor};
+                                m_crAlternateRowColor, &messages_};
 }
 
 void CResultsDlg::Refresh() {
   if (!UpdateData(1)) return;
   TSpread::RedrawGuard guard(m_Spread);
   results::ResetReportGrid(Context());
-  // The information sheets do not depend on a case: they show for a model without any.
-  const bool needsCase = m_nReportType < 29 || m_nReportType > 32;
-  if (!m_pStruct || (needsCase && m_nCombination == -1)) return;
+  // The statistics and information sheets do not depend on a case: they show for a model
+  // without any.
+  if (!m_pStruct || (!results::NeedsNoCase(m_nReportType) && m_nCombination == -1)) return;
   try {
     const std::string title =
         results::ReportTitle(m_nReportType, m_pStruct->GetCaseName(m_nCombination), m_nCombination + 1);
     if (!title.empty()) setWindowTitle(QString::fromStdString(title));
+    messages_.clear();
     BuildReport();
+    // A report that refuses says why; the grid stays empty and the dialog open.
+    for (const std::string& message : messages_) MessageBox(message);
   } catch (const fmException& e) {
     MessageBox(e.GetMessage());
     EndDialog(IDCANCEL);
@@ -135,32 +123,10 @@ void CResultsDlg::resizeEvent(QResizeEvent* event) {
 }
 
 void CResultsDlg::OnSize() {
-  QLayout* outer = layout();
-  if (!outer) return;
-  // The grid fills the window above the buttons, half a scroll arrow's height away from them;
-  // it is not repainted while it changes size.
+  // The grid fills the window above the buttons; it is not repainted while it changes size.
   m_Spread.setUpdatesEnabled(false);
-  outer->setSpacing(style()->pixelMetric(QStyle::PM_ScrollBarExtent) / 2);
-  outer->activate();
+  frame::SpaceButtonsFromBody(*this);
   m_Spread.setUpdatesEnabled(true);
-}
-
-void CResultsDlg::RepositionButtons() {
-  QWidget* print = GetDlgItem(res::kCtlPrint);
-  QWidget* save = GetDlgItem(res::kCtlSave);
-  QWidget* close = GetDlgItem(IDCANCEL);
-  if (!print || !save || !close) return;
-  QBoxLayout* row = BoxLayoutOf(layout(), print);
-  if (!row) return;
-  // "Print..." at the bottom left, each next button 1.1 button widths further right, the row
-  // raised by 1.2 button heights from the bottom edge.
-  const QSize button = print->sizeHint().expandedTo(save->sizeHint()).expandedTo(close->sizeHint());
-  for (QWidget* w : {print, save, close}) w->setFixedWidth(button.width());
-  for (int i = row->count() - 1; i >= 0; --i)
-    if (row->itemAt(i)->spacerItem()) delete row->takeAt(i);
-  row->setSpacing(static_cast<int>(button.width() * 0.1 + 0.5));
-  row->addStretch(1);
-  row->setContentsMargins(0, 0, 0, static_cast<int>(button.height() * 0.2 + 0.5));
 }
 
 void CResultsDlg::Node_Displacements(const std::vector<fmResult6Val>& displacements) {

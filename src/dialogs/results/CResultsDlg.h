@@ -16,6 +16,7 @@
 class CResultsDlg : public CDialog {
  public:
   explicit CResultsDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CResultsDlg>& Description();
   ~CResultsDlg() override;
 
   int32_t m_nReportType = -1;    // the report kind; -1: none
@@ -52,7 +53,6 @@ class CResultsDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   void resizeEvent(QResizeEvent* event) override;
 
   void OnSelchangeComboCombination();
@@ -60,7 +60,6 @@ class CResultsDlg : public CDialog {
   void OnPrint();
   void OnBnClickedSave();
   void OnSize();
-  void RepositionButtons();
 
  private:
   results::ReportContext Context();
@@ -69,5 +68,6 @@ class CResultsDlg : public CDialog {
 
   TSpread m_Spread;
   QIcon m_hIcon;
+  std::vector<std::string> messages_;  // what the last report had to tell the user
   QSize initialSize_;  // the smaller window of the statistics and information sheets
 };

@@ -5,6 +5,7 @@
 
 #include "dialogs/grid/grid_ops.h"
 #include "dialogs/results/display_format.h"
+#include "tools/fm_exception.h"
 #include "tools/format.h"
 #include "tools/labels.h"
 
@@ -92,30 +93,22 @@ std::string MaterialName(const CfmStruct& m, int32_t reference) {
   return mat ? mat->label : "None";
 }
 
-// Loads of one object grouped by load case, cases in the model's order; loads naming a case
-// the model does not have follow in their own order. "  None" without any.
-template <class Load, class Write>
-void LoadSection(Lines& s, const std::vector<Load>& loads, Write write) {
-  if (loads.empty()) {
-    s.Add("  None");
-    return;
-  }
-  std::vector<bool> done(loads.size(), false);
-  auto group = [&](const std::string& name, auto matches) {
-    bool headed = false;
-    for (size_t i = 0; i < loads.size(); ++i) {
-      if (done[i] || !matches(loads[i])) continue;
-      if (!headed) s.Add(tools::Format("*load case [%s]", name.c_str()));
-      headed = true;
-      done[i] = true;
-      write(loads[i]);
-    }
-  };
+// The loads of one object, case by case in the model's order under "*load case [%s]";
+// "  None" when no case has one. `list` picks the kind from a case's loads.
+template <class List, class Mine, class Write>
+void LoadSection(Lines& s, List list, Mine mine, Write write) {
   const CfmStruct& m = s.model();
-  for (int c = 0; c < m.GetNumLoadCases(); ++c)
-    group(m.GetCaseName(c), [&](const Load& l) { return tools::LabelsEqual(l.caseName, m.GetCaseName(c)); });
-  for (size_t i = 0; i < loads.size(); ++i)
-    if (!done[i]) group(loads[i].caseName, [&](const Load& l) { return tools::LabelsEqual(l.caseName, loads[i].caseName); });
+  bool any = false;
+  for (size_t c = 0; c < m.m_CaseLoads.size() && c < m.m_LoadCases.size(); ++c) {
+    bool headed = false;
+    for (const auto& load : list(m.m_CaseLoads[c])) {
+      if (!mine(load)) continue;
+      if (!headed) s.Add(tools::Format("*load case [%s]", m.m_LoadCases[c].name.c_str()));
+      headed = any = true;
+      write(load);
+    }
+  }
+  if (!any) s.Add("  None");
 }
 
 template <class Record, class Key>
@@ -143,14 +136,93 @@ void ResultSection(Lines& s, long id, const char* word, size_t guess,
   }
 }
 
-// Results this version does not hold for elements (member forces, shell forces, brick
-// stresses): each case names the object as not found.
-void MissingResultSection(Lines& s, long id, const char* word) {
+// Per load case or combination, the element's result lines, or the error line when the
+// case has no record of it (or its results cannot be formed).
+template <class Record, class Find, class Write>
+void ElementSection(Lines& s, long id, const char* word, Find find, Write write) {
   const CfmStruct& m = s.model();
   if (m.GetNumLoadCases() == 0) s.Add("  None");
+  fmCaseResults scratch;
   for (int c = 0; c < m.GetNumLoadCases(); ++c) {
     s.Add(tools::Format("*Load Combination [%s]", m.GetCaseName(c).c_str()));
-    s.Add(ErrorFinding(word, id));
+    const Record* record = nullptr;
+    try {
+      if (m.GetCaseResults(c)) record = find(m.GetElementResults(c, scratch));
+    } catch (const fmException&) {
+      record = nullptr;
+    }
+    if (record)
+      write(*record);
+    else
+      s.Add(ErrorFinding(word, id));
+  }
+}
+
+template <class Record>
+const Record* ById(const std::vector<Record>& records, long id) {
+  for (const Record& r : records)
+    if (r.number == id) return &r;
+  return nullptr;
+}
+
+void MemberResultLines(Lines& s, const fmBmVMD& b) {
+  const CfmStruct& m = s.model();
+  const double f = m.ResultFactor(fmUnit::Force), mm = m.ResultFactor(fmUnit::Moment);
+  const double d = m.ResultFactor(fmUnit::Displacement), l = m.ResultFactor(fmUnit::Length);
+  if (b.m_VMD.empty()) return;
+  const char* ends[2] = {"  @Start: Fx = %%.%d%c;  Fy = %%.%d%c;  Fz = %%.%d%c (%s)",
+                         "  @End: Fx = %%.%d%c;  Fy = %%.%d%c;  Fz = %%.%d%c (%s)"};
+  const fmBmStation* stations[2] = {&b.m_VMD.front(), &b.m_VMD.back()};
+  for (int e = 0; e < 2; ++e) {
+    const auto& v = stations[e]->force;
+    s.Values(ends[e], fmUnit::Force, s.Label(fmUnit::Force), v[0] * f, v[1] * f, v[2] * f);
+    s.Values("        Mx = %%.%d%c;  My = %%.%d%c;  Mz = %%.%d%c (%s)", fmUnit::Moment, s.Label(fmUnit::Moment),
+             v[3] * mm, v[4] * mm, v[5] * mm);
+  }
+  // The largest moment and deflection by size, shown with their signs.
+  const fmBmStation* maxMz = stations[0];
+  const fmBmStation* maxDy = stations[0];
+  for (const fmBmStation& st : b.m_VMD) {
+    if (std::fabs(st.force[5]) > std::fabs(maxMz->force[5])) maxMz = &st;
+    if (std::fabs(st.Dy) > std::fabs(maxDy->Dy)) maxDy = &st;
+  }
+  const std::string& length = s.Label(fmUnit::Length);
+  // One value in its display format, then the distance with three decimals.
+  auto at = [&](const char* pattern, Q q, double value, double distance) {
+    const DisplayFormatSpec display = GetDisplayFormat(m.DisplayFormat(q));
+    const std::string format = tools::Format(pattern, display.precision, display.letter, s.Label(q).c_str());
+    s.Add(tools::Format(format.c_str(), value, distance, length.c_str()));
+  };
+  at("  Max Mz = %%.%d%c (%s) @ Distance = %%.3f (%%s)", fmUnit::Moment, maxMz->force[5] * mm, maxMz->distance * l);
+  at("  Absolute Max Dy = %%.%d%c (%s) @ Distance = %%.3f (%%s)", fmUnit::Displacement, maxDy->Dy * d,
+     maxDy->distance * l);
+}
+
+void ShellResultLines(Lines& s, const fmShellForce& r) {
+  const CfmStruct& m = s.model();
+  const double f = m.ResultFactor(fmUnit::LinearForce), mm = m.ResultFactor(fmUnit::LinearMoment);
+  // The nodes, then the centre (point 0).
+  for (size_t p : {1, 2, 3, 4, 0}) {
+    s.Add(p == 0 ? std::string("  @Center") : tools::Format("  @Node-%d", static_cast<int>(p)));
+    const auto& v = r.point[p];
+    s.Values("  Fxx = %%.%d%c;  Fyy = %%.%d%c;  Fxy = %%.%d%c (%s)", fmUnit::LinearForce, s.Label(fmUnit::LinearForce),
+             v[0] * f, v[1] * f, v[2] * f);
+    s.Values("  Mxx = %%.%d%c;  Myy = %%.%d%c;  Mxy = %%.%d%c (%s)", fmUnit::LinearMoment,
+             s.Label(fmUnit::LinearMoment), v[3] * mm, v[4] * mm, v[5] * mm);
+    s.Values("  Vxx = %%.%d%c;  Vyy = %%.%d%c (%s)", fmUnit::LinearForce, s.Label(fmUnit::LinearForce), v[6] * f,
+             v[7] * f);
+  }
+}
+
+void BrickResultLines(Lines& s, const fmBrickStress& r) {
+  const double f = s.model().ResultFactor(fmUnit::Stress);
+  for (size_t p : {1, 2, 3, 4, 5, 6, 7, 8, 0}) {
+    s.Add(p == 0 ? std::string("  @Center") : tools::Format("  @Node-%d", static_cast<int>(p)));
+    const auto& v = r.point[p];
+    s.Values("  Sx = %%.%d%c;  Sy = %%.%d%c;  Sz = %%.%d%c (%s)", fmUnit::Stress, s.Label(fmUnit::Stress), v[0] * f,
+             v[1] * f, v[2] * f);
+    s.Values("  Sxy = %%.%d%c;  Syz = %%.%d%c;  Sxz = %%.%d%c (%s)", fmUnit::Stress, s.Label(fmUnit::Stress),
+             v[3] * f, v[4] * f, v[5] * f);
   }
 }
 
@@ -215,13 +287,16 @@ void AxisLines(Lines& s, const std::array<Vec3, 3>& axes) {
                         clean(axes[i][2])));
 }
 
-void ThermalSection(Lines& s, const std::vector<CfmStruct::ThermalLoad>& all, long id) {
+void ThermalSection(Lines& s, std::vector<fmThermalLoad> fmCaseLoad::*kind, long id) {
   const std::string unit = s.Label(fmUnit::Temperature);
-  LoadSection(s, Of(all, [](const CfmStruct::ThermalLoad& l) { return l.element; }, id),
-              [&](const CfmStruct::ThermalLoad& l) {
-                s.Add(tools::Format("  Magnitude = %.3f (%s)", l.magnitude, unit.c_str()));
-              });
+  LoadSection(
+      s, [&](const fmCaseLoad& cl) -> const std::vector<fmThermalLoad>& { return cl.*kind; },
+      [&](const fmThermalLoad& l) { return l.element == id; },
+      [&](const fmThermalLoad& l) { s.Add(tools::Format("  Magnitude = %.3f (%s)", l.temperature, unit.c_str())); });
 }
+
+// Standard gravity in the model's length unit per second squared: a weight over it is a mass.
+double Gravity(const fmUnit& units) { return 386.08858267716535 / units.Factor(fmUnit::Length); }
 
 }  // namespace
 
@@ -233,85 +308,82 @@ bool GetNodeInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) {
     return false;
   }
   const size_t guess = static_cast<size_t>(node - m.m_Nodes.data());
-  const fmSolution& sol = m.m_Solution;
   const double disp = m.ResultFactor(fmUnit::Displacement), rot = m.ResultFactor(fmUnit::Rotation);
 
   s.Add("**COORDINATES");
   s.Values("  x = %%.%d%c;  y = %%.%d%c;  z = %%.%d%c (%s)", fmUnit::Length, s.Label(fmUnit::Length), node->x, node->y,
            node->z);
 
+  // The model's own records, in its units: shown as they are.
   s.Add("**SUPPORT");
-  const auto supports = Of(sol.supports, [](const fmSolution::Support& r) { return r.node; }, id);
+  const auto supports = Of(m.m_Supports, [](const fmSupport& r) { return r.node; }, id);
   if (supports.empty()) s.Add("  None");
-  for (const auto& r : supports) {
-    s.Add(tools::Format("  Flag: %s", r.flag.c_str()));
+  for (const fmSupport& r : supports) {
+    const auto& d = r.displacement;
+    s.Add(tools::Format("  Flag: %s", r.RestraintText().c_str()));
     s.Values("  Dx = %%.%d%c;  Dy = %%.%d%c;  Dz = %%.%d%c (%s)", fmUnit::Displacement, s.Label(fmUnit::Displacement),
-             r.value[0] * disp, r.value[1] * disp, r.value[2] * disp);
+             d[0], d[1], d[2]);
     // Prescribed rotations always with three decimals.
-    s.Add(tools::Format("  Dox = %.3f;  Doy = %.3f;  Doz = %.3f (%s)", r.value[3] * rot, r.value[4] * rot,
-                        r.value[5] * rot, s.Label(fmUnit::Rotation).c_str()));
+    s.Add(tools::Format("  Dox = %.3f;  Doy = %.3f;  Doz = %.3f (%s)", d[3], d[4], d[5],
+                        s.Label(fmUnit::Rotation).c_str()));
   }
 
   s.Add("**NODAL SPRING");
-  const auto springs = Of(sol.nodalSprings, [](const fmSolution::NodalSpring& r) { return r.node; }, id);
+  const auto springs = Of(m.m_NodalSprings, [](const fmNodalSpring& r) { return r.node; }, id);
   if (springs.empty()) s.Add("  None");
-  const double kt = m.ResultFactor(fmUnit::NodeSpring), kr = m.ResultFactor(fmUnit::NodeRotationalSpring);
-  for (const auto& r : springs) {
-    s.Add(tools::Format("  Flag: %s", r.flag.c_str()));
+  for (const fmNodalSpring& r : springs) {
+    s.Add(tools::Format("  Flag: %s", r.Flag().c_str()));
     s.Values("  Kx = %%.%d%c;  Ky = %%.%d%c;  Kz = %%.%d%c (%s)", fmUnit::NodeSpring, s.Label(fmUnit::NodeSpring),
-             r.k[0] * kt, r.k[1] * kt, r.k[2] * kt);
+             r.k[0], r.k[1], r.k[2]);
     s.Values("  Kox = %%.%d%c;  Koy = %%.%d%c;  Koz = %%.%d%c (%s)", fmUnit::NodeRotationalSpring,
-             s.Label(fmUnit::NodeRotationalSpring), r.k[3] * kr, r.k[4] * kr, r.k[5] * kr);
+             s.Label(fmUnit::NodeRotationalSpring), r.k[3], r.k[4], r.k[5]);
   }
 
   s.Add("**NODAL COUPLED SPRING");
-  const auto coupled = Of(sol.coupledSprings, [](const fmSolution::CoupledSpring& r) { return r.node; }, id);
+  const auto coupled = Of(m.m_CoupledSprings, [](const fmCoupledSpring& r) { return r.node; }, id);
   if (coupled.empty()) s.Add("  None");
   // Terms coupling a translation with a rotation are forces per radian.
-  const double kc = m.ResultFactor(fmUnit::Force);
   const std::string couplingUnit = s.Label(fmUnit::Force) + "/rad";
-  for (const auto& r : coupled) {
+  for (const fmCoupledSpring& r : coupled) {
     const auto& k = r.k;  // upper triangle, row by row
     const std::string& t = s.Label(fmUnit::NodeSpring);
     const std::string& o = s.Label(fmUnit::NodeRotationalSpring);
-    s.Values("  Kx_Kx = %%.%d%c;  Kx_Ky = %%.%d%c;  Kx_Kz = %%.%d%c; (%s)", fmUnit::NodeSpring, t, k[0] * kt,
-             k[1] * kt, k[2] * kt);
-    s.Values("  Ky_Ky = %%.%d%c;  Ky_Kz = %%.%d%c;  Kz_Kz = %%.%d%c (%s)", fmUnit::NodeSpring, t, k[6] * kt,
-             k[7] * kt, k[11] * kt);
-    s.Values("  Kx_Kox = %%.%d%c;  Kx_Koy = %%.%d%c;  Kx_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit,
-             k[3] * kc, k[4] * kc, k[5] * kc);
-    s.Values("  Ky_Kox = %%.%d%c;  Ky_Koy = %%.%d%c;  Ky_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit,
-             k[8] * kc, k[9] * kc, k[10] * kc);
-    s.Values("  Kz_Kox = %%.%d%c;  Kz_Koy = %%.%d%c;  Kz_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit,
-             k[12] * kc, k[13] * kc, k[14] * kc);
+    s.Values("  Kx_Kx = %%.%d%c;  Kx_Ky = %%.%d%c;  Kx_Kz = %%.%d%c; (%s)", fmUnit::NodeSpring, t, k[0], k[1], k[2]);
+    s.Values("  Ky_Ky = %%.%d%c;  Ky_Kz = %%.%d%c;  Kz_Kz = %%.%d%c (%s)", fmUnit::NodeSpring, t, k[6], k[7], k[11]);
+    s.Values("  Kx_Kox = %%.%d%c;  Kx_Koy = %%.%d%c;  Kx_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit, k[3],
+             k[4], k[5]);
+    s.Values("  Ky_Kox = %%.%d%c;  Ky_Koy = %%.%d%c;  Ky_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit, k[8],
+             k[9], k[10]);
+    s.Values("  Kz_Kox = %%.%d%c;  Kz_Koy = %%.%d%c;  Kz_Koz = %%.%d%c (%s)", fmUnit::NodeSpring, couplingUnit, k[12],
+             k[13], k[14]);
     s.Values("  Kox_Kox = %%.%d%c;  Kox_Koy = %%.%d%c;  Kox_Koz = %%.%d%c; (%s)", fmUnit::NodeRotationalSpring, o,
-             k[15] * kr, k[16] * kr, k[17] * kr);
+             k[15], k[16], k[17]);
     s.Values("  Koy_Koy = %%.%d%c;  Koy_Koz = %%.%d%c;  Koz_Koz = %%.%d%c (%s)", fmUnit::NodeRotationalSpring, o,
-             k[18] * kr, k[19] * kr, k[20] * kr);
+             k[18], k[19], k[20]);
   }
 
+  // Loads and masses are in the model's units, which the sheets show.
   s.Add("**NODAL LOADS");
-  const double force = m.ResultFactor(fmUnit::Force), moment = m.ResultFactor(fmUnit::Moment);
-  LoadSection(s, Of(sol.nodalLoads, [](const fmSolution::NodalLoad& r) { return r.node; }, id),
-              [&](const fmSolution::NodalLoad& l) {
-                const bool isMoment = l.direction >= 3;
-                const Q q = isMoment ? fmUnit::Moment : fmUnit::Force;
-                s.DirectionAndMagnitude(DirectionName(l.direction), q, s.Label(q),
-                                        l.magnitude * (isMoment ? moment : force));
-              });
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmNodalLoad>& { return cl.nodal; },
+      [&](const fmNodalLoad& l) { return l.node == id; },
+      [&](const fmNodalLoad& l) {
+        const Q q = l.direction >= 3 ? fmUnit::Moment : fmUnit::Force;
+        s.DirectionAndMagnitude(DirectionName(l.direction), q, s.Label(q), l.magnitude);
+      });
 
+  // The tables give a mass as its weight (times length squared for a rotational mass).
   s.Add("**ADDITIONAL NODAL MASS");
-  const auto masses = Of(sol.nodalMasses, [](const fmSolution::NodalMass& r) { return r.node; }, id);
-  if (masses.empty()) s.Add("  None");
-  const double length = m.ResultFactor(fmUnit::Length);
-  for (const auto& r : masses) {
-    const bool rotational = r.direction >= 3;
-    const std::string unit =
-        tools::Format(rotational ? "%s-sec^2-%s" : "%s-sec^2/%s", s.Label(fmUnit::Force).c_str(),
-                      s.Label(fmUnit::Length).c_str());
-    const double factor = rotational ? force * length : force / length;
-    s.DirectionAndMagnitude(DirectionName(r.direction), fmUnit::Force, unit, r.magnitude * factor);
-  }
+  const double g = Gravity(m.m_Units);
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmNodalMass>& { return cl.nodalMasses; },
+      [&](const fmNodalMass& r) { return r.node == id; },
+      [&](const fmNodalMass& r) {
+        const bool rotational = r.direction >= 3;
+        const std::string unit = tools::Format(rotational ? "%s-sec^2-%s" : "%s-sec^2/%s",
+                                               s.Label(fmUnit::Force).c_str(), s.Label(fmUnit::Length).c_str());
+        s.DirectionAndMagnitude(DirectionName(r.direction), fmUnit::Force, unit, r.weight / g);
+      });
 
   s.Add("**DISPLACEMENTS");
   ResultSection(s, id, "node", guess, &fmCaseResults::displacements, [&](const fmResult6Val& r) {
@@ -382,44 +454,48 @@ bool GetBeamInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) {
   s.Add(tools::Format("  Steel Design Exclusion: %s", YesNo(member->steelExcluded)));
 
   s.Add("**LINE SPRING");
-  const auto springs = Of(m.m_LineSprings, [](const CfmStruct::LineSpring& r) { return r.member; }, id);
+  const auto springs = Of(m.m_LineSprings, [](const fmLineSpring& r) { return r.member; }, id);
   if (springs.empty()) s.Add("  None");
-  for (const auto& r : springs) {
-    s.Add(tools::Format("  Flag: %s", r.flag.c_str()));
+  for (const fmLineSpring& r : springs) {
+    s.Add(tools::Format("  Flag: %s", r.Flag().c_str()));
     s.Values("  Kx = %%.%d%c;  Ky = %%.%d%c;  Kz = %%.%d%c (%s)", fmUnit::LineSpring, s.Label(fmUnit::LineSpring),
              r.k[0], r.k[1], r.k[2]);
   }
 
   const std::string& length = s.Label(fmUnit::Length);
+  // Positions are kept as ratios of the member's length; the sheet gives distances.
+  const double memberLength = a && b ? std::sqrt(Dot(Minus(At(*b), At(*a)), Minus(At(*b), At(*a)))) : 0.0;
   s.Add("**POINT LOADS");
-  LoadSection(s, Of(m.m_PointLoads, [](const CfmStruct::PointLoad& l) { return l.member; }, id),
-              [&](const CfmStruct::PointLoad& l) {
-                const Q q = l.direction >= 3 ? fmUnit::Moment : fmUnit::Force;
-                s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction),
-                                    l.local ? "local" : "global"));
-                const DisplayFormatSpec f = GetDisplayFormat(m.DisplayFormat(q));
-                const std::string format = tools::Format("  Magnitude = %%.%d%c (%s);  Distance = %%.3f (%%s)",
-                                                         f.precision, f.letter, s.Label(q).c_str());
-                s.Add(tools::Format(format.c_str(), l.magnitude, l.distance, length.c_str()));
-              });
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmPtLoad>& { return cl.point; },
+      [&](const fmPtLoad& l) { return l.member == id; },
+      [&](const fmPtLoad& l) {
+        const Q q = l.direction >= 3 ? fmUnit::Moment : fmUnit::Force;
+        s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction), l.local ? "local" : "global"));
+        const DisplayFormatSpec f = GetDisplayFormat(m.DisplayFormat(q));
+        const std::string format = tools::Format("  Magnitude = %%.%d%c (%s);  Distance = %%.3f (%%s)", f.precision,
+                                                 f.letter, s.Label(q).c_str());
+        s.Add(tools::Format(format.c_str(), l.magnitude, l.ratio * memberLength, length.c_str()));
+      });
 
   s.Add("**LINE LOADS");
-  LoadSection(s, Of(m.m_LineLoads, [](const CfmStruct::LineLoad& l) { return l.member; }, id),
-              [&](const CfmStruct::LineLoad& l) {
-                const Q q = l.direction >= 3 ? fmUnit::LinearMoment : fmUnit::LinearForce;
-                s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction),
-                                    l.local ? "local" : "global"));
-                s.Values("  Magnitude: Start = %%.%d%c;  End = %%.%d%c (%s)", q, s.Label(q), l.magnitude[0],
-                         l.magnitude[1]);
-                s.Add(tools::Format("  Distances: Start = %.3f;  End = %.3f (%s)", l.distance[0], l.distance[1],
-                                    length.c_str()));
-              });
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmLineLoad>& { return cl.line; },
+      [&](const fmLineLoad& l) { return l.member == id; },
+      [&](const fmLineLoad& l) {
+        const Q q = l.direction >= 3 ? fmUnit::LinearMoment : fmUnit::LinearForce;
+        s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction), l.local ? "local" : "global"));
+        s.Values("  Magnitude: Start = %%.%d%c;  End = %%.%d%c (%s)", q, s.Label(q), l.magnitude[0], l.magnitude[1]);
+        s.Add(tools::Format("  Distances: Start = %.3f;  End = %.3f (%s)", l.ratio[0] * memberLength,
+                            l.ratio[1] * memberLength, length.c_str()));
+      });
 
   s.Add("**Member Thermal Loads");
-  ThermalSection(s, m.m_MemberThermalLoads, id);
+  ThermalSection(s, &fmCaseLoad::memberThermal, id);
 
   s.Add("**INTERNAL FORCES AND MOMENTS");
-  MissingResultSection(s, id, "member");
+  ElementSection<fmBmVMD>(s, id, "member", [id](const fmCaseResults& r) { return ById(r.memberStations, id); },
+                          [&](const fmBmVMD& b) { MemberResultLines(s, b); });
 
   s.Add("**LINE SPRING REACTIONS");
   if (springs.empty() && !AnyRecord(m, id, &fmCaseResults::lineSpringReactions))
@@ -461,28 +537,29 @@ bool GetShell4Info(const CfmStruct& m, std::vector<std::string>& lines, long id)
   s.Add(tools::Format("  Concrete Design Exclusion: %s", YesNo(shell->rcExcluded)));
 
   s.Add("**SURFACE SPRING");
-  const auto springs = Of(m.m_SurfaceSprings, [](const CfmStruct::SurfaceSpring& r) { return r.shell; }, id);
+  const auto springs = Of(m.m_SurfaceSprings, [](const fmSurfaceSpring& r) { return r.shell; }, id);
   if (springs.empty()) s.Add("  None");
-  for (const auto& r : springs) {
-    s.Add(tools::Format("  Flag: %s", r.flag.c_str()));
+  for (const fmSurfaceSpring& r : springs) {
+    s.Add(tools::Format("  Flag: %s", r.Flag().c_str()));
     s.Values("  Kx = %%.%d%c;  Ky = %%.%d%c;  Kz = %%.%d%c (%s)", fmUnit::AreaSpring, s.Label(fmUnit::AreaSpring),
              r.k[0], r.k[1], r.k[2]);
   }
 
   s.Add("**SURFACE LOADS");
-  LoadSection(s, Of(m.m_SurfaceLoads, [](const CfmStruct::SurfaceLoad& l) { return l.shell; }, id),
-              [&](const CfmStruct::SurfaceLoad& l) {
-                s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction),
-                                    l.local ? "local" : "global"));
-                s.Values("  Magnitude = %%.%d%c (%s)", fmUnit::SurfaceForce, s.Label(fmUnit::SurfaceForce),
-                         l.magnitude);
-              });
+  LoadSection(
+      s, [](const fmCaseLoad& cl) -> const std::vector<fmSurfaceLoad>& { return cl.surface; },
+      [&](const fmSurfaceLoad& l) { return l.shell == id; },
+      [&](const fmSurfaceLoad& l) {
+        s.Add(tools::Format("  Direction = %s;  System = %s", DirectionName(l.direction), l.local ? "local" : "global"));
+        s.Values("  Magnitude = %%.%d%c (%s)", fmUnit::SurfaceForce, s.Label(fmUnit::SurfaceForce), l.magnitude);
+      });
 
   s.Add("**Shell4 Thermal Loads");
-  ThermalSection(s, m.m_ShellThermalLoads, id);
+  ThermalSection(s, &fmCaseLoad::shellThermal, id);
 
   s.Add("**INTERNAL FORCES AND MOMENTS");
-  MissingResultSection(s, id, "shell4");
+  ElementSection<fmShellForce>(s, id, "shell4", [id](const fmCaseResults& r) { return ById(r.shellForces, id); },
+                               [&](const fmShellForce& f) { ShellResultLines(s, f); });
 
   s.Add("**SURFACE SPRING REACTIONS");
   if (springs.empty() && !AnyRecord(m, id, &fmCaseResults::surfaceSpringReactions))
@@ -510,9 +587,10 @@ bool GetBrickInfo(const CfmStruct& m, std::vector<std::string>& lines, long id) 
   s.Add(tools::Format("  Self Weight: %s", SelfWeight(brick->flags)));
   s.Add(tools::Format("  Activation: %s", Activation(brick->flags)));
   s.Add("**Brick Thermal Loads");
-  ThermalSection(s, m.m_BrickThermalLoads, id);
+  ThermalSection(s, &fmCaseLoad::brickThermal, id);
   s.Add("**BRICK STRESSES");
-  MissingResultSection(s, id, "brick");
+  ElementSection<fmBrickStress>(s, id, "brick", [id](const fmCaseResults& r) { return ById(r.brickStresses, id); },
+                                [&](const fmBrickStress& b) { BrickResultLines(s, b); });
   return true;
 }
 

@@ -7,6 +7,7 @@
 
 #include "dialogs/grid/grid_ops.h"
 #include "dialogs/results/display_format.h"
+#include "dialogs/results/report_cells.h"
 #include "model/id_index.h"
 #include "tools/format.h"
 #include "tools/labels.h"
@@ -20,7 +21,7 @@ void ResetReportGrid(const ReportContext& ctx) {
 }
 
 std::vector<bool> EnvelopeLoadCombs(const CfmStruct& model) {
-  const auto& names = model.m_Solution.envelopeCombinations;
+  const auto& names = model.m_EnvelopeCombinations;
   std::vector<bool> marked(static_cast<size_t>(model.GetNumLoadCases()), false);
   for (size_t i = 0; i < marked.size(); ++i)
     marked[i] = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
@@ -29,50 +30,23 @@ std::vector<bool> EnvelopeLoadCombs(const CfmStruct& model) {
   return marked;
 }
 
-namespace {
-
-constexpr fmUnit::Quantity kDisplacement = fmUnit::Displacement;
-constexpr fmUnit::Quantity kRotation = fmUnit::Rotation;
-constexpr fmUnit::Quantity kForce = fmUnit::Force;
-constexpr fmUnit::Quantity kMoment = fmUnit::Moment;
-
-// One quantity as a report shows it: the factor into the display unit and the format index.
-struct Shown {
-  double factor;
-  int format;
-};
-
-Shown ShownAs(const CfmStruct& model, fmUnit::Quantity q) { return {model.ResultFactor(q), model.DisplayFormat(q)}; }
-
-// Writes cells without building a string per number: millions of cells go through here.
-class CellWriter {
- public:
-  explicit CellWriter(grid::Sheet& sheet) : sheet_(sheet) {}
-
-  void Text(int col, int row, std::string_view text) { sheet_.SetData(col, row, text); }
-  void Id(int col, int row, int64_t value) {
-    const auto [end, ec] = std::to_chars(buffer_, buffer_ + sizeof buffer_, value);
-    sheet_.SetData(col, row, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
-  }
-  // The value already in display units.
-  void Value(int col, int row, double value, int format) {
-    sheet_.SetData(col, row, std::string_view(buffer_, FormatDisplayTo(buffer_, value, format)));
-  }
-  void Value(int col, int row, double value, const Shown& s) { Value(col, row, value * s.factor, s.format); }
-
- private:
-  grid::Sheet& sheet_;
-  char buffer_[kDisplayBufferSize];
-};
-
-// Each report starts from a new grid: nothing of an earlier report (a red sum) stays.
 void SetUpGrid(const ReportContext& ctx, int rows, const std::vector<std::string>& headers, double width) {
   ctx.sheet = grid::Sheet();
   grid::InitializeGrid(ctx.sheet, ctx.alternateRowColor, rows, static_cast<int>(headers.size()), headers,
                        std::vector<double>(headers.size(), width), true);
 }
 
-bool ShowSelected(const ReportContext& ctx) { return ctx.model.m_nShowSelected != 0; }
+void CellWriter::Fixed3(int col, int row, double value) {
+  const auto [end, ec] = std::to_chars(buffer_, buffer_ + sizeof buffer_, value, std::chars_format::fixed, 3);
+  sheet_.SetNumber(col, row, value, std::string_view(buffer_, static_cast<size_t>(end - buffer_)));
+}
+
+namespace {
+
+constexpr fmUnit::Quantity kDisplacement = fmUnit::Displacement;
+constexpr fmUnit::Quantity kRotation = fmUnit::Rotation;
+constexpr fmUnit::Quantity kForce = fmUnit::Force;
+constexpr fmUnit::Quantity kMoment = fmUnit::Moment;
 
 // Every nodal report names a record it cannot match to a node of the model, and shows (and
 // sums) none of its values.
@@ -265,12 +239,12 @@ void Multi_DOF_Constraint_Forces(const ReportContext& ctx, int caseIndex) {
 
 void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<fmResult6Val>& displacements) {
   const CfmStruct& m = ctx.model;
-  const std::vector<int32_t>& driftNodes = m.m_Solution.driftNodes;
+  const std::vector<uint32_t>& driftNodes = m.m_DriftNodes;
   const bool nothing = driftNodes.empty() || displacements.empty();
   const bool selectedOnly = ShowSelected(ctx);
   const int rows = nothing        ? 0
                    : selectedOnly ? static_cast<int>(std::count_if(driftNodes.begin(), driftNodes.end(),
-                                                                   [&](int32_t id) { return m.IsNodeSelected(id); }))
+                                                                   [&](uint32_t id) { return m.IsNodeSelected(id); }))
                                   : static_cast<int>(driftNodes.size());
   const std::string length = m.m_Units.Label(fmUnit::Length);
   SetUpGrid(ctx, rows,
@@ -284,17 +258,19 @@ void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<
   index.Build(displacements, [](const fmResult6Val& r) { return static_cast<int64_t>(r.number); });
   const Shown d = ShownAs(m, kDisplacement);
   // The ratio of a drift to its story height, both in inches, whatever units they are shown in.
+  // The grid shows it as a percentage; a workbook gets the ratio itself, in a percent format.
   const double displacementSize = m.m_Units.Factor(kDisplacement);
   const double lengthSize = m.m_Units.Factor(fmUnit::Length);
-  auto ratio = [&](double drift, double height) {
-    return tools::Format("%.3f %%", drift * displacementSize / (height * lengthSize) * 100.0);
+  auto ratio = [&](int col, int row, double drift, double height) {
+    const double value = drift * displacementSize / (height * lengthSize);
+    ctx.sheet.SetNumber(col, row, value, tools::Format("%.3f %%", value * 100.0));
   };
 
   CellWriter out(ctx.sheet);
   // The base does not move.
   double belowY = m.BaseLevel(), belowDx = 0, belowDz = 0;
   int row = 0;
-  for (int32_t id : driftNodes) {
+  for (uint32_t id : driftNodes) {
     const bool shown = !selectedOnly || m.IsNodeSelected(id);
     if (shown) ++row;
     const fmNd* node = m.FindNode(id);
@@ -308,15 +284,15 @@ void Story_Drift(const ReportContext& ctx, int /*caseIndex*/, const std::vector<
     const double dx = r.v[0] * d.factor, dz = r.v[2] * d.factor;
     if (shown) {
       out.Id(1, row, id);
-      out.Text(2, row, tools::Format("%.3f", height));
+      out.Fixed3(2, row, height);
       out.Value(3, row, dx, d.format);
       out.Value(4, row, dx - belowDx, d.format);
       out.Value(6, row, dz, d.format);
       out.Value(7, row, dz - belowDz, d.format);
       // A drift node level with the one below has no story and no ratio.
       if (height != 0) {
-        out.Text(5, row, ratio(dx - belowDx, height));
-        out.Text(8, row, ratio(dz - belowDz, height));
+        ratio(5, row, dx - belowDx, height);
+        ratio(8, row, dz - belowDz, height);
       }
     }
     belowY = node->y;

@@ -1,4 +1,5 @@
 #pragma once
+#include <string>
 #include <vector>
 
 #include "dialogs/grid/sheet.h"
@@ -15,7 +16,14 @@ struct ReportContext {
   int reportType = -1;
   int queryId = 0;
   grid::Color alternateRowColor = 0xF0F5FF;
+  // Where a report that refuses to show (principal results of a response-spectrum
+  // combination) leaves its message for the user; ignored when null.
+  std::vector<std::string>* messages = nullptr;
 };
+
+inline void Tell(const ReportContext& ctx, std::string message) {
+  if (ctx.messages) ctx.messages->push_back(std::move(message));
+}
 
 // Back to no rows and one column with an empty heading; colours of an earlier report go.
 void ResetReportGrid(const ReportContext& ctx);

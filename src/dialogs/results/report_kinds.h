@@ -8,7 +8,60 @@
 // combo box lists, which controls they show, and the builder each one calls.
 namespace results {
 
-inline constexpr int kLastReportKind = 57;
+// The report kinds, by the number a host passes as m_nReportType. 8 to 11 have no report here.
+enum ReportKind : int {
+  kNodalDisplacements = 0,
+  kSupportReactions = 1,
+  kNodalSpringReactions = 2,
+  kCoupledSpringReactionsOfSprings = 3,
+  kLineSpringReactions = 4,
+  kSurfaceSpringReactions = 5,
+  kMemberEndResults = 6,
+  kMemberSegmentalResults = 7,
+  kShell4ForcesAndMoments = 12,
+  kShell4NodalResultants = 13,
+  kShell4PrincipalResults = 14,
+  kShell4StressesTop = 15,
+  kShell4StressesBottom = 16,
+  kShell4PrincipalStresses = 17,
+  kBrickStresses = 18,
+  kBrickPrincipalStresses = 19,
+  kEigenvalues = 20,
+  kEigenvectors = 21,
+  kMemberEnvelopeForConcrete = 22,
+  kWoodArmerMoments = 23,
+  kConcreteBeamDesign = 24,
+  kConcreteColumnDesign = 25,
+  kConcreteShearDesign = 26,
+  kConcretePlateDesign = 27,
+  kModelStatistics = 28,
+  kNodalInfo = 29,
+  kMemberInfo = 30,
+  kShellInfo = 31,
+  kBrickInfo = 32,
+  kStoryDrift = 33,
+  kModeParticipationFactors = 34,
+  kModalDisplacementsX = 35,  // then Y and Z
+  kInertialForcesX = 38,      // then Y and Z
+  kSpectrumNodalDisplacements = 41,
+  kSpectrumSupportReactions = 42,
+  kSpectrumNodalSpringReactions = 43,
+  kSpectrumCoupledSpringReactionsOfSprings = 44,
+  kSpectrumLineSpringReactions = 45,
+  kSpectrumSurfaceSpringReactions = 46,
+  kSpectrumMemberEndResults = 47,
+  kSpectrumMemberSegmentalResults = 48,
+  kSpectrumShell4ForcesAndMoments = 49,
+  kSpectrumBrickStresses = 50,
+  kMultiDofConstraintForces = 51,
+  kSpectrumMultiDofConstraintForces = 52,
+  kCoupledSpringReactions = 53,
+  kSpectrumCoupledSpringReactions = 54,
+  kNodalDisplacementsEnvelope = 55,
+  kSupportReactionsEnvelope = 56,
+  kMemberSegmentalEnvelope = 57,
+};
+inline constexpr int kLastReportKind = kMemberSegmentalEnvelope;
 
 // The window title of a kind with the case name or 1-based mode number filled in; empty for
 // kinds that have no report in this dialog (8 to 11, and anything outside 0 to 57).
@@ -31,6 +84,8 @@ struct ControlsShown {
   bool compact = false;  // the smaller window of the statistics and information sheets
 };
 ControlsShown ControlsFor(int kind);
+// The statistics and information sheets: they show for a model without any case.
+bool NeedsNoCase(int kind);
 
 // Reports that do not depend on one case: a change of the combo box leaves them alone.
 bool IgnoresComboChange(int kind);
@@ -40,8 +95,7 @@ bool IgnoresComboChange(int kind);
 enum class ComboUse { LoadCase, Mode, Nothing };
 ComboUse ComboUseOf(int kind);
 
-// Whether this version builds the report of a kind (the beam, shell, brick, modal and
-// concrete reports are not built yet).
+// Whether this version builds the report of a kind: every kind of 0 to 57 but 8 to 11.
 bool IsReportBuilt(int kind);
 
 // Fills the grid with the report of ctx.reportType for the combo choice (a case or mode

@@ -39,7 +39,7 @@ const frame::Form<CUnitConversionDlg>& CUnitConversionDlg::Description() {
     for (const auto& type : tools::ConversionTypes()) names.emplace_back(type.name);
     return names;
   };
-  static const frame::Form<D> form({kIddUnitConversion, "Unit Conversion", 1518, 340, 0, 0, frame::FormFrame::Buttons::Close},
+  static const frame::Form<D> form({kIddUnitConversion, "Unit Conversion", kStrUnitConversionCaption, 340, 0, 0, frame::FormFrame::Buttons::Close},
                                    {
                                        F::DropIndex("Unit type:", &D::m_nUnitType).Id(kCtlConvType).Items(typeNames),
                                        F::Real("Value:", &D::m_dFromValue).Id(kCtlConvValue),

@@ -1,4 +1,6 @@
 #pragma once
+#include <functional>
+
 #include "dialogs/frame/CDialog.h"
 #include "tools/fm_unit.h"
 
@@ -7,6 +9,7 @@
 class CUnitsDlg : public CDialog {
  public:
   explicit CUnitsDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CUnitsDlg>& Description();
 
   fmUnit m_Units;             // set by the host before DoModal, read back after IDOK
   BOOL m_bModelLocked = 0;
@@ -14,8 +17,6 @@ class CUnitsDlg : public CDialog {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
-  void OnOK() override;
 
   void OnCheckAll();
   void OnClearAll();
@@ -25,7 +26,5 @@ class CUnitsDlg : public CDialog {
   void OnConsistentMetric();
 
  private:
-  void SetAllChecks(bool checked);
-  // Selects every unit and precision list from m_Units.
-  void SelectLists();
+  void Apply(const std::function<void(fmUnit&)>& change);
 };

@@ -5,6 +5,7 @@
 #include "apps/host/DialogBindings.h"
 #include "apps/host/DialogRunner.h"
 #include "dialogs/design/CComputeKDlg.h"
+#include "dialogs/frame/Form.h"
 #include "resources/design_ids.h"
 #include "support/DialogTest.h"
 
@@ -17,8 +18,8 @@ class KFactorHostTest : public DialogTest {
     auto dlg = CreateBoundDialog("CComputeKDlg", model, nullptr);
     EXPECT_TRUE(dlg);
     dlg->InitDialogForTest();
-    dlg->Item<QLineEdit>(res::kCtlGA)->setText(ga);
-    dlg->Item<QLineEdit>(res::kCtlGB)->setText(gb);
+    dlg->Item<QLineEdit>(frame::IdOf(&CComputeKDlg::m_dGA))->setText(ga);
+    dlg->Item<QLineEdit>(frame::IdOf(&CComputeKDlg::m_dGB))->setText(gb);
     dlg->PressButton(res::kCtlCompute);
     QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);  // the dialog's OK
     QApplication::sendEvent(dlg.get(), &enter);

@@ -3,7 +3,9 @@
 
 #include "apps/host/DialogBindings.h"
 #include "apps/host/DialogRunner.h"
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/CLoadCaseDlg.h"
+#include "dialogs/loads/CLoadComboItemDlg.h"
 #include "resources/loads_ids.h"
 #include "support/DialogTest.h"
 
@@ -42,8 +44,8 @@ TEST_F(LoadsHostTest, TablesWriteTheDocumentOnOk) {
   EXPECT_EQ(model.doc.loadCases[6].number, -1);
 
   EXPECT_TRUE(Run("CLoadComboItemDlg", IDOK, [&](CDialog& d) {  // alone, it edits the first combination
-    EXPECT_EQ(d.GetDlgItemText(res::kCtlItemLabel), model.doc.loadCombs.front().name);
-    d.Item<QLineEdit>(res::kCtlItemLabel)->setText("Dead alone");
+    EXPECT_EQ(d.GetDlgItemText(frame::IdOf(&CLoadComboItemDlg::m_strLabel)), model.doc.loadCombs.front().name);
+    d.Item<QLineEdit>(frame::IdOf(&CLoadComboItemDlg::m_strLabel))->setText("Dead alone");
   }));
   EXPECT_EQ(model.doc.loadCombs.front().name, "Dead alone");
   EXPECT_EQ(model.doc.loadCombs.front().items, (std::vector<fmLoadCombItem>{{"Dead", 1.0}}));

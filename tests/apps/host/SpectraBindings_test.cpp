@@ -2,6 +2,8 @@
 #include <QLineEdit>
 
 #include "apps/host/DialogRunner.h"
+#include "dialogs/frame/Form.h"
+#include "dialogs/loads/CGenerateResponseSpectrumDlg.h"
 #include "dialogs/loads/CResponseSpectrumDataDlg.h"
 #include "dialogs/loads/SpectraDialogTest.h"
 #include "resources/spectra_ids.h"
@@ -9,6 +11,10 @@
 using namespace res;
 
 namespace {
+
+// The generator's controls, found by the members they show.
+using Gen = CGenerateResponseSpectrumDlg;
+const int kCtlSpecCode = frame::IdOf(&Gen::m_nCode);
 
 class SpectraHostTest : public SpectraDialogTest {
  protected:

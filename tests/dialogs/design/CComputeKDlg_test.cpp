@@ -6,6 +6,7 @@
 #include <QLineEdit>
 
 #include "dialogs/design/KFactorChart.h"
+#include "dialogs/frame/Form.h"
 #include "resources/design_ids.h"
 #include "support/DialogTest.h"
 
@@ -22,8 +23,8 @@ class ComputeKTest : public DialogTest {
   }
   void Compute(const char* ga, const char* gb) {
     prompter.Clear();
-    dlg.Item<QLineEdit>(kCtlGA)->setText(ga);
-    dlg.Item<QLineEdit>(kCtlGB)->setText(gb);
+    dlg.Item<QLineEdit>(frame::IdOf(&CComputeKDlg::m_dGA))->setText(ga);
+    dlg.Item<QLineEdit>(frame::IdOf(&CComputeKDlg::m_dGB))->setText(gb);
     ASSERT_TRUE(dlg.PressButton(kCtlCompute));
   }
   std::string Text(int id) const { return dlg.GetDlgItemText(id); }
@@ -97,10 +98,10 @@ TEST_F(ComputeKTest, EditingClearsTheResultsAndBadRatiosAreRefused) {
       {"", "1", "Please enter a number."},
   };
   Compute("0.47", "0.47");
-  dlg.Item<QLineEdit>(kCtlGA)->setText("0.470");  // the same number: still computed
+  dlg.Item<QLineEdit>(frame::IdOf(&CComputeKDlg::m_dGA))->setText("0.470");  // the same number: still computed
   EXPECT_EQ(Text(kCtlBracedK), "0.68");
   EXPECT_TRUE(dlg.Chart()->RootMarker(FrameKind::Braced));
-  dlg.Item<QLineEdit>(kCtlGA)->setText("2");
+  dlg.Item<QLineEdit>(frame::IdOf(&CComputeKDlg::m_dGA))->setText("2");
   EXPECT_EQ(Text(kCtlBracedK), "1.00");
   EXPECT_FALSE(dlg.Chart()->RootMarker(FrameKind::Braced));
   for (const auto& c : refused) {

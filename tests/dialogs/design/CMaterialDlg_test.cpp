@@ -5,7 +5,9 @@
 
 #include "dialogs/design/CMaterialStrengthDlg.h"
 #include "dialogs/design/SectionsDialogTest.h"
+#include "dialogs/design/CStandardMaterialDlg.h"
 #include "dialogs/design/material_grid.h"
+#include "dialogs/frame/Form.h"
 #include "resources/grid_ids.h"
 #include "resources/sections_ids.h"
 
@@ -33,8 +35,8 @@ class MaterialDialogTest : public SectionsDialogTest {
   // Picks a standard material and a unit density, then OK.
   std::function<void(CDialog&)> Choose(int index, const char* density) {
     return [index, density](CDialog& d) {
-      d.ChooseItem(res::kCtlStdMaterial, index);
-      if (density) d.Item<QLineEdit>(res::kCtlStdDensity)->setText(density);
+      d.ChooseItem(frame::IdOf(&CStandardMaterialDlg::m_nMaterial), index);
+      if (density) d.Item<QLineEdit>(frame::IdOf(&CStandardMaterialDlg::m_dUnitDensity))->setText(density);
       d.PressButton(IDOK);
     };
   }
@@ -48,7 +50,7 @@ class MaterialDialogTest : public SectionsDialogTest {
 
 TEST_F(MaterialDialogTest, StandardConcreteFillsANewRowAndItsStrengthsReachTheHost) {
   Open();
-  scripts[res::kTplStandardMaterial] = Choose(9, "145");  // "Concrete fc = 4.0 ksi"
+  scripts[res::kIddStandardMaterial] = Choose(9, "145");  // "Concrete fc = 4.0 ksi"
   dlg.PressButton(res::kCtlMatStandard);
   EXPECT_TRUE(Messages().empty()) << "row 1 active: a new row, no question";
   ASSERT_EQ(sheet().MaxRows(), 3);
@@ -64,12 +66,12 @@ TEST_F(MaterialDialogTest, StandardConcreteFillsANewRowAndItsStrengthsReachTheHo
 
 TEST_F(MaterialDialogTest, StandardMaterialAsksBeforeOverwritingALabelledRow) {
   Open();
-  scripts[res::kTplStandardMaterial] = Choose(1, nullptr);  // Steel-A36--Fy36 with its own density
+  scripts[res::kIddStandardMaterial] = Choose(1, nullptr);  // Steel-A36--Fy36 with its own density
   dlg.Spread().SetActiveCell(1, 2);
   prompter.QueueAnswer(false);
   dlg.PressButton(res::kCtlMatStandard);
   EXPECT_EQ(Messages(), std::vector<std::string>{"Do you want to override the current material?"});
-  EXPECT_EQ(opened[res::kTplStandardMaterial], 0);
+  EXPECT_EQ(opened[res::kIddStandardMaterial], 0);
   prompter.QueueAnswer(true);
   dlg.PressButton(res::kCtlMatStandard);
   EXPECT_EQ(sheet().GetData(2, 2), "Steel-A36--Fy36");

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 
 #include "dialogs/design/SectionPicture.h"
+#include "dialogs/frame/Form.h"
 #include "resources/sections_ids.h"
 #include "support/DialogTest.h"
 
@@ -17,12 +18,12 @@ class RegularSectionTest : public DialogTest {
     dlg.InitDialogForTest();
   }
   void Enter(int type, std::vector<const char*> dims) {
-    dlg.ChooseItem(res::kCtlRegType, type);
+    dlg.ChooseItem(frame::IdOf(&CRegularSectionDlg::m_nType), type);
     for (size_t i = 0; i < dims.size(); ++i)
-      dlg.Item<QLineEdit>(res::kCtlRegDim1 + static_cast<int>(i))->setText(dims[i]);
+      dlg.Item<QLineEdit>(CRegularSectionDlg::DimensionId(static_cast<int>(i)))->setText(dims[i]);
   }
-  std::string Box(int i) { return dlg.GetDlgItemText(res::kCtlRegDim1 + i); }
-  bool Enabled(int i) { return dlg.GetDlgItem(res::kCtlRegDim1 + i)->isEnabled(); }
+  std::string Box(int i) { return dlg.GetDlgItemText(CRegularSectionDlg::DimensionId(i)); }
+  bool Enabled(int i) { return dlg.GetDlgItem(CRegularSectionDlg::DimensionId(i))->isEnabled(); }
 
   fmUnit units;
   CRegularSectionDlg dlg;
@@ -37,14 +38,14 @@ TEST_F(RegularSectionTest, UnusedDimensionsAreDisabledAndThePictureFollowsTheTyp
   Enter(0, {"10", "20"});
   EXPECT_EQ(dlg.Picture()->outline().height, 20);
   EXPECT_EQ(dlg.Picture()->outline().marks[0].text, "b = 10 in");
-  dlg.ChooseItem(res::kCtlRegType, 1);
-  EXPECT_EQ(dlg.GetDlgItemText(res::kCtlRegCaption1), "Diameter");
+  dlg.ChooseItem(frame::IdOf(&CRegularSectionDlg::m_nType), 1);
+  EXPECT_EQ(dlg.GetDlgItemText(CRegularSectionDlg::CaptionId(0)), "Diameter");
   for (int i = 1; i < 4; ++i) {
     EXPECT_FALSE(Enabled(i));
     EXPECT_EQ(Box(i), "0.0001");
   }
-  dlg.ChooseItem(res::kCtlRegType, 3);
-  EXPECT_EQ(dlg.GetDlgItemText(res::kCtlRegCaption1 + 2), "Flange Thickness");
+  dlg.ChooseItem(frame::IdOf(&CRegularSectionDlg::m_nType), 3);
+  EXPECT_EQ(dlg.GetDlgItemText(CRegularSectionDlg::CaptionId(2)), "Flange Thickness");
   for (int i = 0; i < 4; ++i) EXPECT_TRUE(Enabled(i));
   Enter(2, {"abc"});
   EXPECT_TRUE(dlg.Picture()->outline().IsEmpty());

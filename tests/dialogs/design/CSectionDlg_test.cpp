@@ -5,6 +5,7 @@
 #include <QTableView>
 
 #include "dialogs/design/CAiscDataDlg.h"
+#include "dialogs/frame/Form.h"
 #include "dialogs/design/CRegularSectionDlg.h"
 #include "dialogs/design/CThickDlg.h"
 #include "dialogs/design/SectionsDialogTest.h"
@@ -60,9 +61,9 @@ class SectionDialogTest : public SectionsDialogTest {
 std::function<void(CDialog&)> Regular(int type, std::vector<const char*> dims) {
   return [type, dims](CDialog& d) {
     auto& reg = static_cast<CRegularSectionDlg&>(d);
-    reg.ChooseItem(res::kCtlRegType, type);
+    reg.ChooseItem(frame::IdOf(&CRegularSectionDlg::m_nType), type);
     for (size_t i = 0; i < dims.size(); ++i)
-      reg.Item<QLineEdit>(res::kCtlRegDim1 + static_cast<int>(i))->setText(dims[i]);
+      reg.Item<QLineEdit>(CRegularSectionDlg::DimensionId(static_cast<int>(i)))->setText(dims[i]);
     reg.PressButton(IDOK);
   };
 }
@@ -115,7 +116,7 @@ TEST_F(SectionDialogTest, LockedModelDisablesEditingAndSaysSoOnce) {
 
 TEST_F(SectionDialogTest, RegularSectionNeverOverwritesRowOneAndAsksBeforeOverwriting) {
   Open();
-  scripts[res::kTplRegularSection] = Regular(0, {"10", "20"});
+  scripts[res::kIddRegularSection] = Regular(0, {"10", "20"});
   Activate(1);
   ASSERT_TRUE(dlg.PressButton(res::kCtlSecRegular));
   ASSERT_EQ(sheet().MaxRows(), 4);
@@ -123,7 +124,7 @@ TEST_F(SectionDialogTest, RegularSectionNeverOverwritesRowOneAndAsksBeforeOverwr
                                               "166.667", "10", "20", "0", "0"}));
   EXPECT_EQ(Row(1)[1], "W1");
 
-  scripts[res::kTplRegularSection] = Regular(3, {"10", "20", "0.5", "0.3"});
+  scripts[res::kIddRegularSection] = Regular(3, {"10", "20", "0.5", "0.3"});
   Activate(3);
   prompter.QueueAnswer(false);
   dlg.PressButton(res::kCtlSecRegular);
@@ -133,7 +134,7 @@ TEST_F(SectionDialogTest, RegularSectionNeverOverwritesRowOneAndAsksBeforeOverwr
   dlg.PressButton(res::kCtlSecRegular);
   EXPECT_EQ(Row(3)[1], "Tee10x20x0.5x0.3");
   EXPECT_EQ(Row(3)[5], "10.85");
-  EXPECT_EQ(opened[res::kTplRegularSection], 2);
+  EXPECT_EQ(opened[res::kIddRegularSection], 2);
   EXPECT_TRUE(dlg.PressButton(IDOK));
   EXPECT_EQ(sections[3].label, "Rect10x20");
 }
@@ -157,7 +158,7 @@ TEST_F(SectionDialogTest, AiscShapeFillsTheRowInTheDocumentUnits) {
   sheet().SetData(kLabel, 3, "W14X90");
   Activate(3);
   int preselected = -1;
-  scripts[res::kTplAiscData] = [&](CDialog& d) {
+  scripts[res::kIddAiscData] = [&](CDialog& d) {
     preselected = static_cast<CAiscDataDlg&>(d).m_nSelectedShape;
     d.PressButton(IDOK);
   };
@@ -230,7 +231,7 @@ TEST_F(SectionDialogTest, ADoubleAngleMakesASectionOkAcceptsOrIsRefusedWhenChose
       d.PressButton(IDOK);
     };
   };
-  scripts[res::kTplAiscData] = choose("2L6X6X1");
+  scripts[res::kIddAiscData] = choose("2L6X6X1");
   prompter.QueueAnswer(true);  // replace W3
   dlg.PressButton(res::kCtlSecAisc);
   ASSERT_EQ(Messages().size(), 2u);
@@ -240,7 +241,7 @@ TEST_F(SectionDialogTest, ADoubleAngleMakesASectionOkAcceptsOrIsRefusedWhenChose
   EXPECT_EQ(sheet().GetData(kLabel, 3), "W3") << "nothing chosen, nothing written";
 
   prompter.Clear();
-  scripts[res::kTplAiscData] = choose("2L8X4X1LLBB");
+  scripts[res::kIddAiscData] = choose("2L8X4X1LLBB");
   prompter.QueueAnswer(true);
   dlg.PressButton(res::kCtlSecAisc);
   EXPECT_EQ(Row(3), (std::vector<std::string>{"3", "2L8X4X1LLBB", "139", "47.3", "7.36", "22.2", "16", "8", "4", "8",

@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "dialogs/design/SectionsDialogTest.h"
+#include "dialogs/frame/Form.h"
 #include "resources/design_ids.h"
 #include "resources/sections_ids.h"
 #include "support/files.h"
@@ -16,6 +17,18 @@
 namespace {
 
 using namespace res;
+
+// The check's fields, found by the members they show.
+using Check = CSteelBeamColumnCheckDlg;
+const int kCtlSteelSection = frame::IdOf(&Check::m_strSectionName);
+const int kCtlSteelFy = frame::IdOf(&Check::m_dFy);
+const int kCtlSteelLength = frame::IdOf(&Check::m_dLength);
+const int kCtlSteelLux = frame::IdOf(&Check::m_dLux);
+const int kCtlSteelKz = frame::IdOf(&Check::m_dKz);
+const int kCtlSteelLb = frame::IdOf(&Check::m_dLb);
+const int kCtlSteelCb = frame::IdOf(&Check::m_dCb);
+const int kCtlSteelConnector = frame::IdOf(&Check::m_dConnectorDistance);
+const int kCtlSteelMagnify = frame::IdOf(&Check::m_bConsiderMomentMagnification);
 
 // Receives what QDesktopServices::openUrl would hand to the desktop.
 class UrlCatcher : public QObject {
@@ -166,13 +179,13 @@ TEST_F(SteelCheckDialogTest, ShowProcedureOpensTheReportAndAiscTableChoosesTheSh
   ASSERT_EQ(catcher.urls.size(), 1u);
   EXPECT_EQ(catcher.urls[0].toLocalFile().toStdString(), reports / "kStrand.htm");
 
-  scripts[kTplAiscData] = [](CDialog& browser) {
+  scripts[kIddAiscData] = [](CDialog& browser) {
     browser.Item<QLineEdit>(kCtlShapeFind)->setText("2L4X3-1/2X3/8X3/4LLBB");
     browser.PressButton(IDOK);
   };
   ASSERT_FALSE(Cell(15, 1).empty());
   dlg.PressButton(kCtlSteelAiscTable);
-  EXPECT_EQ(opened[kTplAiscData], 1);
+  EXPECT_EQ(opened[kIddAiscData], 1);
   EXPECT_EQ(Cell(15, 1), "") << "a new shape clears the results";
 }
 

@@ -110,3 +110,49 @@ TEST_F(FormTest, UnnamedIdsComeFromTheReservedRangesAndTheStringsFromTheDescript
   EXPECT_EQ(res::LoadString(dlg.Template()->captionStringId), "Trial Frame");
   EXPECT_TRUE(res::GeneratedStringConflicts().empty());
 }
+
+namespace {
+
+// A field read only while a check is on, inside a group inside another, and a drop-down
+// where no entry chosen is a value of its own.
+class CConditionDlg : public CDialog {
+ public:
+  CConditionDlg() : CDialog(Description()) {}
+  static const frame::Form<CConditionDlg>& Description() {
+    using F = frame::Field<CConditionDlg>;
+    static const frame::Form<CConditionDlg> form(
+        {29951, "Conditions"},
+        {F::Check("Spans given", &CConditionDlg::m_bSpans), F::Group("Outer"), F::Group("Inner"),
+         F::Real("Span:", &CConditionDlg::m_dSpan).ReadWhen([](const CConditionDlg& d) { return d.m_bSpans != 0; }),
+         F::EndGroup(), F::EndGroup(), F::DropIndexOrNone("Code:", &CConditionDlg::m_nCode).Items({"A", "B"})});
+    return form;
+  }
+  BOOL m_bSpans = 0;
+  double m_dSpan = 6.0;
+  int32_t m_nCode = 5;
+};
+
+}  // namespace
+
+TEST_F(FormTest, AFieldIsReadOnlyWhileItsConditionHoldsAndNoChoiceStaysNone) {
+  CConditionDlg d;
+  d.InitDialogForTest();
+  const std::vector<frame::FieldLayout>& layouts = CConditionDlg::Description().Layouts();
+  const res::Control* span = d.Template()->FindControl(frame::IdOf(&CConditionDlg::m_dSpan));
+  ASSERT_NE(span, nullptr);
+  EXPECT_EQ(span->group, layouts[2].id) << "in the inner group";
+  EXPECT_EQ(d.Template()->FindControl(layouts[2].id)->group, layouts[1].id) << "the inner group in the outer";
+  EXPECT_EQ(d.Item<QComboBox>(frame::IdOf(&CConditionDlg::m_nCode))->currentIndex(), -1);
+
+  d.Item<QLineEdit>(frame::IdOf(&CConditionDlg::m_dSpan))->setText("abc");
+  d.Item<QCheckBox>(frame::IdOf(&CConditionDlg::m_bSpans))->setChecked(true);
+  EXPECT_TRUE(d.PressButton(IDOK));
+  EXPECT_EQ(Messages(), std::vector<std::string>{"Please enter a number."});
+  EXPECT_EQ(d.focusWidget(), d.GetDlgItem(frame::IdOf(&CConditionDlg::m_dSpan)));
+  EXPECT_EQ(d.ModalResult(), 0);
+
+  d.Item<QCheckBox>(frame::IdOf(&CConditionDlg::m_bSpans))->setChecked(false);
+  EXPECT_TRUE(d.PressButton(IDOK));
+  EXPECT_EQ(d.ModalResult(), IDOK) << "a field not read is not checked";
+  EXPECT_EQ(std::tuple(d.m_bSpans, d.m_dSpan, d.m_nCode), std::tuple(0, 6.0, -1));
+}

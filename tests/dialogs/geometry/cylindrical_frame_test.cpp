@@ -12,8 +12,6 @@ namespace {
 
 using namespace geometry;
 
-const char* const kIdsUsedUp = "The new nodes and members cannot be numbered: ids would pass 4294967295";
-
 // Whole strings: assigning short literals to the members trips a false -Wrestrict of GCC 12.
 CylindricalFrameParameters Params(const std::string& radial, const std::string& angles, const std::string& axial,
                                   int supports = 0) {
@@ -186,9 +184,9 @@ TEST(CylindricalFrame, RefusesWhatItCannotBuild) {
       {huge, kCoordinatesTooLarge},
   };
   for (const auto& [p, error] : cases) EXPECT_EQ(GenerateCylindricalFrame(p, 1, 1).error, error);
-  const auto full = GenerateCylindricalFrame({}, 4294967290u, 1);  // 6 nodes end at 4294967295
-  EXPECT_TRUE(full.ok() && full.frame.nodes.back().id == 4294967295u);
-  EXPECT_EQ(GenerateCylindricalFrame({}, 4294967291u, 1).error, kIdsUsedUp);
+  const auto full = GenerateCylindricalFrame({}, 2147483642u, 1);  // 6 nodes end at 2147483647
+  EXPECT_TRUE(full.ok() && full.frame.nodes.back().id == 2147483647u);
+  EXPECT_EQ(GenerateCylindricalFrame({}, 2147483643u, 1).error, kIdsUsedUp);
 }
 
 // Ids out of order; the first section is the rigid link, which generated members must not get.
@@ -241,8 +239,8 @@ TEST(CylindricalFrameInModel, AppendsAfterTheHighestIdsWithMaterialSectionAndBas
 
 TEST(CylindricalFrameInModel, RefusalsLeaveTheModelUntouched) {
   const struct { const char* angles; uint32_t highestNode, highestMember; const char* error; } cases[] = {
-      {"0, 360", 12, 30, kClosedFrameNeedsTwoIncrements}, {"0, 4@90", 4294967295u, 30, kIdsUsedUp},
-      {"0, 4@90", 12, 4294967283u, ""}};  // the last member takes the highest id there is
+      {"0, 360", 12, 30, kClosedFrameNeedsTwoIncrements}, {"0, 4@90", 2147483647u, 30, kIdsUsedUp},
+      {"0, 4@90", 12, 2147483635u, ""}};  // the last member takes the highest id there is
   for (const auto& c : cases) {
     model::ModelDocument doc = SmallModel();
     doc.nodes[0].id = c.highestNode;
@@ -252,7 +250,7 @@ TEST(CylindricalFrameInModel, RefusalsLeaveTheModelUntouched) {
         << c.angles << " " << c.highestMember;
     if (*c.error)
       EXPECT_TRUE(doc.nodes == before.nodes && doc.members == before.members && doc.supports == before.supports);
-    else EXPECT_EQ(doc.members.back().id, 4294967295u);
+    else EXPECT_EQ(doc.members.back().id, 2147483647u);
   }
 }
 

@@ -5,6 +5,7 @@
 
 #include "apps/host/DialogBindings.h"
 #include "apps/host/DialogRunner.h"
+#include "dialogs/frame/Form.h"
 #include "dialogs/frame/Preferences.h"
 #include "dialogs/grid/CDataSettingsDlg.h"
 #include "resources/grid_ids.h"
@@ -22,10 +23,10 @@ class DataSettingsTest : public DialogTest {
 TEST_F(DataSettingsTest, ShouldRefuseValuesOutOfRangeAndStayOpen) {
   struct Case { int control; const char* text; const char* message; };  // empty message: accepted
   const Case cases[] = {
-      {res::kCtlDsFontSize, "3", "Please enter a number between 4 and 72."},
-      {res::kCtlDsFontSize, "abc", "Please enter a whole number that is not negative."},
-      {res::kCtlDsRowHeight, "201", "Please enter a number between 8 and 200."},
-      {res::kCtlDsFontSize, "72", ""},
+      {frame::IdOf(&CDataSettingsDlg::m_nFontSize), "3", "Please enter a number between 4 and 72."},
+      {frame::IdOf(&CDataSettingsDlg::m_nFontSize), "abc", "Please enter a whole number that is not negative."},
+      {frame::IdOf(&CDataSettingsDlg::m_nRowHeight), "201", "Please enter a number between 8 and 200."},
+      {frame::IdOf(&CDataSettingsDlg::m_nFontSize), "72", ""},
   };
   for (const auto& c : cases) {
     CDataSettingsDlg d;
@@ -48,13 +49,13 @@ TEST_F(DataSettingsTest, HostBindingLoadsAndStoresThePreferencesAndTheChosenColo
   ASSERT_TRUE(d);
   d->InitDialogForTest();
   EXPECT_EQ(d->windowTitle().toStdString(), "Spreadsheet Settings");
-  EXPECT_EQ(d->GetDlgItemText(res::kCtlDsFontSize), "11");
-  EXPECT_FALSE(d->Item<QCheckBox>(res::kCtlDsShowRowHeader)->isChecked());
-  EXPECT_TRUE(d->Item<QCheckBox>(res::kCtlDsAppendSave)->isChecked());
+  EXPECT_EQ(d->GetDlgItemText(frame::IdOf(&CDataSettingsDlg::m_nFontSize)), "11");
+  EXPECT_FALSE(d->Item<QCheckBox>(frame::IdOf(&CDataSettingsDlg::m_bShowRowHeader))->isChecked());
+  EXPECT_TRUE(d->Item<QCheckBox>(frame::IdOf(&CDataSettingsDlg::m_bAppendSave))->isChecked());
   EXPECT_EQ(ColorText(*d), "#E0FFE0");
 
-  d->Item<QLineEdit>(res::kCtlDsRowHeight)->setText("30");
-  d->Item<QCheckBox>(res::kCtlDsShowRowHeader)->setChecked(true);
+  d->Item<QLineEdit>(frame::IdOf(&CDataSettingsDlg::m_nRowHeight))->setText("30");
+  d->Item<QCheckBox>(frame::IdOf(&CDataSettingsDlg::m_bShowRowHeader))->setChecked(true);
   prompter.QueueColor(0xFFEEDD);
   d->PressButton(res::kCtlDsColor);
   prompter.QueueCancel();

@@ -3,6 +3,7 @@
 #include <QPrinter>
 #include <QSettings>
 
+#include "dialogs/grid/GridPrinter.h"
 #include "dialogs/grid/TSpread.h"
 #include "dialogs/model/CNodeDataDlg.h"
 #include "resources/grid_ids.h"
@@ -70,7 +71,8 @@ TEST_F(GridPrintTest, AsksFirstThenPrintsTheSelectionThroughThePrintSetup) {
   EXPECT_EQ(PdfPages(dir / "some.pdf"), 1);
   const std::string text = PdfPageText(dir / "some.pdf", 1);
   EXPECT_NE(text.find("Value 3 [ft]"), std::string::npos) << text;
-  EXPECT_EQ(text.find("Node Id"), std::string::npos) << "only the selected columns are printed";
+  EXPECT_EQ(text.find("Value 4 [ft]"), std::string::npos) << "only the selected columns are printed";
+  EXPECT_NE(text.find("Node Id"), std::string::npos) << "and the ids, so no printed row is anonymous";
 
   const std::string unwritable = dir / "missing/out.pdf";
   prompter.QueueAnswer(true);
@@ -79,6 +81,28 @@ TEST_F(GridPrintTest, AsksFirstThenPrintsTheSelectionThroughThePrintSetup) {
   EXPECT_EQ(Messages(), (std::vector<std::string>{kPrintQuestion, kPrintQuestion, kPrintQuestion,
                                                   "The table could not be printed on \"" + unwritable + "\"."}));
   EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"some.pdf"});
+}
+
+TEST_F(GridPrintTest, OneSelectedCellPrintsTheWholeTableWithinFifteenMillimetreMargins) {
+  Fill(5, 4);
+  const struct { const char* name; grid::Block block; std::vector<int> columns; int rows; } cases[] = {
+      {"nothing selected", {}, {1, 2, 3, 4}, 5},
+      {"the cell clicked last", {3, 2, 3, 2}, {1, 2, 3, 4}, 5},
+      {"a block without the ids", {3, 2, 4, 3}, {1, 3, 4}, 2},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    GridPrinter layout(spread.sheet(), c.block, "Node Table");
+    EXPECT_EQ(layout.PrintedColumns(), c.columns);
+    EXPECT_EQ(layout.PrintedBlock().row2 - layout.PrintedBlock().row1 + 1, c.rows);
+  }
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(QString::fromStdString(dir / "margins.pdf"));
+  printer.setPageMargins(QMarginsF(2, 2, 2, 2), QPageLayout::Millimeter);
+  ASSERT_TRUE(spread.PrintBlock(printer, {}, "Node Table"));
+  const QMarginsF margins = printer.pageLayout().margins(QPageLayout::Millimeter);
+  for (double side : {margins.left(), margins.top(), margins.right(), margins.bottom()}) EXPECT_GE(side, 14.99);
 }
 
 TEST_F(GridPrintTest, EveryPageRepeatsTitleAndHeadingsAndIsNumbered) {
@@ -125,10 +149,12 @@ TEST_F(GridPrintTest, ExportAsksForAFileAndAppendsWhenThePreferenceSaysSo) {
   const std::string text = "Node Id\tValue 2 [ft]\tValue 3 [ft]\r\n1\t2\t3\r\n2\t4\t6\r\n3\t6\t9\r\n";
   EXPECT_EQ(ReadFileText(dir / "grid.txt"), text);
 
+  EXPECT_TRUE(request.confirmReplace) << "replacing a file is asked about";
   QSettings().setValue("Preferences/SpreadsheetAppendSave", 1);  // read at the time of the export
   prompter.QueuePath(dir / "grid.txt");
   ASSERT_TRUE(spread.ExportGrid("Node Table"));
   EXPECT_EQ(ReadFileText(dir / "grid.txt"), text + text);
+  EXPECT_FALSE(prompter.prompts()[1].request.confirmReplace) << "appending replaces nothing";
 
   prompter.QueuePath(dir / "grid.csv");
   EXPECT_FALSE(spread.ExportGrid());

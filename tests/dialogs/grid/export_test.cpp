@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cmath>
 #include <map>
 #include <regex>
 
@@ -100,6 +101,24 @@ std::map<std::string, XlsxCell> ReadWorksheet(const std::string& xlsx) {
   return cells;
 }
 
+// The number format code of each cell style ("s" attribute) of a workbook; "" for the
+// general format. Built-in formats are named by their number.
+std::vector<std::string> StyleNumberFormats(const std::string& xlsx) {
+  const std::string xml = CommandOutput("unzip -p '" + xlsx + "' xl/styles.xml");
+  std::map<std::string, std::string> codes = {{"0", ""}, {"1", "0"}, {"2", "0.00"}, {"9", "0%"}, {"10", "0.00%"},
+                                              {"11", "0.00E+00"}};
+  static const std::regex kNumFmt(R"re(<numFmt numFmtId="(\d+)" formatCode="([^"]*)")re");
+  for (auto it = std::sregex_iterator(xml.begin(), xml.end(), kNumFmt); it != std::sregex_iterator(); ++it)
+    codes[(*it)[1].str()] = Unescape((*it)[2].str());
+  const size_t from = xml.find("<cellXfs"), to = xml.find("</cellXfs>");
+  const std::string xfs = from == std::string::npos ? "" : xml.substr(from, to - from);
+  std::vector<std::string> styles;
+  static const std::regex kXf(R"re(<xf numFmtId="(\d+)")re");
+  for (auto it = std::sregex_iterator(xfs.begin(), xfs.end(), kXf); it != std::sregex_iterator(); ++it)
+    styles.push_back(codes.count((*it)[1].str()) ? codes[(*it)[1].str()] : "?");
+  return styles;
+}
+
 }  // namespace
 
 TEST(ExportSheet, RefusalsGiveTheirMessageAndWriteNothing) {
@@ -166,13 +185,20 @@ TEST(ExportText, TabsBetweenCellsAndCrLfAfterEveryRow) {
 
 TEST(ExportWorkbook, NumbersAsNumbersTextAsTextNeverFormulas) {
   // Small sheets keep shared strings; big ones are streamed with inline strings.
+  // A cell is a number only when it was filled from one: column C of the first rows, then B.
+  // Labels that look like numbers ("0012", "1E3") stay text.
+  const auto filledFromNumber = [](size_t r, size_t c) { return r > 0 && (r <= 4 ? c == 2 : c == 1); };
   for (int extraRows : {0, 40000}) {
     TempDir dir;
     auto rows = kAwkward;
-    rows.push_back({"1e3", "-0.5", "12abc"});
+    rows.push_back({"0012", "-0.5", "1E3"});
     for (int i = 0; i < extraRows; ++i) rows.push_back({tools::Format("n%d", i), tools::Format("%d", i), "x"});
     const std::string path = dir / (extraRows ? "big.xlsx" : "small.XLS");
-    ASSERT_EQ(grid::ExportSheet(MakeSheet(rows), path, true, "Loads: [all]"), std::nullopt);
+    Sheet sheet = MakeSheet(rows);
+    for (size_t r = 1; r < rows.size(); ++r)
+      for (size_t c = 0; c < rows[r].size(); ++c)
+        if (filledFromNumber(r, c)) sheet.SetNumber(int(c + 1), int(r), rows[r][c]);
+    ASSERT_EQ(grid::ExportSheet(sheet, path, true, "Loads: [all]"), std::nullopt);
     EXPECT_EQ(FolderEntries(dir.path()).size(), 1u) << "no temporary file is left";
 
     const auto cells = ReadWorksheet(path);
@@ -184,17 +210,37 @@ TEST(ExportWorkbook, NumbersAsNumbersTextAsTextNeverFormulas) {
         ASSERT_EQ(cells.count(ref), 1u) << ref;
         const XlsxCell& cell = cells.at(ref);
         EXPECT_FALSE(cell.formula) << ref;
-        const auto number = r > 0 ? tools::ParseDouble(text) : std::nullopt;
+        const auto number = filledFromNumber(r, c) ? tools::ParseDouble(text) : std::nullopt;
         EXPECT_EQ(cell.type, number ? "" : extraRows ? "inlineStr" : "s") << ref;
         if (number) EXPECT_EQ(tools::ParseDouble(cell.value), number) << ref << " holds " << cell.value;
         else EXPECT_EQ(cell.value, text) << ref;
-        EXPECT_EQ(!cell.style.empty() && cell.style != "0", r == 0) << ref << ": headings alone are bold";
+        // Headings are bold; numbers have the format of their text ("0" for the integers here).
+        EXPECT_EQ(!cell.style.empty() && cell.style != "0", r == 0 || number) << ref;
       }
     }
     EXPECT_EQ(cells.at("C3").value, "=SUM(A1:A2)");
     const std::string workbookXml = CommandOutput("unzip -p '" + path + "' xl/workbook.xml");
     EXPECT_NE(workbookXml.find("name=\"Loads_ _all_\""), std::string::npos) << workbookXml;
   }
+}
+
+TEST(ExportWorkbook, ATypedCellKeepsItsKindWhileItReadsAsANumber) {
+  Sheet sheet = MakeSheet({{"Label", "X [ft]"}, {"A", "1"}, {"B", "2"}});
+  sheet.SetNumber(2, 1, "1");
+  sheet.SetNumber(2, 2, "2");
+  sheet.SetTypedData(1, 1, "3");     // a label typed as digits stays a label
+  sheet.SetTypedData(2, 1, " 2.5 ");
+  sheet.SetTypedData(2, 2, "two");   // text now, and text it stays
+  sheet.SetTypedData(2, 2, "4");
+  EXPECT_FALSE(sheet.IsNumber(1, 1));
+  EXPECT_TRUE(sheet.IsNumber(2, 1));
+  EXPECT_FALSE(sheet.IsNumber(2, 2));
+  TempDir dir;
+  ASSERT_EQ(grid::ExportSheet(sheet, dir / "t.xlsx", false, "T"), std::nullopt);
+  const auto cells = ReadWorksheet(dir / "t.xlsx");
+  EXPECT_TRUE(cells.at("A2").type == "s" && cells.at("A2").value == "3");
+  EXPECT_TRUE(cells.at("B2").type.empty() && cells.at("B2").value == "2.5");
+  EXPECT_TRUE(cells.at("B3").type == "s" && cells.at("B3").value == "4");
 }
 
 // Once wrote <v>-0,5</v> under a comma-decimal locale, which spreadsheet programs cannot read.
@@ -204,4 +250,45 @@ TEST(ExportWorkbook, NumbersIgnoreACommaLocale) {
   TempDir dir;
   ASSERT_EQ(grid::ExportSheet(MakeSheet({{"X [ft]"}, {"-0.5"}}), dir / "n.xlsx", false, "T"), std::nullopt);
   EXPECT_EQ(ReadWorksheet(dir / "n.xlsx").at("A2").value, "-0.5");
+}
+
+// The grid shows "%g" (six digits); a workbook holds the value itself, in a format showing
+// what the grid shows, while text and HTML keep the grid's text.
+TEST(ExportWorkbook, NumbersKeepFullPrecisionInTheFormatTheGridShows) {
+  Sheet sheet = MakeSheet({{"X [ft]", "Y [ft]", "Ratio", "Id"}, {"", "", "", ""}, {"", "", "", ""}});
+  sheet.SetNumberG(1, 1, 512345.678);
+  sheet.SetNumberG(2, 1, 1.0 / 3);
+  sheet.SetNumber(3, 1, 0.0041666, "0.417 %");
+  sheet.SetNumber(4, 1, "17");
+  sheet.SetNumberG(1, 2, -2.25e-7);
+  sheet.SetNumberG(2, 2, 0.5);
+  sheet.SetNumber(3, 2, std::nan(""), "n/a");  // not finite: the text alone, which is no number
+  EXPECT_EQ(sheet.GetData(1, 1), "512346");
+  EXPECT_EQ(sheet.GetData(2, 1), "0.333333");
+  EXPECT_EQ(sheet.GetNumber(1, 1), 512345.678);
+  EXPECT_EQ(sheet.GetNumber(3, 2), std::nullopt);
+
+  TempDir dir;
+  ASSERT_EQ(grid::ExportSheet(sheet, dir / "p.xlsx", false, "P"), std::nullopt);
+  const auto cells = ReadWorksheet(dir / "p.xlsx");
+  const auto formats = StyleNumberFormats(dir / "p.xlsx");
+  const struct { const char* ref; double value; const char* format; } numbers[] = {
+      {"A2", 512345.678, "0"}, {"B2", 1.0 / 3, "0.000000"}, {"C2", 0.0041666, "0.000 %"}, {"D2", 17, "0"},
+      {"A3", -2.25e-7, "0.00E+00"}, {"B3", 0.5, "0.0"}};
+  for (const auto& n : numbers) {
+    const XlsxCell& cell = cells.at(n.ref);
+    EXPECT_EQ(cell.type, "") << n.ref;
+    EXPECT_EQ(tools::ParseDouble(cell.value), n.value) << n.ref << " holds " << cell.value;
+    const size_t style = cell.style.empty() ? 0 : std::stoul(cell.style);
+    ASSERT_LT(style, formats.size()) << n.ref;
+    EXPECT_EQ(formats[style], n.format) << n.ref;
+  }
+  EXPECT_TRUE(cells.at("C3").type == "s" && cells.at("C3").value == "n/a");
+
+  // Text keeps what the grid shows.
+  ASSERT_EQ(grid::ExportSheet(sheet, dir / "p.txt", false, "P"), std::nullopt);
+  EXPECT_EQ(ReadFileText(dir / "p.txt"),
+            "X [ft]\tY [ft]\tRatio\tId\r\n512346\t0.333333\t0.417 %\t17\r\n-2.25e-07\t0.5\tn/a\t\r\n");
+  ASSERT_EQ(grid::ExportSheet(sheet, dir / "p.htm", false, "P"), std::nullopt);
+  EXPECT_NE(ReadFileText(dir / "p.htm").find(">512346</td>"), std::string::npos);
 }

@@ -1,7 +1,9 @@
 #include "dialogs/grid/grid_ops.h"
 
+#include <limits>
 #include <gtest/gtest.h>
 
+#include "dialogs/grid/grid_edit.h"
 #include "tools/format.h"
 
 namespace {
@@ -135,12 +137,26 @@ TEST(CopyPaste, BlockRoundTripsThroughTabSeparatedText) {
   EXPECT_TRUE(text.starts_with("plain\t\"say \"\"hi\"\"\"\t\r\n")) << text;
   EXPECT_EQ(grid::ParseTabSeparated(text), cells);
 
-  Sheet target = IdSheet({{"1"}, {"2"}}, 4);
+  Sheet target = IdSheet({{"1"}, {"2"}, {"3"}}, 4);
   target.SetLock(3, 2, true);
   target.SetData(3, 2, "locked");
-  const Block w = grid::PasteText(target, 2, 2, text);
-  EXPECT_EQ(std::vector<int>({w.col1, w.row1, w.col2, w.row2}), std::vector<int>({2, 2, 4, 2}));
-  EXPECT_EQ(Column(target, 2), (std::vector<std::string>{"", "plain"}));
+  const grid::PastePlan plan = grid::PlanPaste(target, {}, {2, 2}, text);
+  EXPECT_EQ(plan.writes.block, (Block{2, 2, 4, 3}));
+  EXPECT_EQ(grid::ApplyWrites(target, plan.writes), 5);
+  EXPECT_EQ(Column(target, 2), (std::vector<std::string>{"", "plain", "tab\tinside"}));
   EXPECT_EQ(target.GetData(3, 2), "locked") << "locked cells are skipped";
-  EXPECT_EQ(target.MaxRows(), 2) << "rows beyond the grid are dropped";
+}
+
+TEST(ReadReal, ACellLeftAsFilledKeepsFullPrecisionAnEditedOneIsParsed) {
+  const double stored = 512345.678;
+  EXPECT_EQ(grid::ReadReal("512346", &stored), stored);  // the six digits the grid shows
+  EXPECT_EQ(grid::ReadReal("512346.5", &stored), 512346.5);
+  EXPECT_EQ(grid::ReadReal("512346", nullptr), 512346.0);  // a new row has no original
+  const double third = 1.0 / 3.0, other = 2.0;
+  EXPECT_EQ(grid::ReadReal("0.333333", {&other, &third}), third);
+  EXPECT_FALSE(grid::ReadReal("", &stored));
+  EXPECT_FALSE(grid::ReadReal("abc", &stored));
+  // An infinite original left in place is no value to keep.
+  const double inf = std::numeric_limits<double>::infinity();
+  EXPECT_FALSE(grid::ReadReal("inf", &inf));
 }

@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/CGenerateResponseSpectrumDlg.h"
 #include "dialogs/loads/SpectrumChart.h"
 #include "resources/spectra_ids.h"
@@ -10,6 +11,21 @@
 using namespace res;
 
 namespace {
+
+// The generator's controls, found by the members they show.
+using Gen = CGenerateResponseSpectrumDlg;
+const int kCtlSpecCode = frame::IdOf(&Gen::m_nCode);
+const int kCtlSpecValue1 = frame::IdOf(&Gen::m_dValue1);
+const int kCtlSpecValue2 = frame::IdOf(&Gen::m_dValue2);
+const int kCtlSpecValue1Text = frame::FieldOf(&Gen::m_dValue1).labelId;
+const int kCtlSpecValue2Text = frame::FieldOf(&Gen::m_dValue2).labelId;
+const int kCtlSpecTl = frame::IdOf(&Gen::m_dTL);
+const int kCtlSpecType = frame::IdOf(&Gen::m_nEc8Type);
+const int kCtlSpecGround = frame::IdOf(&Gen::m_nGround);
+const int kCtlSpecAg = frame::IdOf(&Gen::m_dAg);
+const int kCtlSpecImportance = frame::IdOf(&Gen::m_dImportance);
+const int kCtlSpecDamping = frame::IdOf(&Gen::m_dDamping);
+const int kCtlSpecLogScale = frame::IdOf(&Gen::m_bLogScale);
 
 class GenerateSpectrumTest : public DialogTest {
  protected:

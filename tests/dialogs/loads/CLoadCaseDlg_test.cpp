@@ -88,3 +88,26 @@ TEST_F(LoadCaseDialogTest, LockedModelIsReadOnlyAndOkReadsClose) {
   EXPECT_EQ(dlg.ModalResult(), IDCANCEL);
   EXPECT_EQ(cases, original);
 }
+
+TEST_F(LoadCaseDialogTest, TheCasesLoadsFollowTheirCasesThroughDeletedAndNewRows) {
+  std::vector<fmCaseLoad> loads(4);
+  for (size_t i = 0; i < loads.size(); ++i) loads[i].nodal = {{static_cast<uint32_t>(i + 1), 1, -1.0 * (i + 1)}};
+  const std::vector<fmCaseLoad> before = loads;
+  dlg.m_pCaseLoads = &loads;
+  Open();
+  dlg.Spread().SetSelectBlock({2, 2, 2, 2});
+  ASSERT_TRUE(dlg.PressButton(kCtlCaseDeleteRows));  // Live goes, and its loads with it
+  dlg.Spread().Undo();
+  dlg.Spread().Redo();
+  dlg.Spread().SetSelectBlock({2, 3, 2, 3});
+  ASSERT_TRUE(dlg.PressButton(kCtlCaseDeleteRows));  // then Temperature
+  dlg.Item<QLineEdit>(kCtlNewRowCount)->setText("1");
+  ASSERT_TRUE(dlg.PressButton(kCtlNewRows));
+  sheet().SetData(2, 3, "Snow");
+  ASSERT_TRUE(dlg.PressButton(IDOK));
+  EXPECT_EQ(Column(2), (Texts{"Dead", "Wind X", "Snow"}));
+  ASSERT_EQ(loads.size(), 3u);
+  EXPECT_EQ(loads[0], before[0]);
+  EXPECT_EQ(loads[1], before[2]);
+  EXPECT_TRUE(loads[2].IsEmpty()) << "a new case starts without loads";
+}

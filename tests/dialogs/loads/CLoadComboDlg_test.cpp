@@ -4,6 +4,7 @@
 #include <QTreeWidget>
 #include <functional>
 
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/CLoadComboDlg.h"
 #include "dialogs/loads/CLoadComboItemDlg.h"
 #include "dialogs/loads/CStdLoadCombinationDlg.h"
@@ -55,9 +56,9 @@ class ComboDialogTest : public DialogTest {
   std::function<int(CDialog&)> Editor(std::string label, Texts factors, bool concrete = false) {
     return [=, this](CDialog& d) {
       auto& item = static_cast<CLoadComboItemDlg&>(d);
-      seenLabel = item.GetDlgItemText(kCtlItemLabel);
-      if (!label.empty()) item.Item<QLineEdit>(kCtlItemLabel)->setText(QString::fromStdString(label));
-      item.Item<QCheckBox>(kCtlItemConcreteDesign)->setChecked(concrete);
+      seenLabel = item.GetDlgItemText(frame::IdOf(&CLoadComboItemDlg::m_strLabel));
+      if (!label.empty()) item.Item<QLineEdit>(frame::IdOf(&CLoadComboItemDlg::m_strLabel))->setText(QString::fromStdString(label));
+      item.Item<QCheckBox>(frame::IdOf(&CLoadComboItemDlg::m_bConcreteDesign))->setChecked(concrete);
       for (size_t r = 0; r < factors.size(); ++r) item.Spread().sheet().SetData(2, static_cast<int>(r + 1), factors[r]);
       item.PressButton(IDOK);
       return item.ModalResult();
@@ -66,9 +67,9 @@ class ComboDialogTest : public DialogTest {
   std::function<int(CDialog&)> Codes(int code, std::vector<int> rows, bool pdelta = false) {
     return [=](CDialog& d) {
       auto& codes = static_cast<CStdLoadCombinationDlg&>(d);
-      codes.ChooseItem(kCtlStdCode, code);
+      codes.ChooseItem(frame::IdOf(&CStdLoadCombinationDlg::m_nCode), code);
       for (int r : rows) codes.Item<QListWidget>(kCtlStdList)->item(r)->setCheckState(Qt::Checked);
-      codes.Item<QCheckBox>(kCtlStdPDelta)->setChecked(pdelta);
+      codes.Item<QCheckBox>(frame::IdOf(&CStdLoadCombinationDlg::m_bPDelta))->setChecked(pdelta);
       codes.PressButton(IDOK);
       return codes.ModalResult();
     };

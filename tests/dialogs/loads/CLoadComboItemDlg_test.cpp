@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <tuple>
 
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/CLoadComboItemDlg.h"
 #include "resources/loads_ids.h"
 #include "support/DialogTest.h"
@@ -32,21 +33,21 @@ class ComboEditorTest : public DialogTest {
 }  // namespace
 
 TEST_F(ComboEditorTest, ShowsOneGridRowPerCaseAndOkStoresTheNonZeroRows) {
-  EXPECT_EQ(dlg.GetDlgItemText(kCtlItemLabel), "Ultimate");
-  EXPECT_TRUE(dlg.Item<QCheckBox>(kCtlItemConcreteDesign)->isChecked());
-  EXPECT_FALSE(dlg.Item<QCheckBox>(kCtlItemPDelta)->isChecked());
-  EXPECT_EQ(dlg.GetDlgItemText(kCtlItemSustained), "1.2");
+  EXPECT_EQ(dlg.GetDlgItemText(frame::IdOf(&CLoadComboItemDlg::m_strLabel)), "Ultimate");
+  EXPECT_TRUE(dlg.Item<QCheckBox>(frame::IdOf(&CLoadComboItemDlg::m_bConcreteDesign))->isChecked());
+  EXPECT_FALSE(dlg.Item<QCheckBox>(frame::IdOf(&CLoadComboItemDlg::m_bPDelta))->isChecked());
+  EXPECT_EQ(dlg.GetDlgItemText(frame::IdOf(&CLoadComboItemDlg::m_dSustainedFactor)), "1.2");
   std::vector<std::string> rows;
   for (int r = 1; r <= sheet().MaxRows(); ++r) rows.push_back(sheet().GetData(1, r) + " " + sheet().GetData(2, r));
   EXPECT_EQ(rows, (std::vector<std::string>{"Dead 1.2", "Live 0", "Wind X -0.5"}));
   EXPECT_TRUE(sheet().IsLocked(1, 2));
   EXPECT_FALSE(sheet().IsLocked(2, 2));
-  SetText(kCtlItemLabel, "ULS");
+  SetText(frame::IdOf(&CLoadComboItemDlg::m_strLabel), "ULS");
   EXPECT_EQ(dlg.PrintTitle(), "Load Comb - ULS Table");
-  dlg.Item<QCheckBox>(kCtlItemPDelta)->setChecked(true);
-  dlg.Item<QCheckBox>(kCtlItemConcreteDesign)->setChecked(false);
-  SetText(kCtlItemSustained, "0");
-  SetText(kCtlItemSpectrum, "-1");
+  dlg.Item<QCheckBox>(frame::IdOf(&CLoadComboItemDlg::m_bPDelta))->setChecked(true);
+  dlg.Item<QCheckBox>(frame::IdOf(&CLoadComboItemDlg::m_bConcreteDesign))->setChecked(false);
+  SetText(frame::IdOf(&CLoadComboItemDlg::m_dSustainedFactor), "0");
+  SetText(frame::IdOf(&CLoadComboItemDlg::m_dSpectrumFactor), "-1");
   sheet().SetData(2, 1, "abc");  // reads as 0: Dead leaves the combination
   sheet().SetData(2, 2, " 1.6 ");
   ASSERT_TRUE(dlg.PressButton(IDOK));
@@ -60,13 +61,13 @@ TEST_F(ComboEditorTest, ShowsOneGridRowPerCaseAndOkStoresTheNonZeroRows) {
 }
 
 TEST_F(ComboEditorTest, RefusalKeepsTheDialogOpenAndTheCombinationCancelToo) {
-  SetText(kCtlItemLabel, "DEFAULT");
+  SetText(frame::IdOf(&CLoadComboItemDlg::m_strLabel), "DEFAULT");
   sheet().SetData(2, 2, "3");
   dlg.PressButton(IDOK);
   EXPECT_EQ(dlg.ModalResult(), 0);
   EXPECT_EQ(Messages(), std::vector<std::string>{"Load combination label already used."});
   EXPECT_EQ(dlg.m_comb, original[1]);
-  EXPECT_EQ(dlg.GetDlgItemText(kCtlItemLabel), "DEFAULT");
+  EXPECT_EQ(dlg.GetDlgItemText(frame::IdOf(&CLoadComboItemDlg::m_strLabel)), "DEFAULT");
 
   dlg.PressButton(IDCANCEL);
   EXPECT_EQ(dlg.ModalResult(), IDCANCEL);

@@ -4,6 +4,7 @@
 #include <QTreeWidget>
 #include <csignal>
 
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/CGenerateResponseSpectrumDlg.h"
 #include "dialogs/loads/CResponseSpectraDlg.h"
 #include "dialogs/loads/CResponseSpectrumDataDlg.h"
@@ -14,6 +15,12 @@
 using namespace res;
 
 namespace {
+
+// The generator's controls, found by the members they show.
+using Gen = CGenerateResponseSpectrumDlg;
+const int kCtlSpecCode = frame::IdOf(&Gen::m_nCode);
+const int kCtlSpecValue1 = frame::IdOf(&Gen::m_dValue1);
+const int kCtlSpecValue2 = frame::IdOf(&Gen::m_dValue2);
 
 const char* const kModify =
     "Modifying an existing response spectrum may affect other Norvane models.\nAre you sure to proceed?";
@@ -41,7 +48,7 @@ class SpectraListTest : public SpectraDialogTest {
   }
   // The generator run by the list: choose a code and values, press OK.
   void GenerateNext(int code, const char* v1, const char* v2) {
-    scripts[kTplGenerateResponseSpectrum] = [=](CDialog& d) {
+    scripts[kIddGenerateResponseSpectrum] = [=](CDialog& d) {
       d.ChooseItem(kCtlSpecCode, code);
       d.Item<QLineEdit>(kCtlSpecValue1)->setText(v1);
       d.Item<QLineEdit>(kCtlSpecValue2)->setText(v2);
@@ -85,7 +92,7 @@ TEST_F(SpectraListTest, NewUserSeesTheDefaultAndAddsFromCodeAndFile) {
 TEST_F(SpectraListTest, ModifyAndDeleteAskFirstAndTheFirstStays) {
   Store({kFirst, {"Two", {{0, 1}, {1, 0.5}}}, {"Three", {{0, 1}}}});
   dlg.InitDialogForTest();
-  scripts[kTplResponseSpectrumData] = [](CDialog& d) {
+  scripts[kIddResponseSpectrumData] = [](CDialog& d) {
     auto& data = static_cast<CResponseSpectrumDataDlg&>(d);
     EXPECT_EQ(data.m_otherNames, (std::vector<std::string>{"ASCE_2010_SDS_1_SD1_0.6_TL_8", "Three"}));
     data.Item<QLineEdit>(kCtlSpecName)->setText("Two, edited");

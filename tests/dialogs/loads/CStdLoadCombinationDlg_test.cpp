@@ -2,6 +2,7 @@
 #include <QComboBox>
 #include <QListWidget>
 
+#include "dialogs/frame/Form.h"
 #include "dialogs/loads/CStdLoadCombinationDlg.h"
 #include "resources/loads_ids.h"
 #include "support/DialogTest.h"
@@ -26,19 +27,19 @@ class StdDialogTest : public DialogTest {
 TEST_F(StdDialogTest, ChangingTheCodeResetsTheListAndOkCopiesTheChecks) {
   dlg.m_nCode = 12;  // out of range: the first code
   dlg.InitDialogForTest();
-  EXPECT_EQ(dlg.Item<QComboBox>(kCtlStdCode)->currentIndex(), 0);
+  EXPECT_EQ(dlg.Item<QComboBox>(frame::IdOf(&CStdLoadCombinationDlg::m_nCode))->currentIndex(), 0);
   ASSERT_EQ(List()->count(), 36);
   EXPECT_EQ(List()->item(13)->text().toStdString(), "IBC-2015_Eq16-3g:  1.2D + 1.6Lr - 0.5W");
   dlg.PressButton(kCtlStdSelectAll);
   EXPECT_EQ(Checked(), 36);
-  dlg.ChooseItem(kCtlStdCode, 7);
+  dlg.ChooseItem(frame::IdOf(&CStdLoadCombinationDlg::m_nCode), 7);
   ASSERT_EQ(List()->count(), 10);
   EXPECT_EQ(Checked(), 0);
   dlg.PressButton(kCtlStdSelectAll);
   dlg.PressButton(kCtlStdClearAll);
   List()->item(1)->setCheckState(Qt::Checked);
   List()->item(9)->setCheckState(Qt::Checked);
-  dlg.Item<QCheckBox>(kCtlStdPDelta)->setChecked(true);
+  dlg.Item<QCheckBox>(frame::IdOf(&CStdLoadCombinationDlg::m_bPDelta))->setChecked(true);
   ASSERT_TRUE(dlg.PressButton(IDOK));
   EXPECT_EQ(dlg.ModalResult(), IDOK);
   EXPECT_EQ(dlg.m_nCode, 7);

@@ -151,7 +151,7 @@ TEST_F(ElementDialogTest, RefusalsShowTheirTextKeepTheDialogOpenAndTheModelUncha
   struct Case { Kind kind; const char* newRows; Cells cells; std::string message; grid::CellRef active; };
   const Case cases[] = {
       {kShells, nullptr, {{3, 1, "-1"}},
-       "Invalid input for shell4 1.\nNode-2 must be a node id, a whole number from 0 to 4294967295, not \"-1\".", {3, 1}},
+       "Invalid input for shell4 1.\nNode-2 must be a node id, a whole number from 0 to 2147483647, not \"-1\".", {3, 1}},
       {kMembers, nullptr, {{3, 3, "17"}}, "Invalid input for member 4.\nNode 17 does not exist.", {3, 3}},
       {kBricks, nullptr, {{10, 1, "5: Timber"}},
        "Invalid input for brick 1.\n\"5: Timber\" is not in the list of materials.", {10, 1}},

@@ -1,4 +1,7 @@
+#include <QApplication>
 #include <QLineEdit>
+#include <QTableView>
+#include <QTest>
 
 #include "dialogs/model/CNodeDataDlg.h"
 #include "resources/grid_ids.h"
@@ -59,6 +62,7 @@ TEST_F(NodeDialogTest, RefusalsAndCancelLeaveTheNodesUnchanged) {
   struct Case { std::vector<std::pair<int, int>> cells; const char* text; std::string message; grid::CellRef active; };
   const Case cases[] = {
       {{{2, 1}}, "abc", "Invalid input for node 1.\nX must be a number, not \"abc\".", {2, 1}},
+      {{{1, 1}}, "2147483648", "Invalid node id 2147483648 in row 1: the highest id is 2147483647.", {1, 1}},
       {{{2, 4}, {3, 4}, {4, 4}}, "",
        "Invalid input for existing nodes (7 - 7).\nIf you intend to delete these nodes, cancel this dialog box.\n"
        "Then select these nodes and go to menu Edit | Delete...", {1, 4}},
@@ -118,3 +122,34 @@ TEST_F(NodeDialogTest, RoundOffAndRightClickFillEditTheGrid) {
 }
 
 }  // namespace
+
+TEST_F(NodeDialogTest, EnterInTheCountAddsRowsAndTheGridKeepsTheFocusAfterRefusals) {
+  dlg.m_dEpsilon = 1;
+  Open(dlg);
+  dlg.show();
+  QApplication::setActiveWindow(&dlg);
+  auto* count = dlg.Item<QLineEdit>(res::kCtlNewRowCount);
+  count->setText("2");
+  count->setFocus();
+  QTest::keyClick(count, Qt::Key_Return);
+  EXPECT_EQ(dlg.ModalResult(), 0) << "Enter in the count does not press OK";
+  ASSERT_EQ(sheet().MaxRows(), 6);
+  EXPECT_EQ(sheet().ActiveCell(), (grid::CellRef{1, 5}));
+  QTableView* view = dlg.Spread().view();
+  EXPECT_EQ(QApplication::focusWidget(), view);
+
+  QTest::keyClick(view, Qt::Key_Z, Qt::ControlModifier);  // the new rows are one step
+  EXPECT_EQ(sheet().MaxRows(), 4);
+
+  sheet().SetData(3, 2, "");
+  ASSERT_TRUE(dlg.PressButton(IDOK));
+  EXPECT_EQ(Messages(), std::vector<std::string>{"Invalid empty input for Node 2"});
+  EXPECT_EQ(sheet().ActiveCell(), (grid::CellRef{1, 2}));
+  EXPECT_EQ(QApplication::focusWidget(), view) << "the user moves to the cell and types the fix";
+
+  dlg.PressButton(res::kCtlRoundOff);
+  EXPECT_EQ(sheet().GetData(2, 4), "1235");
+  QTest::keyClick(view, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(sheet().GetData(2, 4), "1234.57") << "round-off is undone with the other edits";
+  EXPECT_EQ(nodes, original);
+}

@@ -71,16 +71,23 @@ TEST(ElementGrid, FillWritesIdsNodesReferencesAndChoices) {
 TEST(ElementGrid, EditedChoicesBecomeReferencesAndFlags) {
   const Lists lists;
   grid::Sheet sheet = Filled(kMembersSample, lists);
-  // Case is ignored; an unknown choice ("something else") reads as the first.
+  // Case is ignored; an unknown status ("something else") sets neither bit, but an unknown
+  // nonlinearity has no reading and is refused.
   for (const auto& [col, row, text] : {std::tuple(3, 1, " 7 "), {4, 1, "2: concrete"}, {5, 1, "3: W12X26"},
                                        {6, 1, "12.5"}, {7, 1, "tension ONLY"}, {8, 1, "inactive"}, {9, 1, "EXCLUDE"},
-                                       {10, 1, "frozen"}, {10, 2, "Normal"}, {7, 3, "something else"}})
+                                       {10, 1, "frozen"}, {10, 2, "Normal"}, {10, 3, "something else"}})
     sheet.SetData(col, row, text);
   const auto result = ReadBack(sheet, kMembersSample, lists);
   ASSERT_FALSE(result.failure) << result.failure->message;
   EXPECT_EQ(result.elements[0], (fmBm{{1, kIna | kNoSw | kFro, 2}, {1, 7}, 3, 12.5, fmNonlinear::TensionOnly}));
   EXPECT_EQ(result.elements[1].flags, kNoSw);
-  EXPECT_EQ(result.elements[2].nonlinear, fmNonlinear::Linear);
+  EXPECT_EQ(result.elements[2].flags, kIna);
+  sheet.SetData(7, 3, "Bogus");
+  const auto refused = ReadBack(sheet, kMembersSample, lists);
+  ASSERT_TRUE(refused.failure);
+  EXPECT_EQ(refused.failure->message,
+            "Invalid input for member 5.\n\"Bogus\" is not one of Linear, Tension only, Compression Only.");
+  EXPECT_EQ(refused.failure->cell, (grid::CellRef{7, 3}));
 }
 
 TEST(ElementGrid, AReferenceOutsideTheListIsNamedByTheLookUp) {

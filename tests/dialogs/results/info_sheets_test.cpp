@@ -29,12 +29,22 @@ CfmStruct Described() {
                   .angle = 90, .nonlinearity = 1, .steelCriteria = "AISC 360", .steelExcluded = true}};
   s.m_Shells = {{.id = 8, .flags = CfmStruct::kInactive, .node = {1, 2, 6, 5}, .material = 1, .thickness = 1}};
   s.m_Bricks = {{.id = 9, .node = {1, 2, 3, 4, 5, 6, 7, 8}, .material = 2}};  // no such material
-  s.m_PointLoads = {{7, "Wind X", 1, true, -2.5, 10}};
-  s.m_LineLoads = {{7, "Dead", 1, false, {-0.5, -0.75}, {0, 20}}};
-  s.m_SurfaceLoads = {{8, "Dead", 1, false, -0.05}};
-  s.m_Solution.nodalLoads = {{3, "Wind X", 0, 4.5}, {3, "Dead", 1, -10}, {3, "Dead", 5, 2}};
-  s.m_Solution.nodalMasses = {{3, 0, 0.25}, {3, 3, 1.5}};
-  s.m_Solution.nodalSprings = {{3, "111000", {100, 200, 300, 4, 5, 6}}};
+  // The loads of the two load cases (the combination has none), in the model's units.
+  s.m_LoadCases = {s.m_Solution.cases[0], s.m_Solution.cases[1]};
+  s.m_CaseLoads.resize(2);
+  fmCaseLoad& dead = s.m_CaseLoads[0];
+  fmCaseLoad& wind = s.m_CaseLoads[1];
+  wind.point = {{7, 0.5, 1, true, -2.5}};
+  dead.line = {{7, {0, 0.75}, {-0.5, -0.75}, 1, false}};
+  dead.surface = {{8, 1, false, -0.05}};
+  wind.nodal = {{3, 0, 4.5}};
+  dead.nodal = {{3, 1, -10}, {3, 5, 2}, {4, 1, -99}};
+  dead.shellThermal = {{8, 25}};
+  dead.brickThermal = {{9, -12.5}};
+  // Weights: 64.3481 kip is a mass of 2 kip-sec^2/ft (g = 32.1740 ft/s^2); 3 kip-ft^2 about
+  // X is 0.0932 kip-sec^2-ft.
+  dead.nodalMasses = {{3, 0, 64.348097113}, {3, 3, 3.0}};
+  s.m_NodalSprings = {{3, {100, 200, 300, 4, 5, 6}}};
   return s;
 }
 
@@ -87,10 +97,10 @@ TEST(NodeInfo, ASupportedNodeWithItsResultsInEachCase) {
 
 TEST(NodeInfo, SpringsLoadsGroupedByCaseAndMasses) {
   CfmStruct s = Described();
-  fmSolution::CoupledSpring coupled;
+  fmCoupledSpring coupled;
   coupled.node = 3;
   for (int i = 0; i < 21; ++i) coupled.k[static_cast<size_t>(i)] = i + 1;
-  s.m_Solution.coupledSprings = {coupled};
+  s.m_CoupledSprings = {coupled};
   s.m_Solution.results[0].nodalSpringReactions = {{3, {1, 2, 3, 4, 5, 6}}};
   s.m_DisplayFormat.fill(0);
   Lines lines;
@@ -104,7 +114,9 @@ TEST(NodeInfo, SpringsLoadsGroupedByCaseAndMasses) {
   EXPECT_EQ(Section(lines, "**NODAL LOADS"), (Lines{"*load case [Dead]", "  Direction = Y;  Magnitude = -10.0 (kip)",
                                                     "  Direction = OZ;  Magnitude = 2.0 (kip-ft)", "*load case [Wind X]",
                                                     "  Direction = X;  Magnitude = 4.5 (kip)"}));
-  EXPECT_EQ(Section(lines, "**ADDITIONAL NODAL MASS")[1], "  Direction = OX;  Magnitude = 1.5 (kip-sec^2-ft)");
+  EXPECT_EQ(Section(lines, "**ADDITIONAL NODAL MASS"),
+            (Lines{"*load case [Dead]", "  Direction = X;  Magnitude = 2.0 (kip-sec^2/ft)",
+                   "  Direction = OX;  Magnitude = 0.1 (kip-sec^2-ft)"}));
   // A node with a spring lists every case; a case without its record says so.
   const Lines springReactions = Section(lines, "**NODAL SPRING REACTIONS");
   EXPECT_EQ(springReactions[1], "  Rx = 1.0;  Ry = 2.0;  Rz = 3.0 (kip)");
@@ -127,7 +139,9 @@ TEST(MemberInfo, PropertiesAxesAndLoadsOfABeam) {
   EXPECT_EQ(Section(lines, "**POINT LOADS")[2], "  Magnitude = -2.500 (kip);  Distance = 10.000 (ft)");
   EXPECT_EQ(Section(lines, "**LINE LOADS"),
             (Lines{"*load case [Dead]", "  Direction = Y;  System = global",
-                   "  Magnitude: Start = -0.500;  End = -0.750 (kip/ft)", "  Distances: Start = 0.000;  End = 20.000 (ft)"}));
+                   "  Magnitude: Start = -0.500;  End = -0.750 (kip/ft)", "  Distances: Start = 0.000;  End = 15.000 (ft)"}))
+      << "ratios 0 and 0.75 of the 20 ft member";
+  EXPECT_EQ(Section(lines, "**Member Thermal Loads"), (Lines{"  None"}));
   EXPECT_EQ(Section(lines, "**INTERNAL FORCES AND MOMENTS")[1], "error finding member 7");
 }
 
@@ -152,11 +166,13 @@ TEST(ShellAndBrickInfo, TheirNodesPropertiesAndLoads) {
        {"  Thickness: 0.666667 (ft)", "  Local z vector (0.0000, -1.0000, 0.0000)", "  Activation: Inactive"})
     EXPECT_NE(std::find(properties.begin(), properties.end(), line), properties.end()) << line;
   EXPECT_EQ(Section(lines, "**SURFACE LOADS")[2], "  Magnitude = -0.050 (kip/ft^2)");
+  EXPECT_EQ(Section(lines, "**Shell4 Thermal Loads"), (Lines{"*load case [Dead]", "  Magnitude = 25.000 (F)"}));
 
   ASSERT_TRUE(GetBrickInfo(s, lines, 9));
   EXPECT_EQ(Lines(lines.begin(), lines.begin() + 5),
             (Lines{"NODES", "  Node-1 = 1;  Node-2 = 2;  Node-3 = 3;  Node-4 = 4",
                    "  Node-5 = 5;  Node-6 = 6;  Node-7 = 7;  Node-8 = 8", "**PROPERTIES", "  Material: None"}));
+  EXPECT_EQ(Section(lines, "**Brick Thermal Loads"), (Lines{"*load case [Dead]", "  Magnitude = -12.500 (F)"}));
 }
 
 TEST(Query, HeadingsPerKindAndUnknownObjects) {

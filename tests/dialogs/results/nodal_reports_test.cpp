@@ -78,7 +78,7 @@ TEST_F(NodalReports, RowsOfNodesTheModelDoesNotHaveAreNamedAndNeverSummed) {
   Multi_DOF_Constraint_Forces(Context(51), 0);
   EXPECT_EQ(Row(1), (Cells{"5", "error finding node 78", "", "", "", "", ""}));
 
-  s.m_Solution.envelopeCombinations = {"Dead"};
+  s.m_EnvelopeCombinations = {"Dead"};
   Support_Reactions_Envelope(Context(56));
   ASSERT_EQ(sheet.MaxRows(), 6);
   EXPECT_EQ(Row(5)[0] + "|" + Row(5)[1] + "|" + Row(5)[2], "77|error finding node 77|");
@@ -89,7 +89,7 @@ TEST_F(NodalReports, AReportWithNoRecordsKeepsItsHeadingsAndHasNoRows) {
   s.m_Solution = fmSolution();
   s.m_Solution.cases = {fmLoadCase(1, "Dead", "Dead-D")};
   s.m_Solution.results.resize(1);
-  s.m_Solution.driftNodes = {3};
+  s.m_DriftNodes = {3};
   const std::pair<std::function<void()>, const char*> reports[] = {
       {[&] { Node_Displacements(Context(0), {}); }, "Node Id|Dx [in]|Dy [in]|Dz [in]|Dox [rad]|Doy [rad]|Doz [rad]"},
       {[&] { Node_Forces(Context(38), 0, {}); }, "Node Id|Fx [kip]|Fy [kip]|Fz [kip]|Mx [kip-ft]|My [kip-ft]|Mz [kip-ft]"},
@@ -144,7 +144,7 @@ TEST_F(NodalReports, ConstraintForcesNameTheirDegreesOfFreedom) {
 TEST_F(NodalReports, StoryDriftRatioUsesBothUnitFactors) {
   // Heights in ft, displacements in in: a drift of 0.72 in over a 12 ft storey is 0.5 %.
   s.m_Nodes.push_back({5, 0, 0, 24, 0});
-  s.m_Solution.driftNodes = {3, 5};
+  s.m_DriftNodes = {3, 5};
   s.m_DisplayFormat[fmUnit::Displacement] = 3;
   s.m_Solution.results[1].displacements = {{3, {0.72, 0, 0.12, 0, 0, 0}}, {5, {1.08, 0, 0.12, 0, 0, 0}}};
   Story_Drift(Context(33), 1, s.m_Solution.results[1].displacements);
@@ -153,10 +153,14 @@ TEST_F(NodalReports, StoryDriftRatioUsesBothUnitFactors) {
   // The first drift node against the base, which does not move.
   EXPECT_EQ(Row(1), (Cells{"3", "12.000", "0.7200", "0.7200", "0.500 %", "0.1200", "0.1200", "0.083 %"}));
   EXPECT_EQ(Row(2), (Cells{"5", "12.000", "1.0800", "0.3600", "0.250 %", "0.1200", "0.0000", "0.000 %"}));
+  // A workbook gets the ratios themselves, unrounded: 0.12 in over 144 in.
+  EXPECT_DOUBLE_EQ(sheet.GetNumber(5, 1).value_or(-1), 0.005);
+  EXPECT_DOUBLE_EQ(sheet.GetNumber(8, 1).value_or(-1), 0.12 / 144);
+  EXPECT_DOUBLE_EQ(sheet.GetNumber(2, 2).value_or(-1), 12);
 }
 
 TEST_F(NodalReports, StoryDriftNamesMissingNodesAndLevelNodesHaveNoRatio) {
-  s.m_Solution.driftNodes = {77, 3, 4};
+  s.m_DriftNodes = {77, 3, 4};
   Story_Drift(Context(33), 1, s.m_Solution.results[1].displacements);
   ASSERT_EQ(sheet.MaxRows(), 3);
   EXPECT_EQ(Row(1)[1], "error finding node 77");
@@ -166,7 +170,7 @@ TEST_F(NodalReports, StoryDriftNamesMissingNodesAndLevelNodesHaveNoRatio) {
 }
 
 TEST_F(NodalReports, EnvelopesShowMaximaAndMinimaWithOneBasedCombinationNumbers) {
-  s.m_Solution.envelopeCombinations = {"WIND X", "d+w", "missing"};  // cases 2 and 3, named without regard to case
+  s.m_EnvelopeCombinations = {"WIND X", "d+w", "missing"};  // cases 2 and 3, named without regard to case
   Node_Displacements_Envelope(Context(55));
   ASSERT_EQ(sheet.MaxRows(), 8);
   EXPECT_EQ(Row(0), (Cells{"Node Id", "max/min", "Dx [in]", "Comb#", "Dy [in]", "Comb#", "Dz [in]", "Comb#",
@@ -180,7 +184,7 @@ TEST_F(NodalReports, EnvelopesShowMaximaAndMinimaWithOneBasedCombinationNumbers)
   EXPECT_EQ(Row(3), (Cells{"2", "max", "-1.500", "2", "20.900", "3", "0.000", "2", "0.000", "2", "0.000", "2",
                            "9.000", "2"}));
 
-  s.m_Solution.envelopeCombinations.clear();
+  s.m_EnvelopeCombinations.clear();
   Node_Displacements_Envelope(Context(55));
   EXPECT_EQ(sheet.MaxRows(), 0);
 }

@@ -68,5 +68,7 @@ TEST(BuildReport, DispatchesEachKindToItsBuilderWithTheComboChoice) {
     EXPECT_EQ(sheet.GetData(2, 0), c.heading2) << c.kind;
   }
   EXPECT_TRUE(IsReportBuilt(56));
-  EXPECT_FALSE(IsReportBuilt(57));
+  EXPECT_TRUE(IsReportBuilt(57));
+  EXPECT_FALSE(IsReportBuilt(9));
+  EXPECT_FALSE(IsReportBuilt(58));
 }

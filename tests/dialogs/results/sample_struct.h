@@ -28,8 +28,8 @@ inline CfmStruct SampleStruct() {
   sol.spectrumModes = {mode};
   sol.spectrum.displacements = {{3, {0.25, 0, 0, 0, 0, 0}}};
   sol.spectrum.reactions = {{1, {1, 0, 0, 0, 0, 0}}};
-  sol.envelopeCombinations = {"dead", "D+W"};
-  sol.driftNodes = {3};
-  sol.supports = {{1, "111111", {}}, {2, "111111", {}}};
+  s.m_EnvelopeCombinations = {"dead", "D+W"};
+  s.m_DriftNodes = {3};
+  s.m_Supports = {fmSupport::Fixed(1), fmSupport::Fixed(2)};
   return s;
 }

@@ -1,0 +1,160 @@
+#pragma once
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "dialogs/boundary/boundary_grid.h"
+#include "dialogs/grid/CDataGridDlg.h"
+
+// What the boundary and connection tables share: the model's nodes, members and shells the
+// rows are checked against, "Delete Rows" (a record goes by deleting its row), and the
+// boundary-table engine's fill and read. OK replaces the table's record kind and nothing else.
+class CBoundaryDataDlg : public CDataGridDlg {
+ public:
+  std::vector<fmNd>* m_pNodes = nullptr;
+  std::vector<fmBm>* m_pMembers = nullptr;
+  std::vector<fmShell4>* m_pShells = nullptr;
+
+  std::string PrintTitle() const override { return Table().Texts().printTitle; }
+
+ protected:
+  CBoundaryDataDlg(int templateId, QWidget* pParent);
+
+  void PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) override;
+  // Deletes the selected rows (the active cell's row when nothing is selected) as one step.
+  void OnDeleteRows();
+
+  // The table the grid shows now.
+  virtual boundarygrid::TableBase& Table() const = 0;
+  boundarygrid::Objects Objects() const;
+
+  template <class Record>
+  void FillFrom(boundarygrid::Table<Record>& table, const std::vector<Record>& records) {
+    TSpread::RedrawGuard guard(m_Spread);
+    table.Fill(m_Spread.sheet(), records, Objects(), *m_pUnits, m_crAlternateRowColor, IsReadOnly(),
+               m_bShowSelectedOnly);
+  }
+  // Reads the grid into `out`; shows the first failure and leaves `out` as it was.
+  template <class Record>
+  bool ReadInto(const boundarygrid::Table<Record>& table, std::vector<Record>& out) {
+    boundarygrid::ReadResult<Record> result = table.Read(m_Spread.sheet(), Objects());
+    if (!m_Spread.ShowFailure(result.failure)) return false;
+    out = std::move(result.records);
+    return true;
+  }
+};
+
+class CSuptDataDlg : public CBoundaryDataDlg {
+ public:
+  explicit CSuptDataDlg(QWidget* pParent = nullptr);
+  std::vector<fmSupport>* m_pSupports = nullptr;
+
+ protected:
+  void Refresh() override;
+  bool Save() override;
+  boundarygrid::TableBase& Table() const override { return table_; }
+
+ private:
+  mutable boundarygrid::SupportTable table_;
+};
+
+// Springs to ground of nodes, members (line springs) or shells (surface springs), one kind
+// at a time, chosen by "Springs of:". Changing the kind keeps what the grid holds when it
+// reads; OK writes all three kinds.
+class CSpringDataDlg : public CBoundaryDataDlg {
+ public:
+  enum SpringType { kNodal = 0, kLine = 1, kSurface = 2 };
+  explicit CSpringDataDlg(QWidget* pParent = nullptr);
+  std::vector<fmNodalSpring>* m_pNodalSprings = nullptr;
+  std::vector<fmLineSpring>* m_pLineSprings = nullptr;
+  std::vector<fmSurfaceSpring>* m_pSurfaceSprings = nullptr;
+  int32_t m_nSpringType = kNodal;  // the kind shown first
+
+ protected:
+  BOOL OnInitDialog() override;
+  void Refresh() override;
+  bool Save() override;
+  boundarygrid::TableBase& Table() const override;
+  void OnSpringTypeChange();
+
+ private:
+  // Reads the kind shown into its working copy.
+  bool ReadShown();
+  mutable boundarygrid::NodalSpringTable nodal_;
+  mutable boundarygrid::LineSpringTable line_;
+  mutable boundarygrid::SurfaceSpringTable surface_;
+  std::vector<fmNodalSpring> nodalCopy_;
+  std::vector<fmLineSpring> lineCopy_;
+  std::vector<fmSurfaceSpring> surfaceCopy_;
+};
+
+class CCoupledSpringDataDlg : public CBoundaryDataDlg {
+ public:
+  explicit CCoupledSpringDataDlg(QWidget* pParent = nullptr);
+  std::vector<fmCoupledSpring>* m_pCoupledSprings = nullptr;
+
+ protected:
+  void Refresh() override;
+  bool Save() override;
+  boundarygrid::TableBase& Table() const override { return table_; }
+
+ private:
+  mutable boundarygrid::CoupledSpringTable table_;
+};
+
+class CMomentReleasesDataDlg : public CBoundaryDataDlg {
+ public:
+  explicit CMomentReleasesDataDlg(QWidget* pParent = nullptr);
+  std::vector<fmMemberRelease>* m_pReleases = nullptr;
+
+ protected:
+  void Refresh() override;
+  bool Save() override;
+  boundarygrid::TableBase& Table() const override { return table_; }
+
+ private:
+  mutable boundarygrid::ReleaseTable table_;
+};
+
+class CMultiDofConstraintDataDlg : public CBoundaryDataDlg {
+ public:
+  explicit CMultiDofConstraintDataDlg(QWidget* pParent = nullptr);
+  std::vector<fmConstraint>* m_pConstraints = nullptr;
+
+ protected:
+  void Refresh() override;
+  bool Save() override;
+  boundarygrid::TableBase& Table() const override { return table_; }
+
+ private:
+  mutable boundarygrid::ConstraintTable table_;
+};
+
+class CDiaphragmDataDlg : public CBoundaryDataDlg {
+ public:
+  explicit CDiaphragmDataDlg(QWidget* pParent = nullptr);
+  std::vector<fmDiaphragm>* m_pDiaphragms = nullptr;
+
+ protected:
+  void Refresh() override;
+  bool Save() override;
+  boundarygrid::TableBase& Table() const override { return table_; }
+
+ private:
+  mutable boundarygrid::DiaphragmTable table_;
+};
+
+// The drift stack, from the bottom up, in row order.
+class CDriftNodeDataDlg : public CBoundaryDataDlg {
+ public:
+  explicit CDriftNodeDataDlg(QWidget* pParent = nullptr);
+  std::vector<uint32_t>* m_pDriftNodes = nullptr;
+
+ protected:
+  void Refresh() override;
+  bool Save() override;
+  boundarygrid::TableBase& Table() const override { return table_; }
+
+ private:
+  mutable boundarygrid::DriftNodeTable table_;
+};
