@@ -551,23 +551,10 @@ void TableBase::PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) {
 void TableBase::DeleteRows(grid::Sheet& sheet, int row1, int row2) {
   const int rows = sheet.MaxRows();
   row1 = std::max(row1, 1);
-  row2 = std::min(row2, rows);
-  if (row1 > row2) return;
-  const int count = row2 - row1 + 1;
-  const int cols = sheet.MaxCols();
-  for (int row = row1; row + count <= rows; ++row)
-    for (int col = 1; col <= cols; ++col) {
-      const int from = row + count;
-      const std::string text = sheet.GetData(col, from);
-      if (sheet.IsNumber(col, from))
-        sheet.SetNumber(col, row, text);
-      else
-        sheet.SetData(col, row, text);
-      sheet.SetLock(col, row, sheet.IsCellLocked(col, from));
-    }
-  sheet.SetMaxRows(rows - count);
+  const int count = grid::RemoveRows(sheet, row1, row2);
+  if (count == 0) return;
   origins_.resize(static_cast<size_t>(rows), -1);
-  origins_.erase(origins_.begin() + (row1 - 1), origins_.begin() + row2);
+  origins_.erase(origins_.begin() + (row1 - 1), origins_.begin() + (row1 - 1 + count));
   if (sheet.ActiveCell().row > sheet.MaxRows()) sheet.SetActiveCell(1, sheet.MaxRows());
 }
 

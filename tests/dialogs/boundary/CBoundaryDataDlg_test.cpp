@@ -9,7 +9,6 @@
 #include <memory>
 
 #include "dialogs/boundary/CBoundaryDataDlg.h"
-#include "resources/boundary_ids.h"
 #include "resources/grid_ids.h"
 #include "support/DialogTest.h"
 
@@ -132,7 +131,7 @@ TEST_F(BoundaryDialogTest, EveryGridOpensWithItsCaptionAndOkWithoutEditsKeepsThe
     SCOPED_TRACE(caption);
     EXPECT_EQ(dlg.windowTitle().toStdString(), caption);
     EXPECT_EQ(dlg.PrintTitle(), title);
-    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlDeleteRows), "Delete Rows");
+    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGridEditAction), "Delete Rows");
     EXPECT_EQ(sheet().MaxRows(), rows);
     ASSERT_TRUE(dlg.PressButton(IDOK));
     EXPECT_EQ(dlg.ModalResult(), IDOK);
@@ -256,7 +255,7 @@ TEST_F(BoundaryDialogTest, EachGridRefusesAnUnknownNodeAndASecondRecordAndLeaves
 TEST_F(BoundaryDialogTest, DeleteRowsRemovesASupportAndUndoBringsItBackWithItsPrecision) {
   Open<CSuptDataDlg>();
   Click(3, 1);
-  ASSERT_TRUE(dialog->PressButton(res::kCtlDeleteRows));
+  ASSERT_TRUE(dialog->PressButton(res::kCtlGridEditAction));
   ASSERT_EQ(sheet().MaxRows(), 1);
   EXPECT_EQ(sheet().GetData(1, 1), "2");
   view()->setFocus();
@@ -271,7 +270,7 @@ TEST_F(BoundaryDialogTest, DeleteRowsRemovesASupportAndUndoBringsItBackWithItsPr
 
   Open<CSuptDataDlg>();
   Click(1, 1);
-  ASSERT_TRUE(dialog->PressButton(res::kCtlDeleteRows));
+  ASSERT_TRUE(dialog->PressButton(res::kCtlGridEditAction));
   // The row that stays may not be emptied: the refusal of emptied existing rows still holds.
   Click(1, 1);
   Press(Qt::Key_Delete);
@@ -286,18 +285,19 @@ TEST_F(BoundaryDialogTest, DeleteRowsRemovesASupportAndUndoBringsItBackWithItsPr
 
 TEST_F(BoundaryDialogTest, TheSpringGridShowsOneKindAtATimeAndOkWritesEveryKindEdited) {
   CSpringDataDlg& dlg = Open<CSpringDataDlg>();
+  const int springType = frame::IdOf(&CSpringDataDlg::m_nSpringType);
   TypeInto(4, 1, "60");
-  ASSERT_TRUE(dlg.ChooseItem(res::kCtlSpringType, CSpringDataDlg::kLine));
+  ASSERT_TRUE(dlg.ChooseItem(springType, CSpringDataDlg::kLine));
   EXPECT_EQ(sheet().GetData(1, 0), "Member Id");
   EXPECT_EQ(Row(1), (Texts{"1", "0", "12.5", "0"}));
   EXPECT_EQ(sheet().GetData(2, 0), "Kx [kip/ft^2]");
   TypeInto(1, 1, "7");
   // A grid that does not read keeps its kind.
-  ASSERT_TRUE(dlg.ChooseItem(res::kCtlSpringType, CSpringDataDlg::kSurface));
+  ASSERT_TRUE(dlg.ChooseItem(springType, CSpringDataDlg::kSurface));
   EXPECT_EQ(Messages(), Texts{"Invalid input for line spring on member 7.\nMember 7 does not exist."});
-  EXPECT_EQ(dlg.Item<QComboBox>(res::kCtlSpringType)->currentIndex(), CSpringDataDlg::kLine);
+  EXPECT_EQ(dlg.Item<QComboBox>(springType)->currentIndex(), CSpringDataDlg::kLine);
   TypeInto(1, 1, "2");
-  ASSERT_TRUE(dlg.ChooseItem(res::kCtlSpringType, CSpringDataDlg::kSurface));
+  ASSERT_TRUE(dlg.ChooseItem(springType, CSpringDataDlg::kSurface));
   EXPECT_EQ(sheet().GetData(1, 0), "Shell4 Id");
   AddNewRows("1");
   Type("1");
@@ -306,7 +306,7 @@ TEST_F(BoundaryDialogTest, TheSpringGridShowsOneKindAtATimeAndOkWritesEveryKindE
   Press(Qt::Key_Tab);
   Type("4");
   Press(Qt::Key_Return);
-  ASSERT_TRUE(dlg.ChooseItem(res::kCtlSpringType, CSpringDataDlg::kNodal));
+  ASSERT_TRUE(dlg.ChooseItem(springType, CSpringDataDlg::kNodal));
   EXPECT_EQ(sheet().GetData(4, 1), "60") << "the nodal kind's edit was kept";
   EXPECT_EQ(host, original) << "nothing reaches the model before OK";
   ASSERT_TRUE(dlg.PressButton(IDOK));
@@ -324,9 +324,9 @@ TEST_F(BoundaryDialogTest, ALockedModelShowsTheRecordsReadOnly) {
   EXPECT_TRUE(sheet().IsLockedAll());
   EXPECT_FALSE(dlg.GetDlgItem(IDOK)->isEnabled());
   EXPECT_FALSE(dlg.GetDlgItem(res::kCtlNewRows)->isEnabled());
-  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlDeleteRows)->isEnabled());
+  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlGridEditAction)->isEnabled());
   Click(1, 1);
-  dlg.PressButton(res::kCtlDeleteRows);
+  dlg.PressButton(res::kCtlGridEditAction);
   EXPECT_EQ(sheet().MaxRows(), 1);
   EXPECT_EQ(host, original);
 }

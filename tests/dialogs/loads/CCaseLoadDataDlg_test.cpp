@@ -7,7 +7,6 @@
 #include <memory>
 
 #include "dialogs/loads/CCaseLoadDataDlg.h"
-#include "resources/case_loads_ids.h"
 #include "resources/grid_ids.h"
 #include "support/DialogTest.h"
 
@@ -92,7 +91,7 @@ TEST_F(CaseLoadDialogTest, EveryLoadTableOpensWithItsCaptionAndOkWithoutEditsKee
     SCOPED_TRACE(caption);
     EXPECT_EQ(dlg.windowTitle().toStdString(), caption);
     EXPECT_EQ(dlg.PrintTitle(), title);
-    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlLoadDeleteRows), "Delete Rows");
+    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGridEditAction), "Delete Rows");
     ASSERT_TRUE(dlg.PressButton(IDOK));
     EXPECT_EQ(dlg.ModalResult(), IDOK);
   };
@@ -166,7 +165,7 @@ TEST_F(CaseLoadDialogTest, DeleteRowsRemovesTheSelectedLoadsAndUndoBringsThemBac
   Show();
   Click(3, 2);
   Click(3, 3, Qt::ShiftModifier);
-  ASSERT_TRUE(dialog->PressButton(res::kCtlLoadDeleteRows));
+  ASSERT_TRUE(dialog->PressButton(res::kCtlGridEditAction));
   ASSERT_EQ(sheet().MaxRows(), 1);
   EXPECT_EQ(sheet().GetData(7, 1), "-2.12346");
   view()->setFocus();
@@ -181,7 +180,7 @@ TEST_F(CaseLoadDialogTest, DeleteRowsRemovesTheSelectedLoadsAndUndoBringsThemBac
 
   Open();
   Click(1, 1);
-  ASSERT_TRUE(dialog->PressButton(res::kCtlLoadDeleteRows));  // the active cell's row
+  ASSERT_TRUE(dialog->PressButton(res::kCtlGridEditAction));  // the active cell's row
   ASSERT_TRUE(dialog->PressButton(IDOK));
   EXPECT_EQ(host.caseLoads[0].point, (std::vector<fmPtLoad>{original.caseLoads[0].point[1]}));
   EXPECT_EQ(host.caseLoads[0].nodal, original.caseLoads[0].nodal);
@@ -207,8 +206,8 @@ TEST_F(CaseLoadDialogTest, ALockedModelShowsTheLoadsReadOnly) {
   EXPECT_TRUE(sheet().IsLockedAll());
   EXPECT_FALSE(dlg.GetDlgItem(IDOK)->isEnabled());
   EXPECT_FALSE(dlg.GetDlgItem(res::kCtlNewRows)->isEnabled());
-  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlLoadDeleteRows)->isEnabled());
-  dlg.PressButton(res::kCtlLoadDeleteRows);
+  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlGridEditAction)->isEnabled());
+  dlg.PressButton(res::kCtlGridEditAction);
   EXPECT_EQ(sheet().MaxRows(), 1);
   EXPECT_EQ(host, original);
 }
