@@ -4,8 +4,7 @@
 
 namespace analysis {
 
-void StiffnessFactor::Factor(const SparseMatrix& upper, const std::function<std::string(Eigen::Index)>& label,
-                             const Eigen::VectorXd& untied) {
+void StiffnessFactor::Factor(const SparseMatrix& upper, const std::function<std::string(Eigen::Index)>& label) {
   if (upper.rows() == 0) return;
   ldlt_.compute(upper);
   // The factorisation stops at the first pivot that is not positive; find it in elimination
@@ -17,8 +16,7 @@ void StiffnessFactor::Factor(const SparseMatrix& upper, const std::function<std:
   Eigen::Index worst = -1;
   for (Eigen::Index step = 0; step < upper.rows() && worst < 0; ++step) {
     const Eigen::Index i = eliminatedAt[static_cast<size_t>(step)];
-    const double diagonal = untied.size() == upper.rows() ? untied[i] : upper.coeff(i, i);
-    if (!(d[step] > kMechanismPivotRatio * diagonal)) worst = i;
+    if (!(d[step] > kMechanismPivotRatio * upper.coeff(i, i))) worst = i;
   }
   if (worst >= 0)
     throw AnalysisError(label(worst) + " is free to move: the model is unstable (a mechanism) there.");

@@ -13,10 +13,8 @@ namespace analysis {
 
 class StiffnessFactor {
  public:
-  // `label` names an equation for the message. A pivot is measured against `untied` (per
-  // equation; the diagonal itself when empty). Throws AnalysisError.
-  void Factor(const SparseMatrix& upper, const std::function<std::string(Eigen::Index)>& label,
-              const Eigen::VectorXd& untied = {});
+  // `label` names an equation for the message. Throws AnalysisError.
+  void Factor(const SparseMatrix& upper, const std::function<std::string(Eigen::Index)>& label);
   Eigen::VectorXd Solve(const Eigen::VectorXd& b) const { return ldlt_.solve(b); }
   Eigen::MatrixXd Solve(const Eigen::MatrixXd& b) const { return ldlt_.solve(b); }
   Eigen::Index Size() const { return ldlt_.rows(); }

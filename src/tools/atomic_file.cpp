@@ -130,10 +130,12 @@ void WriteFileAtomically(const std::string& path, std::string_view contents) {
     ::unlink(temp.c_str());
     throw;
   }
-  if (::fsync(fd) != 0 || ::close(fd) != 0) {
-    const int err = errno;
+  // A full disk may only show when the data reaches it; the descriptor is closed either way.
+  const int synced = ::fsync(fd) == 0 ? 0 : errno;
+  const int closed = ::close(fd) == 0 ? 0 : errno;
+  if (synced != 0 || closed != 0) {
     ::unlink(temp.c_str());
-    Fail("write", path, err);
+    Fail("write", path, synced != 0 ? synced : closed);
   }
   RenameInto(temp, target, path);
 }

@@ -40,7 +40,7 @@ class FileReplacement {
 };
 // Appends, creating the file when missing; never truncates what is there.
 void AppendToFile(const std::string& path, std::string_view contents);
-// For writers that write a file by name (a workbook library): `write` fills an empty file
+// For writers that open the file themselves (by name): `write` fills an empty file
 // made beside `path`, which is then renamed into place; if `write` throws, the file is
 // removed and the old one stays.
 void ReplaceFileWith(const std::string& path, const std::function<void(const std::string& tempPath)>& write);
