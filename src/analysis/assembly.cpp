@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <optional>
 
 #include "analysis/continuum.h"
 
@@ -10,10 +11,6 @@ namespace analysis {
 namespace {
 
 constexpr double kRigidFactor = 1e6;    // a rigid link against the stiffest member
-// Constraints and diaphragms are this many times stiffer than what they tie: rigid to a
-// ten-thousandth, with the equations well enough conditioned that every result balances its
-// loads to about 1e-9.
-constexpr double kPenaltyFactor = 1e4;
 
 void CheckNode(const Model& model, size_t node, const char* what) {
   if (node >= model.nodes.size()) throw AnalysisError(std::string(what) + " names a node the model does not have.");
@@ -32,12 +29,6 @@ std::vector<std::vector<size_t>> NodeNeighbours(const Model& model, const Member
     if (active.empty() || active[m]) link(model.members[m].nodes.data(), 2);
   for (const Shell& s : model.shells) link(s.nodes.data(), 4);
   for (const Brick& b : model.bricks) link(b.nodes.data(), 8);
-  for (const Constraint& c : model.constraints) link(c.nodes.data(), 2);
-  for (const Diaphragm& d : model.diaphragms)
-    for (size_t k = 1; k < d.nodes.size(); ++k) {
-      const size_t pair[2] = {d.nodes[0], d.nodes[k]};
-      link(pair, 2);
-    }
   for (auto& list : adj) {
     std::sort(list.begin(), list.end());
     list.erase(std::unique(list.begin(), list.end()), list.end());
@@ -88,16 +79,101 @@ void AddSymmetric(SparseMatrix& k, const size_t* dofs, int count, const Mat& m) 
   }
 }
 
-// Adds α c cᵀ for a constraint c · u = 0 given as (global DOF, coefficient) pairs.
-void AddPenalty(SparseMatrix& k, const std::vector<std::pair<size_t, double>>& c, double alpha) {
-  std::vector<size_t> dofs;
-  Eigen::MatrixXd m(c.size(), c.size());
-  for (size_t i = 0; i < c.size(); ++i) {
-    dofs.push_back(c[i].first);
-    for (size_t j = 0; j < c.size(); ++j) m(static_cast<Eigen::Index>(i), static_cast<Eigen::Index>(j)) = alpha * c[i].second * c[j].second;
+using Terms = std::vector<std::pair<size_t, double>>;
+
+// Ties relations Σ c u = 0 one at a time. Each relation is first written in the degrees of
+// freedom that are not yet slaves; one of those that no support holds becomes its slave,
+// and the slaves that followed it now follow what it follows. A relation that comes down to
+// nothing (already implied, or between held degrees of freedom only) ties nothing.
+class Ties {
+ public:
+  Ties(size_t dofs, const std::vector<char>& held) : held_(held), expr_(dofs), slave_(dofs, 0), usedBy_(dofs) {}
+
+  void Add(const Terms& relation) {
+    const Terms terms = Substitute(relation);
+    double largest = 0;
+    for (const auto& [dof, c] : terms) largest = std::max(largest, std::abs(c));
+    // The relation's first degree of freedom is its slave unless that cannot be; otherwise
+    // the one with the largest coefficient that the fewest slaves follow.
+    long pick = -1;
+    for (size_t i = 0; i < terms.size(); ++i) {
+      const auto& [dof, c] = terms[i];
+      if (held_[dof] || std::abs(c) < 1e-3 * largest) continue;
+      if (dof == relation.front().first) {
+        pick = static_cast<long>(i);
+        break;
+      }
+      if (pick < 0 || std::abs(c) > std::abs(terms[static_cast<size_t>(pick)].second) ||
+          (std::abs(c) == std::abs(terms[static_cast<size_t>(pick)].second) &&
+           usedBy_[dof].size() < usedBy_[terms[static_cast<size_t>(pick)].first].size()))
+        pick = static_cast<long>(i);
+    }
+    if (pick < 0) return;
+    const auto [s, cs] = terms[static_cast<size_t>(pick)];
+    Terms e;
+    for (const auto& [dof, c] : terms)
+      if (dof != s) e.push_back({dof, -c / cs});
+    // Slaves that followed s follow its expression instead.
+    for (size_t t : usedBy_[s]) {
+      Terms& et = expr_[t];
+      const auto at = std::find_if(et.begin(), et.end(), [&](const auto& p) { return p.first == s; });
+      if (at == et.end()) continue;
+      const double factor = at->second;
+      et.erase(at);
+      for (const auto& [dof, c] : e) AddTerm(et, dof, factor * c);
+      for (const auto& [dof, c] : e) usedBy_[dof].push_back(t);
+    }
+    usedBy_[s].clear();
+    for (const auto& [dof, c] : e) usedBy_[dof].push_back(s);
+    expr_[s] = std::move(e);
+    slave_[s] = 1;
   }
-  AddSymmetric(k, dofs.data(), static_cast<int>(dofs.size()), m);
-}
+
+  bool IsSlave(size_t dof) const { return slave_[dof] != 0; }
+
+  SparseMatrix Matrix() const {
+    std::vector<Eigen::Triplet<double, int>> entries;
+    for (size_t d = 0; d < slave_.size(); ++d) {
+      if (!slave_[d]) entries.emplace_back(static_cast<int>(d), static_cast<int>(d), 1.0);
+      for (const auto& [dof, c] : expr_[d])
+        if (c != 0) entries.emplace_back(static_cast<int>(d), static_cast<int>(dof), c);
+    }
+    const auto n = static_cast<Eigen::Index>(slave_.size());
+    SparseMatrix t(n, n);
+    t.setFromTriplets(entries.begin(), entries.end());
+    return t;
+  }
+
+ private:
+  static void AddTerm(Terms& terms, size_t dof, double c) {
+    for (auto& p : terms)
+      if (p.first == dof) {
+        p.second += c;
+        return;
+      }
+    terms.push_back({dof, c});
+  }
+
+  Terms Substitute(const Terms& relation) const {
+    Terms out;
+    for (const auto& [dof, c] : relation) {
+      if (c == 0) continue;
+      if (slave_[dof])
+        for (const auto& [e, ce] : expr_[dof]) AddTerm(out, e, c * ce);
+      else
+        AddTerm(out, dof, c);
+    }
+    double largest = 0;
+    for (const auto& p : out) largest = std::max(largest, std::abs(p.second));
+    std::erase_if(out, [&](const auto& p) { return std::abs(p.second) <= 1e-12 * largest; });
+    return out;
+  }
+
+  const std::vector<char>& held_;
+  std::vector<Terms> expr_;  // per slave: what it follows
+  std::vector<char> slave_;
+  std::vector<std::vector<size_t>> usedBy_;  // per degree of freedom: slaves that may follow it
+};
 
 std::array<size_t, 12> MemberDofs(const Member& m) {
   std::array<size_t, 12> dofs{};
@@ -275,50 +351,6 @@ GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& acti
         k.coeffRef(static_cast<Eigen::Index>(GlobalDof(sh.nodes[a], d)), static_cast<Eigen::Index>(GlobalDof(sh.nodes[a], d))) += share[a] * s.k[static_cast<size_t>(d)];
   }
 
-  std::vector<double> untied;
-  if (!model.constraints.empty() || !model.diaphragms.empty()) {
-    untied.resize(6 * model.nodes.size());
-    for (size_t dof = 0; dof < untied.size(); ++dof)
-      untied[dof] = k.coeff(static_cast<Eigen::Index>(dof), static_cast<Eigen::Index>(dof));
-  }
-  // Constraints and diaphragms as stiff penalties on rigid-body relations, so they pass
-  // forces without taking any from outside. Each relation is made stiffer than what its own
-  // degrees of freedom have, by the penalty factor, in that relation's direction: one scale
-  // for the whole model would be far too stiff for translations when rotations set it.
-  if (!model.constraints.empty() || !model.diaphragms.empty()) {
-    double largest = 0;
-    for (double d : untied) largest = std::max(largest, std::abs(d));
-    const auto tie = [&](const std::vector<std::pair<size_t, double>>& c) {
-      double own = 0;
-      for (const auto& [dof, coefficient] : c)
-        if (coefficient != 0) own = std::max(own, std::abs(untied[dof]) / (coefficient * coefficient));
-      const double alpha = kPenaltyFactor * (own > 0 ? own : std::max(largest, 1.0));
-      AddPenalty(k, c, alpha);
-      return alpha;
-    };
-    for (const Constraint& c : model.constraints) {
-      CheckNode(model, c.nodes[0], "A constraint");
-      CheckNode(model, c.nodes[1], "A constraint");
-      out.constraintPenalty.push_back(
-          tie({{GlobalDof(c.nodes[0], c.dofs[0]), 1.0}, {GlobalDof(c.nodes[1], c.dofs[1]), -1.0}}));
-    }
-    for (const Diaphragm& d : model.diaphragms) {
-      if (d.nodes.empty()) continue;
-      const size_t master = d.nodes[0];
-      CheckNode(model, master, "A diaphragm");
-      const Node& mn = model.nodes[master];
-      for (size_t i = 1; i < d.nodes.size(); ++i) {
-        const size_t s = d.nodes[i];
-        CheckNode(model, s, "A diaphragm");
-        const double dx = model.nodes[s].x - mn.x, dz = model.nodes[s].z - mn.z;
-        // A rigid turn θy about the master moves a point by (θy dz, 0, -θy dx).
-        tie({{GlobalDof(s, Ux), 1.0}, {GlobalDof(master, Ux), -1.0}, {GlobalDof(master, Ry), -dz}});
-        tie({{GlobalDof(s, Uz), 1.0}, {GlobalDof(master, Uz), -1.0}, {GlobalDof(master, Ry), dx}});
-        tie({{GlobalDof(s, Ry), 1.0}, {GlobalDof(master, Ry), -1.0}});
-      }
-    }
-  }
-
   // Held: supports, and what nothing stiffens.
   const size_t n = 6 * model.nodes.size();
   std::vector<char> held(n, 0);
@@ -327,26 +359,87 @@ GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& acti
     for (int d = 0; d < 6; ++d)
       if (s.held[static_cast<size_t>(d)]) held[GlobalDof(s.node, d)] = 1;
   }
+
+  // Constraints and diaphragms: rigid-body relations between degrees of freedom, so they pass
+  // forces without taking any from outside.
+  std::vector<Terms> relations;
+  for (const Constraint& c : model.constraints) {
+    CheckNode(model, c.nodes[0], "A constraint");
+    CheckNode(model, c.nodes[1], "A constraint");
+    for (int dof : c.dofs)
+      if (dof < 0 || dof > 5) throw AnalysisError("Constraint " + std::to_string(c.id) + " has no direction.");
+    relations.push_back({{GlobalDof(c.nodes[1], c.dofs[1]), 1.0}, {GlobalDof(c.nodes[0], c.dofs[0]), -1.0}});
+  }
+  for (const Diaphragm& d : model.diaphragms) {
+    if (d.nodes.empty()) continue;
+    const size_t master = d.nodes[0];
+    CheckNode(model, master, "A diaphragm");
+    const Node& mn = model.nodes[master];
+    for (size_t i = 1; i < d.nodes.size(); ++i) {
+      const size_t s = d.nodes[i];
+      CheckNode(model, s, "A diaphragm");
+      if (s == master) continue;
+      const double dx = model.nodes[s].x - mn.x, dz = model.nodes[s].z - mn.z;
+      // A rigid turn θy about the master moves a point by (θy dz, 0, -θy dx).
+      relations.push_back({{GlobalDof(s, Ux), 1.0}, {GlobalDof(master, Ux), -1.0}, {GlobalDof(master, Ry), -dz}});
+      relations.push_back({{GlobalDof(s, Uz), 1.0}, {GlobalDof(master, Uz), -1.0}, {GlobalDof(master, Ry), dx}});
+      relations.push_back({{GlobalDof(s, Ry), 1.0}, {GlobalDof(master, Ry), -1.0}});
+    }
+  }
+  std::optional<Ties> ties;
+  SparseMatrix condensed;
+  if (!relations.empty()) {
+    ties.emplace(n, held);
+    for (const Terms& r : relations) ties->Add(r);
+    out.ties = ties->Matrix();
+    condensed = Condense(k, out.ties);
+    // A constraint's force is what acts on one of its ends that nothing else holds or ties.
+    std::vector<int> touches(n, 0);
+    for (const Terms& r : relations)
+      for (const auto& [dof, c] : r) ++touches[dof];
+    for (const Constraint& c : model.constraints) {
+      GlobalStiffness::ForceAt at;
+      for (int end = 1; end >= 0 && at.dof < 0; --end) {
+        const size_t dof = GlobalDof(c.nodes[static_cast<size_t>(end)], c.dofs[static_cast<size_t>(end)]);
+        if (!held[dof] && touches[dof] == 1) at = {static_cast<long>(dof), end};
+      }
+      // Otherwise what all the ties at a free end bring there.
+      for (int end = 1; end >= 0 && at.dof < 0; --end) {
+        const size_t dof = GlobalDof(c.nodes[static_cast<size_t>(end)], c.dofs[static_cast<size_t>(end)]);
+        if (!held[dof]) at = {static_cast<long>(dof), end};
+      }
+      out.constraintForceAt.push_back(at);
+    }
+  }
+  const SparseMatrix& reduced = ties ? condensed : k;
+
   DofNumbering& num = out.numbering;
   num.equation.assign(n, -1);
   for (size_t dof = 0; dof < n; ++dof) {
-    if (held[dof]) continue;
-    if (!(k.coeff(static_cast<Eigen::Index>(dof), static_cast<Eigen::Index>(dof)) > 0)) {
+    if (held[dof] || (ties && ties->IsSlave(dof))) continue;
+    if (!(reduced.coeff(static_cast<Eigen::Index>(dof), static_cast<Eigen::Index>(dof)) > 0)) {
       num.autoHeld.push_back(dof);
       continue;
     }
     num.equation[dof] = static_cast<int>(num.freeDofs.size());
     num.freeDofs.push_back(dof);
   }
+  out.free = FreeBlock(reduced, num);
+  return out;
+}
 
+SparseMatrix Condense(const SparseMatrix& upper, const SparseMatrix& ties) {
+  if (ties.size() == 0) return upper;
+  const SparseMatrix symmetric = upper.selfadjointView<Eigen::Upper>();
+  const SparseMatrix kt = symmetric * ties;
+  const SparseMatrix tkt = SparseMatrix(ties.transpose()) * kt;
+  return tkt.triangularView<Eigen::Upper>();
+}
+
+SparseMatrix FreeBlock(const SparseMatrix& k, const DofNumbering& num) {
   // The free block keeps the full matrix's column order, so it stays upper triangular.
   const auto nf = static_cast<Eigen::Index>(num.freeDofs.size());
-  if (!untied.empty()) {
-    out.freeUntied.resize(nf);
-    for (Eigen::Index c = 0; c < nf; ++c) out.freeUntied[c] = untied[num.freeDofs[static_cast<size_t>(c)]];
-  }
-  SparseMatrix& f = out.free;
-  f.resize(nf, nf);
+  SparseMatrix f(nf, nf);
   std::vector<int> outer(static_cast<size_t>(nf) + 1, 0);
   std::vector<int> inner;
   std::vector<double> values;
@@ -366,7 +459,17 @@ GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& acti
   std::copy(outer.begin(), outer.end(), f.outerIndexPtr());
   std::copy(inner.begin(), inner.end(), f.innerIndexPtr());
   std::copy(values.begin(), values.end(), f.valuePtr());
-  return out;
+  return f;
+}
+
+Eigen::MatrixXd GlobalStiffness::Expand(const Eigen::MatrixXd& q) const {
+  if (ties.size() == 0) return q;
+  return ties * q;
+}
+
+Eigen::MatrixXd GlobalStiffness::Gather(const Eigen::MatrixXd& v) const {
+  if (ties.size() == 0) return v;
+  return ties.transpose() * v;
 }
 
 Eigen::VectorXd CaseLoadVector(const Model& model, size_t caseIndex) {

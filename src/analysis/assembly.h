@@ -25,19 +25,30 @@ struct DofNumbering {
 // Which members take part (tension-only and compression-only members drop out while slack).
 using MemberActivity = std::vector<char>;
 
+// Constraints and diaphragms are imposed exactly: each tie makes one degree of freedom (its
+// slave) a fixed combination of others, u = T q, and the equations are those of Tᵀ K T.
+// Degrees of freedom that are not slaves keep their own column of T (one), slaves none.
 struct GlobalStiffness {
-  SparseMatrix full;  // upper triangle, 6 × nodes square
+  SparseMatrix full;  // elements and springs, upper triangle, 6 × nodes square
   DofNumbering numbering;
-  SparseMatrix free;  // upper triangle of the free equations
-  // Per free equation, its diagonal before the ties' penalties: what the elements and springs
-  // give it, against which a pivot tells a mechanism (a penalty alone stiffens nothing).
-  Eigen::VectorXd freeUntied;
-  // Per constraint of the model, the stiffness of the penalty that ties its two degrees of freedom.
-  std::vector<double> constraintPenalty;
+  SparseMatrix free;  // upper triangle of the free equations of Tᵀ K T
+  SparseMatrix ties;  // T, 6 × nodes square; empty when the model ties nothing (T = I)
+  // Per constraint of the model, the global degree of freedom at which its force is read
+  // (one that no other tie or support acts on) and the end it belongs to; -1 when there is none.
+  struct ForceAt {
+    long dof = -1;
+    int end = 0;
+  };
+  std::vector<ForceAt> constraintForceAt;
+
+  // u = T q for every column.
+  Eigen::MatrixXd Expand(const Eigen::MatrixXd& q) const;
+  // Tᵀ v: forces on the degrees of freedom that are not slaves, each slave's added to those it follows.
+  Eigen::MatrixXd Gather(const Eigen::MatrixXd& v) const;
 };
 
-// Assembles every element, spring, constraint and diaphragm; supports are held and the
-// degrees of freedom that nothing stiffens are held automatically (listed in autoHeld).
+// Assembles every element and spring and ties the constraints and diaphragms; supports are
+// held and the degrees of freedom that nothing stiffens are held automatically (in autoHeld).
 GlobalStiffness AssembleStiffness(const Model& model, const MemberActivity& active);
 
 // The applied load vector of a load case over all degrees of freedom: nodal loads and the
@@ -55,6 +66,11 @@ Rigidities RigidLinkRigidities(const Model& model);
 // The member's matrices in local axes; a rigid link takes `rigidLink`.
 LocalMember MemberMatrices(const Model& model, size_t member, const LocalMemberLoads& loads,
                            const Rigidities& rigidLink);
+
+// Tᵀ A T of a symmetric matrix over all degrees of freedom given by its upper triangle, and
+// that matrix's block of free equations (upper triangle).
+SparseMatrix Condense(const SparseMatrix& upper, const SparseMatrix& ties);
+SparseMatrix FreeBlock(const SparseMatrix& upper, const DofNumbering& numbering);
 
 // Masses lumped at the nodes: self weight over g and the additional masses (per global DOF).
 Eigen::VectorXd LumpedMasses(const Model& model);

@@ -21,8 +21,10 @@ Eigen::VectorXd Prescribed(const Model& model) {
 }
 
 // A load on a degree of freedom that nothing stiffens cannot be carried.
-void CheckAutoHeldUnloaded(const Model& model, const DofNumbering& num, const Eigen::VectorXd& f, const std::string& name) {
-  for (size_t dof : num.autoHeld)
+void CheckAutoHeldUnloaded(const Model& model, const GlobalStiffness& k, const Eigen::VectorXd& load, const std::string& name) {
+  if (k.numbering.autoHeld.empty()) return;
+  const Eigen::VectorXd f = k.Gather(load);
+  for (size_t dof : k.numbering.autoHeld)
     if (f[static_cast<Eigen::Index>(dof)] != 0)
       throw AnalysisError(DofLabel(model, dof) + " is loaded in \"" + name +
                           "\" but nothing is connected to carry it: the model is unstable there.");
@@ -35,23 +37,22 @@ struct Solver {
 
   Solver(const Model& m, const MemberActivity& active) : model(m), k(AssembleStiffness(m, active)) {
     factor.Factor(
-        k.free, [&](Eigen::Index eq) { return DofLabel(model, k.numbering.freeDofs[static_cast<size_t>(eq)]); },
-        k.freeUntied);
+        k.free, k.numbering.freeDofs, [&](Eigen::Index eq) { return DofLabel(model, k.numbering.freeDofs[static_cast<size_t>(eq)]); });
   }
 
-  // Displacements of several load vectors (columns) at once.
+  // Displacements of several load vectors (columns) at once. `prescribed` holds the supports'
+  // values; the slaves of ties follow what they are tied to.
   Eigen::MatrixXd Displacements(const Eigen::MatrixXd& loads, const Eigen::VectorXd& prescribed) const {
-    const Eigen::VectorXd kp = k.full.selfadjointView<Eigen::Upper>() * prescribed;
+    const Eigen::VectorXd u0 = k.Expand(prescribed);
+    const Eigen::VectorXd kp = k.full.selfadjointView<Eigen::Upper>() * u0;
+    const Eigen::MatrixXd f = k.Gather(loads.colwise() - kp);
     const auto nf = static_cast<Eigen::Index>(k.numbering.freeDofs.size());
     Eigen::MatrixXd rhs(nf, loads.cols());
-    for (Eigen::Index eq = 0; eq < nf; ++eq) {
-      const auto dof = static_cast<Eigen::Index>(k.numbering.freeDofs[static_cast<size_t>(eq)]);
-      rhs.row(eq) = loads.row(dof).array() - kp[dof];
-    }
+    for (Eigen::Index eq = 0; eq < nf; ++eq) rhs.row(eq) = f.row(static_cast<Eigen::Index>(k.numbering.freeDofs[static_cast<size_t>(eq)]));
     const Eigen::MatrixXd x = nf > 0 ? factor.Solve(rhs) : rhs;
-    Eigen::MatrixXd u = prescribed.replicate(1, loads.cols());
-    for (Eigen::Index eq = 0; eq < nf; ++eq) u.row(static_cast<Eigen::Index>(k.numbering.freeDofs[static_cast<size_t>(eq)])) = x.row(eq);
-    return u;
+    Eigen::MatrixXd q = prescribed.replicate(1, loads.cols());
+    for (Eigen::Index eq = 0; eq < nf; ++eq) q.row(static_cast<Eigen::Index>(k.numbering.freeDofs[static_cast<size_t>(eq)])) = x.row(eq);
+    return k.Expand(q);
   }
 };
 
@@ -63,12 +64,15 @@ std::array<double, 6> Six(const Eigen::VectorXd& v, size_t node) {
 
 // Reactions and spring forces from the displacements.
 void Recover(const Model& model, const GlobalStiffness& k, StaticResult& r) {
-  const Eigen::VectorXd internal = k.full.selfadjointView<Eigen::Upper>() * r.displacement;
+  // What the structure needs beyond its loads: from the supports, and from the ties on the
+  // degrees of freedom they join; a support also takes what ties bring to its node.
+  const Eigen::VectorXd needed = k.full.selfadjointView<Eigen::Upper>() * r.displacement - r.load;
+  const Eigen::VectorXd gathered = k.Gather(needed);
   r.reaction = Eigen::VectorXd::Zero(r.displacement.size());
   for (const Support& s : model.supports)
     for (int d = 0; d < 6; ++d) {
       const auto dof = static_cast<Eigen::Index>(GlobalDof(s.node, d));
-      if (s.held[static_cast<size_t>(d)]) r.reaction[dof] = internal[dof] - r.load[dof];
+      if (s.held[static_cast<size_t>(d)]) r.reaction[dof] = gathered[dof];
     }
   const Eigen::VectorXd& u = r.displacement;
   r.nodalSprings.clear();
@@ -98,13 +102,17 @@ void Recover(const Model& model, const GlobalStiffness& k, StaticResult& r) {
       for (int d = 0; d < 3; ++d) f[static_cast<size_t>(d)] -= half * s.k[static_cast<size_t>(d)] * u[static_cast<Eigen::Index>(GlobalDof(node, d))];
     r.lineSprings.push_back(f);
   }
+  // A constraint pulls its two ends equally and oppositely; where one end is tied by nothing
+  // else, what the structure needs there is the constraint's force.
   r.constraints.clear();
-  for (size_t i = 0; i < model.constraints.size() && i < k.constraintPenalty.size(); ++i) {
-    const Constraint& c = model.constraints[i];
-    const double stretch = u[static_cast<Eigen::Index>(GlobalDof(c.nodes[0], c.dofs[0]))] -
-                           u[static_cast<Eigen::Index>(GlobalDof(c.nodes[1], c.dofs[1]))];
-    const double force = k.constraintPenalty[i] * stretch;
-    r.constraints.push_back({-force, force});
+  for (size_t i = 0; i < model.constraints.size() && i < k.constraintForceAt.size(); ++i) {
+    const GlobalStiffness::ForceAt& at = k.constraintForceAt[i];
+    std::array<double, 2> force{};
+    if (at.dof >= 0) {
+      force[static_cast<size_t>(at.end)] = needed[at.dof];
+      force[static_cast<size_t>(1 - at.end)] = -needed[at.dof];
+    }
+    r.constraints.push_back(force);
   }
   r.surfaceSprings.clear();
   for (const SurfaceSpring& s : model.surfaceSprings) {
@@ -129,7 +137,7 @@ void SolveSwitching(const Model& model, StaticResult& r, const Eigen::VectorXd& 
   MemberActivity active(model.members.size(), 1);
   for (int iteration = 0; iteration < model.nonlinearIterationLimit; ++iteration) {
     Solver solver(model, active);
-    CheckAutoHeldUnloaded(model, solver.k.numbering, r.load, r.name);
+    CheckAutoHeldUnloaded(model, solver.k, r.load, r.name);
     r.displacement = solver.Displacements(r.load, prescribed).col(0);
     r.activeMembers = active;
     bool changed = false;
@@ -210,18 +218,19 @@ StaticResults SolveLinearStatic(const Model& model, const Progress& progress) {
   const size_t cases = model.cases.size();
   Eigen::MatrixXd loads(n, static_cast<Eigen::Index>(cases));
   for (size_t c = 0; c < cases; ++c) {
-    CheckAutoHeldUnloaded(model, solver.k.numbering, results[c].load, results[c].name);
+    CheckAutoHeldUnloaded(model, solver.k, results[c].load, results[c].name);
     loads.col(static_cast<Eigen::Index>(c)) = results[c].load;
   }
   Report(progress, "Solving the load cases", 0.6);
   const Eigen::MatrixXd u = solver.Displacements(loads, prescribed);
   for (size_t c = 0; c < cases; ++c) results[c].displacement = u.col(static_cast<Eigen::Index>(c));
   Report(progress, "Combining", 0.8);
+  const Eigen::VectorXd settled = solver.k.Expand(prescribed);
   for (size_t i = cases; i < results.size(); ++i) {
     StaticResult& r = results[i];
     // Settlements belong to the structure, not to a case: a combination holds them once.
-    r.displacement = prescribed;
-    for (const auto& [c, factor] : r.terms) r.displacement += factor * (results[c].displacement - prescribed);
+    r.displacement = settled;
+    for (const auto& [c, factor] : r.terms) r.displacement += factor * (results[c].displacement - settled);
   }
   for (StaticResult& r : results) Recover(model, solver.k, r);
   Report(progress, "Done", 1.0);

@@ -21,7 +21,7 @@ struct StaticResult {
   // values at its node; for line and surface springs the sum over the element's nodes).
   std::vector<std::array<double, 6>> nodalSprings, coupledSprings, lineSprings, surfaceSprings;
   // Per constraint of the model, the force (or moment) of the tie on its first and second
-  // degree of freedom: equal and opposite.
+  // degree of freedom: equal and opposite (zero when both are held, where it carries nothing).
   std::vector<std::array<double, 2>> constraints;
   MemberActivity activeMembers;  // empty: all
 };

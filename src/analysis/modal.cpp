@@ -27,18 +27,20 @@ class InverseStiffness {
   const StiffnessFactor& factor_;
 };
 
-class DiagonalMass {
+// y = M x for the masses of the free equations (upper triangle; not diagonal where ties
+// carry the masses of slaves to what they follow).
+class FreeMass {
  public:
   using Scalar = double;
-  explicit DiagonalMass(const Eigen::VectorXd& m) : m_(m) {}
-  Eigen::Index rows() const { return m_.size(); }
-  Eigen::Index cols() const { return m_.size(); }
+  explicit FreeMass(const SparseMatrix& m) : m_(m) {}
+  Eigen::Index rows() const { return m_.rows(); }
+  Eigen::Index cols() const { return m_.cols(); }
   void perform_op(const double* x, double* y) const {
-    Eigen::Map<Eigen::VectorXd>(y, rows()) = m_.cwiseProduct(Eigen::Map<const Eigen::VectorXd>(x, rows()));
+    Eigen::Map<Eigen::VectorXd>(y, rows()) = m_.selfadjointView<Eigen::Upper>() * Eigen::Map<const Eigen::VectorXd>(x, rows());
   }
 
  private:
-  const Eigen::VectorXd& m_;
+  const SparseMatrix& m_;
 };
 
 }  // namespace
@@ -51,25 +53,27 @@ ModalResults SolveModes(const Model& model, int count, const Progress& progress)
   const DofNumbering& num = stiffness->numbering;
   StiffnessFactor factor;
   factor.Factor(
-      stiffness->free, [&](Eigen::Index eq) { return DofLabel(model, num.freeDofs[static_cast<size_t>(eq)]); },
-      stiffness->freeUntied);
+      stiffness->free, num.freeDofs, [&](Eigen::Index eq) { return DofLabel(model, num.freeDofs[static_cast<size_t>(eq)]); });
 
   out.mass = LumpedMasses(model);
+  const auto all = out.mass.size();
+  SparseMatrix diagonal(all, all);
+  diagonal.reserve(Eigen::VectorXi::Ones(all));
+  for (Eigen::Index i = 0; i < all; ++i) diagonal.insert(i, i) = out.mass[i];
+  const SparseMatrix mass = FreeBlock(Condense(diagonal, stiffness->ties), num);
+  const Eigen::VectorXd m = mass.diagonal();
   const auto nf = static_cast<Eigen::Index>(num.freeDofs.size());
-  Eigen::VectorXd m(nf);
   Eigen::Index massive = 0;
-  for (Eigen::Index i = 0; i < nf; ++i) {
-    m[i] = out.mass[static_cast<Eigen::Index>(num.freeDofs[static_cast<size_t>(i)])];
+  for (Eigen::Index i = 0; i < nf; ++i)
     if (m[i] > 0) ++massive;
-  }
   const Eigen::Index nev = std::min<Eigen::Index>(count, massive - 1);
   if (nev < 1) throw AnalysisError("The model has no mass on the degrees of freedom that can move: no modes.");
 
   if (progress) progress("Finding the modes", 0.3);
   InverseStiffness op(factor);
-  DiagonalMass bop(m);
+  FreeMass bop(mass);
   const Eigen::Index ncv = std::min<Eigen::Index>(massive, std::max<Eigen::Index>(2 * nev + 1, nev + 20));
-  Spectra::SymGEigsShiftSolver<InverseStiffness, DiagonalMass, Spectra::GEigsMode::ShiftInvert> solver(op, bop, nev, ncv, 0.0);
+  Spectra::SymGEigsShiftSolver<InverseStiffness, FreeMass, Spectra::GEigsMode::ShiftInvert> solver(op, bop, nev, ncv, 0.0);
   // Start inside the range of K⁻¹ M, which is where the modes with mass live.
   std::mt19937 random(12345);
   std::uniform_real_distribution<double> uniform(-1, 1);
@@ -89,11 +93,13 @@ ModalResults SolveModes(const Model& model, int count, const Progress& progress)
     Mode mode;
     mode.omega2 = values[j];
     Eigen::VectorXd phi = vectors.col(j);
-    phi /= std::sqrt(phi.dot(m.cwiseProduct(phi)));
+    const auto massTimes = [&](const Eigen::VectorXd& v) -> Eigen::VectorXd { return mass.selfadjointView<Eigen::Upper>() * v; };
+    phi /= std::sqrt(phi.dot(massTimes(phi)));
     const Eigen::VectorXd kphi = k.selfadjointView<Eigen::Upper>() * phi;
-    mode.error = (kphi - mode.omega2 * m.cwiseProduct(phi)).norm() / kphi.norm();
-    mode.shape = Eigen::VectorXd::Zero(out.mass.size());
-    for (Eigen::Index i = 0; i < nf; ++i) mode.shape[static_cast<Eigen::Index>(num.freeDofs[static_cast<size_t>(i)])] = phi[i];
+    mode.error = (kphi - mode.omega2 * massTimes(phi)).norm() / kphi.norm();
+    Eigen::VectorXd q = Eigen::VectorXd::Zero(all);
+    for (Eigen::Index i = 0; i < nf; ++i) q[static_cast<Eigen::Index>(num.freeDofs[static_cast<size_t>(i)])] = phi[i];
+    mode.shape = stiffness->Expand(q);
     out.modes.push_back(std::move(mode));
   }
   if (progress) progress("Done", 1.0);
@@ -138,7 +144,8 @@ SpectrumResults SolveResponseSpectrum(const Model& model, const ModalResults& mo
       const double gamma = sm.participation[static_cast<size_t>(d)];
       sm.displacement[static_cast<size_t>(d)] = (gamma * sa / mode.omega2) * mode.shape;
       sm.inertialForce[static_cast<size_t>(d)] = (gamma * sa) * mphi;
-      const Eigen::VectorXd ku = modal.stiffness->full.selfadjointView<Eigen::Upper>() * sm.displacement[static_cast<size_t>(d)];
+      const Eigen::VectorXd ku =
+          modal.stiffness->Gather(modal.stiffness->full.selfadjointView<Eigen::Upper>() * sm.displacement[static_cast<size_t>(d)]);
       Eigen::VectorXd r = Eigen::VectorXd::Zero(n);
       for (Eigen::Index i = 0; i < n; ++i)
         if (held[static_cast<size_t>(i)]) r[i] = ku[i];

@@ -1,9 +1,14 @@
 #include "model/document.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <functional>
+#include <memory>
 
 #include "model/document_sections.h"
 #include "model/json_parse.h"
+#include "model/json_scan.h"
 #include "tools/atomic_file.h"
 #include "tools/format.h"
 
@@ -39,10 +44,10 @@ std::string FirstNonFiniteNumber(const nlohmann::ordered_json& value, const std:
   return {};
 }
 
-ModelDocument ReadDocument(const nlohmann::json& root, const std::string& fileName) {
+ModelDocument ReadDocument(ScannedDocument& scanned, const std::string& fileName) {
   ModelDocument doc;
   try {
-    const JsonReader r(root, "");
+    const JsonReader r(scanned.sections, "");
     r.RequireObject();
     if (r.String("format", "") != "norvane-model")
       r.Fail("not a Norvane model document (\"format\" must be \"norvane-model\")");
@@ -52,7 +57,13 @@ ModelDocument ReadDocument(const nlohmann::json& root, const std::string& fileNa
                                                    static_cast<long long>(version), kDocumentSchemaVersion));
     doc.title = r.String("title", "");
     ReadUnits(r, doc);
-    ReadNodes(r, doc);
+    if (!scanned.nodesRead) {
+      ReadNodes(r, doc);
+    } else if (scanned.nodesFault) {
+      throw *scanned.nodesFault;
+    } else {
+      doc.nodes = std::move(scanned.nodes);
+    }
     ReadLoads(r, doc);
     ReadMaterials(r, doc);
     ReadSections(r, doc);
@@ -67,6 +78,104 @@ ModelDocument ReadDocument(const nlohmann::json& root, const std::string& fileNa
     throw DocumentLoadError(fileName, e.place().empty() ? std::string("/") : e.place(), e.what());
   }
   return doc;
+}
+
+// `text` has kScanPadding bytes of capacity beyond its end.
+ModelDocument ParsePaddedText(std::string_view text, const std::string& fileName) {
+  try {
+    ScannedDocument scanned;
+    // Declared after the tree, so it runs first: empties it without allocating, which the
+    // library's own destructor would do when memory has run out.
+    const DismantleOnExit dismantle(scanned.sections);
+    if (const std::optional<TextFault> fault = ScanDocument(text, scanned))
+      throw DocumentLoadError(fileName, LineAndColumn(text, fault->offset), fault->problem);
+    return ReadDocument(scanned, fileName);
+  } catch (const std::bad_alloc&) {
+    throw DocumentLoadError(fileName);
+  }
+}
+
+// Shortest text that reads back as the same double, always with a point or an exponent, so
+// that it reads back as a real (-0.0 keeps its sign).
+void AppendReal(std::string& out, double v) {
+  char buffer[40];
+  const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, v);
+  out.append(buffer, end);
+  if (std::find_if(buffer, end, [](char c) { return c == '.' || c == 'e' || c == 'n' || c == 'i'; }) == end)
+    out += ".0";
+}
+
+void AppendWhole(std::string& out, uint64_t v) {
+  char buffer[24];
+  const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, v);
+  out.append(buffer, end);
+}
+
+// The sections of a document as the library lays them out, one level in, after those before.
+void AppendMembers(std::string& out, const nlohmann::ordered_json& part, bool& first) {
+  nlohmann::detail::serializer<nlohmann::ordered_json> serializer(nlohmann::detail::output_adapter<char>(out), '\t');
+  for (const auto& [key, value] : part.items()) {
+    out += first ? "\n\t\"" : ",\n\t\"";
+    first = false;
+    out += key;
+    out += "\": ";
+    serializer.dump(value, true, false, 1, 1);
+  }
+}
+
+std::string FirstNonFiniteNode(const std::vector<fmNd>& nodes) {
+  for (size_t i = 0; i < nodes.size(); ++i) {
+    const double* xyz[] = {&nodes[i].x, &nodes[i].y, &nodes[i].z};
+    for (int k = 0; k < 3; ++k)
+      if (!std::isfinite(*xyz[k])) return "/nodes/" + std::to_string(i) + "/" + "xyz"[k];
+  }
+  return {};
+}
+
+// Writes the document in parts: the header and the small sections through the library, the
+// nodes straight from their records; `spill` takes what has collected in `out` so far.
+void WriteDocument(const ModelDocument& doc, std::string& out, const std::function<void(std::string&)>& spill) {
+  // Ordered, so the header comes first and sections stay where a reader expects them.
+  nlohmann::ordered_json head = nlohmann::ordered_json::object(), tail = nlohmann::ordered_json::object();
+  head["format"] = "norvane-model";
+  head["schemaVersion"] = kDocumentSchemaVersion;
+  head["title"] = doc.title;
+  WriteUnits(doc, head);
+  for (auto* write : {WriteLoads, WriteCaseLoads, WriteMaterials, WriteSections, WriteThicknesses, WriteElements,
+                      WriteSupports, WriteBoundaries, WriteSpectrumSettings, WriteResults})
+    write(doc, tail);
+  std::string place = FirstNonFiniteNumber(head, "");
+  if (place.empty()) place = FirstNonFiniteNode(doc.nodes);
+  if (place.empty()) place = FirstNonFiniteNumber(tail, "");
+  if (!place.empty())
+    throw DocumentError(place, "Cannot save the model: the value at " + place +
+                                   " is not a finite number, and the file would not open again.");
+
+  constexpr size_t kSpillAt = size_t(1) << 20;
+  out += "{";
+  bool first = true;
+  AppendMembers(out, head, first);
+  out += ",\n\t\"nodes\": [";
+  for (size_t i = 0; i < doc.nodes.size(); ++i) {
+    const fmNd& nd = doc.nodes[i];
+    out += i == 0 ? "\n\t\t{\n\t\t\t\"id\": " : ",\n\t\t{\n\t\t\t\"id\": ";
+    AppendWhole(out, nd.id);
+    out += ",\n\t\t\t\"x\": ";
+    AppendReal(out, nd.x);
+    out += ",\n\t\t\t\"y\": ";
+    AppendReal(out, nd.y);
+    out += ",\n\t\t\t\"z\": ";
+    AppendReal(out, nd.z);
+    if (nd.flags) {
+      out += ",\n\t\t\t\"flags\": ";
+      AppendWhole(out, nd.flags);
+    }
+    out += "\n\t\t}";
+    if (spill && out.size() >= kSpillAt) spill(out);
+  }
+  out += doc.nodes.empty() ? "]" : "\n\t]";
+  AppendMembers(out, tail, first);
+  out += "\n}\n";
 }
 
 }  // namespace
@@ -84,57 +193,49 @@ DocumentLoadError::DocumentLoadError(const std::string& file)
       problem_("not enough memory") {}
 
 ModelDocument ParseModelDocument(std::string_view text, const std::string& fileName) {
+  std::string padded;
   try {
-    nlohmann::json root;
-    // Declared after root, so it runs first: empties the tree without allocating, which
-    // the library's own destructor would do when memory has run out.
-    const DismantleOnExit dismantle(root);
-    if (const std::optional<TextFault> fault = ParseJson(text, root))
-      throw DocumentLoadError(fileName, LineAndColumn(text, fault->offset), fault->problem);
-    return ReadDocument(root, fileName);
+    padded.reserve(text.size() + kScanPadding);
+    padded.assign(text);
   } catch (const std::bad_alloc&) {
     throw DocumentLoadError(fileName);
   }
+  return ParsePaddedText(padded, fileName);
 }
 
 ModelDocument LoadModelDocument(const std::string& path) {
   std::string text;
   try {
-    text = tools::ReadWholeFile(path);
+    text = tools::ReadWholeFile(path, size_t(1) << 30, kScanPadding);
   } catch (const tools::FileError& e) {
     throw DocumentLoadError(path, "", e.reason().empty() ? e.what() : e.reason());
   } catch (const std::bad_alloc&) {
     throw DocumentLoadError(path);
   }
-  return ParseModelDocument(text, path);
+  return ParsePaddedText(text, path);
 }
 
 std::string SerializeModelDocument(const ModelDocument& doc) {
-  // Ordered, so the header comes first and sections stay where a reader expects them.
-  nlohmann::ordered_json root = nlohmann::ordered_json::object();
-  root["format"] = "norvane-model";
-  root["schemaVersion"] = kDocumentSchemaVersion;
-  root["title"] = doc.title;
-  WriteUnits(doc, root);
-  WriteNodes(doc, root);
-  WriteLoads(doc, root);
-  WriteCaseLoads(doc, root);
-  WriteMaterials(doc, root);
-  WriteSections(doc, root);
-  WriteThicknesses(doc, root);
-  WriteElements(doc, root);
-  WriteSupports(doc, root);
-  WriteBoundaries(doc, root);
-  WriteSpectrumSettings(doc, root);
-  WriteResults(doc, root);
-  if (const std::string place = FirstNonFiniteNumber(root, ""); !place.empty())
-    throw DocumentError(place, "Cannot save the model: the value at " + place +
-                                   " is not a finite number, and the file would not open again.");
-  return root.dump(1, '\t') + "\n";
+  std::string text;
+  WriteDocument(doc, text, nullptr);
+  return text;
 }
 
 void SaveModelDocument(const ModelDocument& doc, const std::string& path) {
-  tools::WriteFileAtomically(path, SerializeModelDocument(doc));
+  std::string text;
+  std::unique_ptr<tools::FileReplacement> file;
+  WriteDocument(doc, text, [&](std::string& part) {
+    // Opened with the first part, so that a refused document never touches the file.
+    if (!file) file = std::make_unique<tools::FileReplacement>(path);
+    file->Write(part);
+    part.clear();
+  });
+  if (!file) {
+    tools::WriteFileAtomically(path, text);
+    return;
+  }
+  file->Write(text);
+  file->Commit();
 }
 
 }  // namespace model

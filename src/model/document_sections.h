@@ -9,8 +9,9 @@ namespace model {
 
 void ReadUnits(const JsonReader& root, ModelDocument& doc);
 void WriteUnits(const ModelDocument& doc, nlohmann::ordered_json& root);
+// Nodes given as anything but a list; a list is read as the text is scanned (json_scan.h) and
+// written straight from the records.
 void ReadNodes(const JsonReader& root, ModelDocument& doc);
-void WriteNodes(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadLoads(const JsonReader& root, ModelDocument& doc);
 void WriteLoads(const ModelDocument& doc, nlohmann::ordered_json& root);
 void ReadMaterials(const JsonReader& root, ModelDocument& doc);

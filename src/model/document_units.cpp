@@ -73,14 +73,4 @@ void ReadNodes(const JsonReader& root, ModelDocument& doc) {
   }
 }
 
-void WriteNodes(const ModelDocument& doc, nlohmann::ordered_json& root) {
-  nlohmann::ordered_json list = nlohmann::ordered_json::array();
-  for (const fmNd& nd : doc.nodes) {
-    nlohmann::ordered_json item = {{"id", nd.id}, {"x", nd.x}, {"y", nd.y}, {"z", nd.z}};
-    if (nd.flags) item["flags"] = nd.flags;
-    list.push_back(std::move(item));
-  }
-  root["nodes"] = std::move(list);
-}
-
 }  // namespace model

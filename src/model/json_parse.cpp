@@ -60,28 +60,47 @@ size_t TokenStart(std::string_view text, size_t at) {
 
 using DomBuilder = nlohmann::detail::json_sax_dom_parser<nlohmann::json>;
 
-class CheckingBuilder : public DomBuilder {
+// Takes every event and keeps nothing: the checks alone, for a text too large for a tree.
+struct NothingBuilder {
+  using json = nlohmann::json;
+  bool null() { return true; }
+  bool boolean(bool) { return true; }
+  bool number_integer(json::number_integer_t) { return true; }
+  bool number_unsigned(json::number_unsigned_t) { return true; }
+  bool number_float(json::number_float_t, const std::string&) { return true; }
+  bool string(std::string&) { return true; }
+  bool binary(json::binary_t&) { return true; }
+  bool start_object(std::size_t) { return true; }
+  bool key(std::string&) { return true; }
+  bool end_object() { return true; }
+  bool start_array(std::size_t) { return true; }
+  bool end_array() { return true; }
+};
+
+template <class Builder>
+class CheckingBuilder : public Builder {
  public:
-  CheckingBuilder(nlohmann::json& root, const char* begin, const char* const* read)
-      : DomBuilder(root, false), begin_(begin), read_(read) {}
+  template <class... BuilderArgs>
+  CheckingBuilder(size_t depth, const char* begin, const char* const* read, BuilderArgs&&... args)
+      : Builder(std::forward<BuilderArgs>(args)...), begin_(begin), read_(read), depth_(depth) {}
 
   std::optional<TextFault> fault;
 
   bool start_object(std::size_t n) {
     if (!Enter()) return false;
     frames_.push_back({keys_.size(), nullptr});
-    return DomBuilder::start_object(n);
+    return Builder::start_object(n);
   }
   bool end_object() {
     keys_.resize(frames_.back().firstKey);
     frames_.pop_back();
     --depth_;
-    return DomBuilder::end_object();
+    return Builder::end_object();
   }
-  bool start_array(std::size_t n) { return Enter() && DomBuilder::start_array(n); }
+  bool start_array(std::size_t n) { return Enter() && Builder::start_array(n); }
   bool end_array() {
     --depth_;
-    return DomBuilder::end_array();
+    return Builder::end_array();
   }
   bool key(std::string& k) {
     if (!Remember(k)) {
@@ -89,7 +108,7 @@ class CheckingBuilder : public DomBuilder {
       fault = TextFault{LastRead(), "duplicate key \"" + k + "\""};
       return false;
     }
-    return DomBuilder::key(k);
+    return Builder::key(k);
   }
   bool parse_error(std::size_t position, const std::string& /*token*/, const nlohmann::detail::exception& e) {
     // The library reports the byte just past the faulty token.
@@ -141,17 +160,16 @@ class CheckingBuilder : public DomBuilder {
 
   const char* begin_;
   const char* const* read_;
-  size_t depth_ = 0;
+  size_t depth_;
   std::vector<Frame> frames_;
   std::deque<std::string> keys_;  // a deque: the index's views stay valid as it grows
 };
 
-}  // namespace
-
-std::optional<TextFault> ParseJson(std::string_view text, nlohmann::json& root) {
+template <class Builder, class... BuilderArgs>
+std::optional<TextFault> Check(std::string_view text, size_t depth, BuilderArgs&&... args) {
   const char* begin = text.data();
   const char* read = begin;
-  CheckingBuilder builder(root, begin, &read);
+  CheckingBuilder<Builder> builder(depth, begin, &read, std::forward<BuilderArgs>(args)...);
   const bool ok = nlohmann::json::sax_parse(TrackingIterator(begin, &read), TrackingIterator(begin + text.size(), &read),
                                             &builder);
   if (ok) return std::nullopt;
@@ -159,6 +177,14 @@ std::optional<TextFault> ParseJson(std::string_view text, nlohmann::json& root) 
   builder.fault->offset = TokenStart(text, builder.fault->offset);
   return builder.fault;
 }
+
+}  // namespace
+
+std::optional<TextFault> ParseJson(std::string_view text, nlohmann::json& root, size_t depth) {
+  return Check<DomBuilder>(text, depth, root, false);
+}
+
+std::optional<TextFault> CheckJson(std::string_view text) { return Check<NothingBuilder>(text, 0); }
 
 void Dismantle(nlohmann::json& value) noexcept {
   if (value.is_array()) {

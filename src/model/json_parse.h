@@ -18,8 +18,11 @@ struct TextFault {
   std::string problem;  // "duplicate key \"x\"", "syntax error while parsing ..."
 };
 
-// Fills root, or returns the first fault (root is then partly filled).
-std::optional<TextFault> ParseJson(std::string_view text, nlohmann::json& root);
+// Fills root, or returns the first fault (root is then partly filled). `depth` is how deep
+// the text's value lies in its document (1 for a member of the document's object).
+std::optional<TextFault> ParseJson(std::string_view text, nlohmann::json& root, size_t depth = 0);
+// The same checks without building anything: the first fault of a whole document, whatever its size.
+std::optional<TextFault> CheckJson(std::string_view text);
 
 // Empties a tree from its leaves up without allocating; the library's destructor allocates
 // a work list, which fails when memory has run out and then ends the program.

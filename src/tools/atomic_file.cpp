@@ -130,12 +130,40 @@ void WriteFileAtomically(const std::string& path, std::string_view contents) {
     ::unlink(temp.c_str());
     throw;
   }
-  if (::fsync(fd) != 0 || ::close(fd) != 0) {
-    const int err = errno;
+  // A full disk may only show when the data reaches it; the descriptor is closed either way.
+  const int synced = ::fsync(fd) == 0 ? 0 : errno;
+  const int closed = ::close(fd) == 0 ? 0 : errno;
+  if (synced != 0 || closed != 0) {
     ::unlink(temp.c_str());
-    Fail("write", path, err);
+    Fail("write", path, synced != 0 ? synced : closed);
   }
   RenameInto(temp, target, path);
+}
+
+FileReplacement::FileReplacement(const std::string& path) : path_(path), target_(FollowLinks(path)) {
+  fd_ = CreateBeside(path_, target_, temp_);
+}
+
+FileReplacement::~FileReplacement() {
+  if (done_) return;
+  if (fd_ >= 0) ::close(fd_);
+  ::unlink(temp_.c_str());
+}
+
+void FileReplacement::Write(std::string_view part) {
+  if (done_ || fd_ < 0) Fail("write", path_, EBADF);
+  WriteAll(fd_, part, path_, false);
+}
+
+void FileReplacement::Commit() {
+  if (done_ || fd_ < 0) Fail("write", path_, EBADF);
+  const int fd = fd_;
+  fd_ = -1;
+  int err = ::fsync(fd) != 0 ? errno : 0;
+  if (::close(fd) != 0 && err == 0) err = errno;
+  if (err != 0) Fail("write", path_, err);
+  done_ = true;
+  RenameInto(temp_, target_, path_);
 }
 
 void AppendToFile(const std::string& path, std::string_view contents) {
@@ -162,7 +190,7 @@ void AppendToFile(const std::string& path, std::string_view contents) {
   if (::close(fd) != 0) Fail("write", path, errno);
 }
 
-std::string ReadWholeFile(const std::string& path, size_t maxBytes) {
+std::string ReadWholeFile(const std::string& path, size_t maxBytes, size_t spare) {
   struct stat st {};
   if (::stat(path.c_str(), &st) != 0) Fail("open", path, errno);
   if (S_ISDIR(st.st_mode)) Fail("open", path, std::string("it is a folder, not a file"));
@@ -175,7 +203,8 @@ std::string ReadWholeFile(const std::string& path, size_t maxBytes) {
   if (static_cast<size_t>(size) > maxBytes)
     Fail("read", path, "the file is too large (" + std::to_string(size) + " bytes)");
   in.seekg(0);
-  std::string data(static_cast<size_t>(size), '\0');
+  std::string data(static_cast<size_t>(size) + spare, '\0');
+  data.resize(static_cast<size_t>(size));
   in.read(data.data(), size);
   if (!in) Fail("read", path, EIO);
   return data;

@@ -21,15 +21,33 @@ class FileError : public std::runtime_error {
 // Writes beside the target and renames into place, so a failure never leaves a partial
 // or truncated file where the old one stood.
 void WriteFileAtomically(const std::string& path, std::string_view contents);
+// The same for a text made in parts: each part is written beside the target as it comes, and
+// Commit() renames the whole into place. Until then, and whenever a write fails, the old file
+// stays; the partial one is removed when the object goes.
+class FileReplacement {
+ public:
+  explicit FileReplacement(const std::string& path);
+  ~FileReplacement();
+  FileReplacement(const FileReplacement&) = delete;
+  FileReplacement& operator=(const FileReplacement&) = delete;
+  void Write(std::string_view part);
+  void Commit();
+
+ private:
+  std::string path_, target_, temp_;
+  int fd_ = -1;
+  bool done_ = false;
+};
 // Appends, creating the file when missing; never truncates what is there.
 void AppendToFile(const std::string& path, std::string_view contents);
-// For writers that write a file by name (a workbook library): `write` fills an empty file
+// For writers that open the file themselves (by name): `write` fills an empty file
 // made beside `path`, which is then renamed into place; if `write` throws, the file is
 // removed and the old one stays.
 void ReplaceFileWith(const std::string& path, const std::function<void(const std::string& tempPath)>& write);
 // The C library's text for an error number, always in English.
 std::string SystemErrorText(int err);
-// Reads a whole file; refuses files larger than maxBytes.
-std::string ReadWholeFile(const std::string& path, size_t maxBytes = size_t(1) << 30);
+// Reads a whole file; refuses files larger than maxBytes. `spare` bytes of capacity beyond the
+// text are reserved (and zeroed) for readers that read past the end in blocks.
+std::string ReadWholeFile(const std::string& path, size_t maxBytes = size_t(1) << 30, size_t spare = 0);
 
 }  // namespace tools

@@ -7,7 +7,7 @@
 namespace tools {
 
 // Switches the calling thread to the "C" conventions while it lives, for libraries that
-// write numbers through printf (the workbook writer), whatever the process locale is.
+// write numbers through printf, whatever the process locale is.
 class ScopedCLocale {
  public:
   ScopedCLocale();

@@ -5,7 +5,7 @@
 
 // The model's boundary records as the analysis reads them, checked against hand formulas.
 // Units of the building example: lengths in ft, displacements in in, forces in kip, moments
-// in kip-ft, E in ksi. Columns of E = 29000 ksi and I = 1000 in^4, 10 ft = 120 in high.
+// in kip-ft, E in ksi. Columns of E = 29000 ksi and I = 1000 in^4 (to 2e-7), 10 ft = 120 in high.
 namespace {
 
 using doc_test::Parse;
@@ -35,20 +35,23 @@ const fmResult6Val& ReactionAt(const model::ModelDocument& doc, int32_t node) {
 }
 
 // 3 E I / h^3 = 3 x 29000 x 1000 / 120^3 = 50.347 kip per inch of sway; the moment at the
-// base 3 E I / h^2 = 6041.7 kip-in = 503.47 kip-ft.
-constexpr double kSwayShear = 3.0 * 29000 * 1000 / (120.0 * 120 * 120);
-constexpr double kSwayMoment = 3.0 * 29000 * 1000 / (120.0 * 120) / 12;
+// base 3 E I / h^2 = 6041.7 kip-in = 503.47 kip-ft. I is the section's 0.0482253 ft^4 in in^4.
+constexpr double kI = 0.0482253 * 20736;
+constexpr double kSwayShear = 3.0 * 29000 * kI / (120.0 * 120 * 120);
+constexpr double kSwayMoment = 3.0 * 29000 * kI / (120.0 * 120) / 12;
 
 }  // namespace
 
 TEST(BoundaryAnalysis, ARigidDiaphragmCarriesThePushToTheOtherColumn) {
   model::ModelDocument doc = Parse(TwoColumns(R"(, "diaphragms": [{"id": 1, "master": 2, "level": 10}])"));
   analysis::AnalyseDocument(doc, {});
-  // Ties are penalties ten thousand times stiffer than what they tie: rigid to about 1e-4.
-  EXPECT_NEAR(doc.results.results[0].displacements[3].v[0], 1.0, 2e-4);  // node 4 follows node 2
-  EXPECT_NEAR(ReactionAt(doc, 3).v[0], -kSwayShear, 2e-4 * kSwayShear);
-  EXPECT_NEAR(std::abs(ReactionAt(doc, 3).v[5]), kSwayMoment, 2e-4 * kSwayMoment);
-  // What the pushed top takes, the two bases give back.
+  // The tie is exact: node 4 follows node 2 and its column bends as much.
+  EXPECT_NEAR(doc.results.results[0].displacements[3].v[0], 1.0, 1e-12);
+  EXPECT_NEAR(ReactionAt(doc, 3).v[0], -kSwayShear, 1e-9 * kSwayShear);
+  EXPECT_NEAR(std::abs(ReactionAt(doc, 3).v[5]), kSwayMoment, 1e-9 * kSwayMoment);
+  // The support that pushes node 2 pushes both columns through the diaphragm, and the two
+  // bases give it back.
+  EXPECT_NEAR(ReactionAt(doc, 2).v[0], 2 * kSwayShear, 1e-9 * kSwayShear);
   EXPECT_NEAR(ReactionAt(doc, 1).v[0] + ReactionAt(doc, 3).v[0] + ReactionAt(doc, 2).v[0], 0.0, 1e-9 * kSwayShear);
 }
 
@@ -56,8 +59,8 @@ TEST(BoundaryAnalysis, AConstraintTiesTheTwoDegreesOfFreedom) {
   model::ModelDocument doc =
       Parse(TwoColumns(R"(, "constraints": [{"id": 1, "node1": 2, "dof1": "X", "node2": 4, "dof2": "X"}])"));
   analysis::AnalyseDocument(doc, {});
-  EXPECT_NEAR(doc.results.results[0].displacements[3].v[0], 1.0, 2e-4);
-  EXPECT_NEAR(ReactionAt(doc, 3).v[0], -kSwayShear, 2e-4 * kSwayShear);
+  EXPECT_NEAR(doc.results.results[0].displacements[3].v[0], 1.0, 1e-12);
+  EXPECT_NEAR(ReactionAt(doc, 3).v[0], -kSwayShear, 1e-9 * kSwayShear);
   // The tie pulls node 4 along with the shear its column takes, and node 2 back as much: the
   // constraint-force report's record.
   const auto& forces = doc.results.results[0].constraintForces;
@@ -65,8 +68,8 @@ TEST(BoundaryAnalysis, AConstraintTiesTheTwoDegreesOfFreedom) {
   EXPECT_EQ(forces[0].id, 1);
   EXPECT_EQ(forces[0].node, (std::array<int32_t, 2>{2, 4}));
   EXPECT_EQ(forces[0].dof, (std::array<int32_t, 2>{0, 0}));
-  EXPECT_NEAR(forces[0].value[0], -kSwayShear, 2e-4 * kSwayShear);
-  EXPECT_NEAR(forces[0].value[1], kSwayShear, 2e-4 * kSwayShear);
+  EXPECT_NEAR(forces[0].value[0], -kSwayShear, 1e-9 * kSwayShear);
+  EXPECT_NEAR(forces[0].value[1], kSwayShear, 1e-9 * kSwayShear);
 }
 
 TEST(BoundaryAnalysis, WithoutTiesTheOtherColumnStaysAndAPinnedEndCarriesNoMoment) {

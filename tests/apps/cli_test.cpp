@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
 #include <string>
 #include <vector>
 
@@ -309,14 +310,16 @@ TEST_F(CliTest, ResourceLimitsAreReportedAndLoseNothing) {
   EXPECT_EQ(oom.status, 1);
   EXPECT_EQ(oom.err, "norvane-cli: Not enough memory to open model \"" + model + "\"\n");
 #endif
-  const std::string before = "earlier table\r\n";
-  for (const char* append : {"", " --append"}) {
-    WriteFileText(out, before);
-    const CliRun full = Cli("grid export '" + model + "' nodes '" + out + "'" + append, "prlimit --fsize=65536 ");
-    EXPECT_EQ(full.status, 1) << append;
-    EXPECT_EQ(full.err, "norvane-cli: Cannot write \"" + out + "\": File too large\n") << append;
-    EXPECT_EQ(ReadFileText(out), before) << append;
-    EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"big.json", "nodes.txt"})) << append;
+  // The workbook, too, says it in the system's words and nothing else.
+  const std::string before = "earlier table\r\n", workbook = dir / "nodes.xlsx";
+  for (const auto& [file, append] : {std::pair{out, ""}, std::pair{out, " --append"}, std::pair{workbook, ""}}) {
+    WriteFileText(file, before);
+    const CliRun full = Cli("grid export '" + model + "' nodes '" + file + "'" + append, "prlimit --fsize=65536 ");
+    EXPECT_EQ(full.status, 1) << file << append;
+    EXPECT_EQ(full.err, "norvane-cli: Cannot write \"" + file + "\": File too large\n") << file << append;
+    EXPECT_TRUE(ReadFileText(file) == before) << file << append << ": the old file is kept";
+    std::filesystem::remove(file);
+    EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"big.json"})) << file << append;
   }
 
 }

@@ -1,14 +1,13 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
-#include <sys/resource.h>
-
-#include <csignal>
 #include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
 
 #include "support/TempDir.h"
+#include "support/file_size_limit.h"
 #include "support/files.h"
 #include "tools/atomic_file.h"
 
@@ -33,20 +32,14 @@ TEST_F(AtomicFileTest, ReplacesWithoutLeavingTemporariesAndAppendsWithoutTruncat
 
 // A file-size limit makes a write fail half-way, as a full disk would; the message of the failure.
 std::string FailingPastFileSize(const std::function<void()>& write) {
-  struct rlimit old {};
-  getrlimit(RLIMIT_FSIZE, &old);
-  const struct rlimit small {4096, old.rlim_max};
-  const auto previousHandler = std::signal(SIGXFSZ, SIG_IGN);
-  std::string message = "written";
-  if (setrlimit(RLIMIT_FSIZE, &small) != 0) return "no limit";
-  try {
-    write();
-  } catch (const tools::FileError& e) {
-    message = e.what();
-  }
-  setrlimit(RLIMIT_FSIZE, &old);
-  std::signal(SIGXFSZ, previousHandler);
-  return message;
+  return WithFileSizeLimit(4096, [&]() -> std::string {
+    try {
+      write();
+    } catch (const tools::FileError& e) {
+      return e.what();
+    }
+    return "written";
+  });
 }
 
 TEST_F(AtomicFileTest, FailureInTheMiddleOfWritingKeepsTheOldFile) {
@@ -62,6 +55,16 @@ TEST_F(AtomicFileTest, FailureInTheMiddleOfWritingKeepsTheOldFile) {
   EXPECT_EQ(FailingPastFileSize([&] { tools::AppendToFile(path, std::string(100000, 'a')); }),
             "Cannot write \"" + path + "\": File too large");
   EXPECT_EQ(ReadFileText(path), "the old model\r\nfirst table\r\n");
+
+  // A full disk, in the system's words.
+  if (access("/dev/full", W_OK) == 0) {
+    try {
+      tools::AppendToFile("/dev/full", "a table");
+      ADD_FAILURE() << "writing to /dev/full succeeded";
+    } catch (const tools::FileError& e) {
+      EXPECT_EQ(std::string(e.what()), "Cannot write \"/dev/full\": No space left on device");
+    }
+  }
 }
 
 TEST_F(AtomicFileTest, ReplacingKeepsTheModeAndWritesThroughSymbolicLinks) {

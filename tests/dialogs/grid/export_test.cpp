@@ -2,15 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <clocale>
 #include <cmath>
+#include <cstring>
 #include <map>
+#include <random>
 #include <regex>
 
 #include "dialogs/grid/grid_ops.h"
 #include "dialogs/grid/sheet.h"
 #include "support/TempDir.h"
 #include "support/comma_locale.h"
+#include "support/file_size_limit.h"
 #include "support/files.h"
 #include "tools/format.h"
 #include "tools/parse.h"
@@ -291,4 +295,83 @@ TEST(ExportWorkbook, NumbersKeepFullPrecisionInTheFormatTheGridShows) {
             "X [ft]\tY [ft]\tRatio\tId\r\n512346\t0.333333\t0.417 %\t17\r\n-2.25e-07\t0.5\tn/a\t\r\n");
   ASSERT_EQ(grid::ExportSheet(sheet, dir / "p.htm", false, "P"), std::nullopt);
   EXPECT_NE(ReadFileText(dir / "p.htm").find(">512346</td>"), std::string::npos);
+}
+
+// A cell filled from a number holds that double exactly: "%.16G" lost a digit of about half
+// of all coordinates. Small sheets and large ones (written in pieces on several threads).
+TEST(ExportWorkbook, NumbersHoldTheirDoublesExactly) {
+  const std::vector<double> awkward = {512345.678, 1.0 / 3, 0.1 + 0.2, -2.25e-7, 1e300, 5e-324, -0.0,
+                                       123456789012345678.0, 4503599627370497.0};
+  std::mt19937_64 random(7);
+  std::uniform_real_distribution<double> coordinate(-5000.0, 5000.0);
+  for (int rows : {1000, 60000}) {
+    Sheet sheet = MakeSheet({{"X [ft]", "Y [ft]"}});
+    sheet.SetMaxRows(rows);
+    std::vector<double> values;
+    for (int row = 1; row <= rows; ++row)
+      for (int col = 1; col <= 2; ++col) {
+        const size_t i = values.size();
+        values.push_back(i < awkward.size() ? awkward[i] : coordinate(random));
+        sheet.SetNumberG(col, row, values.back());
+      }
+    TempDir dir;
+    ASSERT_EQ(grid::ExportSheet(sheet, dir / "n.xlsx", false, "Nodes"), std::nullopt);
+    const auto cells = ReadWorksheet(dir / "n.xlsx");
+    int inexact = 0;
+    for (int row = 1; row <= rows; ++row)
+      for (int col = 1; col <= 2; ++col) {
+        const XlsxCell& cell = cells.at(tools::Format("%c%d", 'A' + col - 1, row + 1));
+        const double expected = values[size_t(row - 1) * 2 + size_t(col - 1)];
+        double held = 0;
+        const auto [end, ec] = std::from_chars(cell.value.data(), cell.value.data() + cell.value.size(), held);
+        const bool exact = ec == std::errc() && end == cell.value.data() + cell.value.size() && cell.type.empty() &&
+                           std::memcmp(&held, &expected, sizeof held) == 0;
+        if (!exact && ++inexact <= 5) ADD_FAILURE() << "row " << row << " holds " << cell.value << " for " << expected;
+      }
+    EXPECT_EQ(inexact, 0) << rows << " rows";
+    EXPECT_EQ(cells.at("A2").value, "512345.678");
+    EXPECT_EQ(cells.at("B2").value, "0.3333333333333333");
+  }
+}
+
+// Whatever a text holds, the workbook stays well-formed and the text reads back as written:
+// control characters and "_xHHHH_" use the workbook's escapes, bytes that are no UTF-8 become
+// U+FFFD instead of breaking the shared strings.
+TEST(ExportWorkbook, TextsStayWellFormedWhateverTheyHold) {
+  Sheet sheet = MakeSheet({{"Label"}, {"bell\x07"}, {"_x0041_ stays"}, {"a\r\nb"}, {"bad \xC0\x80 bytes"},
+                           {" padded "}, {"<&>"}, {"\xC3\x84rger"}});
+  TempDir dir;
+  ASSERT_EQ(grid::ExportSheet(sheet, dir / "t.xlsx", false, "Tab\there: [x]"), std::nullopt);
+  const std::string strings = CommandOutput("unzip -p '" + dir / "t.xlsx" + "' xl/sharedStrings.xml");
+  for (const char* part : {"<t>bell_x0007_</t>", "<t>_x005F_x0041_ stays</t>", "<t>a_x000D_\nb</t>",
+                           "<t>bad \xEF\xBF\xBD\xEF\xBF\xBD bytes</t>", "<t xml:space=\"preserve\"> padded </t>",
+                           "<t>&lt;&amp;&gt;</t>", "<t>\xC3\x84rger</t>"})
+    EXPECT_NE(strings.find(part), std::string::npos) << part << " in " << strings;
+  const std::string workbookXml = CommandOutput("unzip -p '" + dir / "t.xlsx" + "' xl/workbook.xml");
+  EXPECT_NE(workbookXml.find("name=\"Tab_here_ _x_\""), std::string::npos) << workbookXml;
+  int status = -1;
+  CommandOutput("unzip -tq '" + dir / "t.xlsx" + "'", &status);
+  EXPECT_EQ(status, 0);
+}
+
+// Past a file-size limit (as on a full disk) the export says why in the system's words, prints
+// nothing of its own, leaves the old file as it was and nothing beside it.
+TEST(ExportWorkbook, AFailedWriteKeepsTheOldFileAndSaysWhy) {
+  std::mt19937_64 random(11);
+  std::uniform_real_distribution<double> coordinate(-5000.0, 5000.0);
+  for (int rows : {3000, 60000}) {
+    Sheet sheet = MakeSheet({{"X [ft]", "Y [ft]"}});
+    sheet.SetMaxRows(rows);
+    for (int row = 1; row <= rows; ++row)
+      for (int col = 1; col <= 2; ++col) sheet.SetNumberG(col, row, coordinate(random));
+    TempDir dir;
+    const std::string path = dir / "nodes.xlsx";
+    WriteFileText(path, "the old workbook");
+    testing::internal::CaptureStderr();
+    const auto failure = WithFileSizeLimit(16384, [&] { return grid::ExportSheet(sheet, path, false, "Nodes"); });
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(failure, "Cannot write \"" + path + "\": File too large") << rows << " rows";
+    EXPECT_TRUE(ReadFileText(path) == "the old workbook") << "the old file is kept";
+    EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"nodes.xlsx"});
+  }
 }
