@@ -1,16 +1,11 @@
-#include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QTableView>
-#include <QTest>
 
 #include <functional>
 #include <memory>
 
 #include "dialogs/boundary/CBoundaryDataDlg.h"
 #include "resources/grid_ids.h"
-#include "support/DialogTest.h"
+#include "support/GridHands.h"
 
 namespace {
 
@@ -62,7 +57,7 @@ struct Host {
 
 using Texts = std::vector<std::string>;
 
-class BoundaryDialogTest : public DialogTest {
+class BoundaryDialogTest : public GridDialogTest {
  protected:
   template <class Dlg>
   Dlg& Open(bool locked = false) {
@@ -81,45 +76,10 @@ class BoundaryDialogTest : public DialogTest {
     if constexpr (std::is_same_v<Dlg, CDriftNodeDataDlg>) d.m_pDriftNodes = &host.driftNodes;
     d.InitDialogForTest();
     dialog = std::move(dlg);
-    Show();
+    Show(d);
     return d;
   }
-  grid::Sheet& sheet() { return dialog->Spread().sheet(); }
-  QTableView* view() { return dialog->Spread().view(); }
-  void Show() {
-    dialog->show();
-    QApplication::setActiveWindow(dialog.get());
-    view()->setFocus();
-  }
-  QPoint CellCenter(int col, int row) {
-    view()->scrollTo(view()->model()->index(row - 1, col - 1));
-    return view()->visualRect(view()->model()->index(row - 1, col - 1)).center();
-  }
-  void Click(int col, int row, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::mouseClick(view()->viewport(), Qt::LeftButton, modifiers, CellCenter(col, row));
-  }
-  void Type(const QString& text) {
-    for (QChar c : text) QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
-  }
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    QApplication::processEvents();
-  }
-  // Types a text into a cell and leaves it with Enter.
-  void TypeInto(int col, int row, const QString& text) {
-    Click(col, row);
-    Type(text);
-    Press(Qt::Key_Return);
-  }
-  void AddNewRows(const char* count) {
-    dialog->Item<QLineEdit>(res::kCtlNewRowCount)->setText(count);
-    ASSERT_TRUE(dialog->PressButton(res::kCtlNewRows));
-  }
-  Texts Row(int row) {
-    Texts texts;
-    for (int col = 1; col <= sheet().MaxCols(); ++col) texts.push_back(sheet().GetData(col, row));
-    return texts;
-  }
+  void AddNewRows(const char* count) { GridDialogTest::AddNewRows(*dialog, count); }
 
   Host host;
   const Host original;
@@ -177,8 +137,7 @@ TEST_F(BoundaryDialogTest, APastedBlockOfSpringsIsReadAndAWordInAChoiceIsRefused
   Open<CSpringDataDlg>();
   AddNewRows("2");
   Click(1, 2);
-  QApplication::clipboard()->setText("4\t10\t10\t0\t0\t0\t0\n5\t0\t0\t20\t0\t0\t1500\n");
-  Press(Qt::Key_V, Qt::ControlModifier);
+  Paste("4\t10\t10\t0\t0\t0\t0\n5\t0\t0\t20\t0\t0\t1500\n");
   EXPECT_EQ(Row(3), (Texts{"5", "0", "0", "20", "0", "0", "1500"}));
   ASSERT_TRUE(dialog->PressButton(IDOK));
   EXPECT_TRUE(Messages().empty());
@@ -187,8 +146,7 @@ TEST_F(BoundaryDialogTest, APastedBlockOfSpringsIsReadAndAWordInAChoiceIsRefused
 
   Open<CMomentReleasesDataDlg>();
   Click(2, 1);
-  QApplication::clipboard()->setText("Loose");
-  Press(Qt::Key_V, Qt::ControlModifier);
+  Paste("Loose");
   EXPECT_EQ(Messages(), (Texts{"\"Loose\" is not one of Fixed, Released."}));
   EXPECT_EQ(sheet().GetData(2, 1), "Fixed");
 }

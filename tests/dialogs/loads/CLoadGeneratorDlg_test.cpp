@@ -9,7 +9,7 @@
 #include "dialogs/loads/CMovingLoadDlg.h"
 #include "dialogs/loads/CPatternLoadDataDlg.h"
 #include "resources/grid_ids.h"
-#include "support/DialogTest.h"
+#include "support/GridHands.h"
 
 namespace {
 
@@ -59,7 +59,7 @@ struct Host {
 
 using Texts = std::vector<std::string>;
 
-class GeneratorDialogTest : public DialogTest {
+class GeneratorDialogTest : public GridDialogTest {
  protected:
   template <class Dlg>
   void Open(Dlg& dlg) {
@@ -193,25 +193,18 @@ TEST_F(GeneratorDialogTest, BiDirectionalKeepsTheFirstDirectionWhenTheSecondIsRe
 TEST_F(GeneratorDialogTest, PathRowsAreTypedAddedAndCutThroughTheGrid) {
   CMovingLoadDlg dlg;
   Open(dlg);
-  dlg.show();
-  QApplication::setActiveWindow(&dlg);
-  QTableView* view = dlg.Spread().view();
-  const auto center = [&](int row) { return view->visualRect(view->model()->index(row - 1, 0)).center(); };
-  dlg.Item<QLineEdit>(res::kCtlNewRowCount)->setText("2");
-  ASSERT_TRUE(dlg.PressButton(res::kCtlNewRows));
+  Show(dlg);
+  AddNewRows(dlg, "2");
   EXPECT_EQ(Path(dlg), (Texts{"11", "12", "13", "", ""})) << "new rows hold no numbers of their own";
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, center(4));
-  for (char c : std::string("20")) QTest::keyClick(QApplication::focusWidget(), c);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  QApplication::processEvents();
+  TypeInto(1, 4, "20");
   EXPECT_EQ(Path(dlg), (Texts{"11", "12", "13", "20", ""}));
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, center(1));
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, center(2));
+  Click(1, 1);
+  Click(1, 2, Qt::ShiftModifier);
   ASSERT_TRUE(dlg.PressButton(res::kCtlGridEditAction));
   EXPECT_EQ(Path(dlg), (Texts{"13", "20", ""}));
   EXPECT_EQ(QApplication::clipboard()->text().left(2).toStdString(), "11") << "cut, not only deleted";
-  view->setFocus();
-  QTest::keyClick(view, Qt::Key_Z, Qt::ControlModifier);
+  view()->setFocus();
+  Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Path(dlg), (Texts{"11", "12", "13", "20", ""}));
 }
 
