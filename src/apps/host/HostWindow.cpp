@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 #include <map>
 
+#include "apps/host/AnalysisRun.h"
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostSettings.h"
 #include "apps/host/NodeTableModel.h"
@@ -90,6 +91,12 @@ void HostWindow::BuildMenus() {
   selectedOnlyAction_->setCheckable(true);
   connect(selectedOnlyAction_, &QAction::triggered, this, [this](bool on) { SetShowSelectedOnly(on); });
 
+  QMenu* analysis = menuBar()->addMenu("&Analysis");
+  analysis->addAction("&Run", this, [this] {
+    RunAnalysisAndOfferResults(model_, this);
+    RefreshView();
+  })->setObjectName("analysisRun");
+
   // One menu entry per registered dialog, by its caption, grouped by family in registration
   // order; the class name is the entry's tooltip.
   QMenu* dialogs = menuBar()->addMenu("&Dialogs");
@@ -160,17 +167,46 @@ bool HostWindow::NewModel() {
 }
 
 bool HostWindow::OpenModel(const std::string& path) {
+  // Memory may run out in the reading or in showing what was read: either way the file is
+  // named and the model that was open stays, never an abort.
+  const auto notEnoughMemory = [&] {
+    GetPrompter().Message(this, model::DocumentLoadError(path).what(), MessageIcon::Error);
+    return false;
+  };
+  model::ModelDocument opened;
   try {
-    model::ModelDocument doc = model::LoadModelDocument(path);
-    model_.doc = std::move(doc);
-    model_.path = path;
-    model_.modified = false;
+    opened = model::LoadModelDocument(path);
+  } catch (const std::bad_alloc&) {
+    return notEnoughMemory();
   } catch (const std::exception& e) {
     GetPrompter().Message(this, e.what(), MessageIcon::Error);
     return false;
   }
-  RefreshView();
-  return true;
+  std::string previousPath;
+  bool previousModified = model_.modified, swapped = false;
+  try {
+    std::string newPath = path;
+    previousPath = model_.path;
+    std::swap(model_.doc, opened);
+    model_.path.swap(newPath);
+    model_.modified = false;
+    swapped = true;
+    RefreshView();
+    return true;
+  } catch (const std::bad_alloc&) {
+    if (swapped) {
+      std::swap(model_.doc, opened);
+      model_.path.swap(previousPath);
+      model_.modified = previousModified;
+      opened = model::ModelDocument();
+      try {
+        RefreshView();
+      } catch (const std::bad_alloc&) {
+        // The view stays as it was; the model under it is the one it showed.
+      }
+    }
+    return notEnoughMemory();
+  }
 }
 
 void HostWindow::OnOpen() {

@@ -3,6 +3,7 @@
 #include <csignal>
 #include <iostream>
 #include <map>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -132,6 +133,9 @@ int main(int argc, char** argv) {
       window.model().path = modelPath;
       window.model().showOptions = options.showOptions;
       window.RefreshView();
+    } catch (const std::bad_alloc&) {
+      std::cerr << "norvane-host: " << model::DocumentLoadError(modelPath).what() << "\n";
+      return 1;
     } catch (const std::exception& e) {
       std::cerr << "norvane-host: " << e.what() << "\n";
       return 1;
