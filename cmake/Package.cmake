@@ -15,6 +15,12 @@ set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME norvane)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_GENERATE_SHLIBS ON)
+# The analysis loads CHOLMOD when it factors, so dpkg-shlibdeps does not see it.
+file(REAL_PATH ${CHOLMOD_LIBRARY} cholmod_file)
+execute_process(COMMAND dpkg-query -S ${cholmod_file} OUTPUT_VARIABLE cholmod_owner ERROR_QUIET)
+if(cholmod_owner MATCHES "^([^:]+):")
+  set(CPACK_DEBIAN_RUNTIME_PACKAGE_DEPENDS "${CMAKE_MATCH_1}")
+endif()
 # The demo host draws its text with this font when the system offers no other.
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_RECOMMENDS "fonts-dejavu-core")
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "Norvane dialog library, demo host and command-line engines

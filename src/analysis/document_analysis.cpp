@@ -5,6 +5,7 @@
 #include <map>
 #include <unordered_map>
 
+#include "analysis/area_loads.h"
 #include "analysis/element_results.h"
 #include "analysis/linear_static.h"
 #include "analysis/modal.h"
@@ -92,6 +93,45 @@ void AddCombinationMasses(Model& m, const LoadCase& c, double factor) {
     for (int dof = 0; dof < 3; ++dof) m.masses.push_back({node, dof, w * factor / m.g});
 }
 
+// An area load becomes line loads on the members along its polygon's edges; an edge that no
+// member joins passes its share to its two nodes by the lever rule.
+template <class MemberBetween>
+void AddAreaLoad(const Model& m, const fmAreaLoad& l, const std::string& what, const NodeIndex& nodes, double pressureScale,
+                 const MemberBetween& memberBetween, LoadCase& c) {
+  if (l.direction < 0 || l.direction > 2) throw AnalysisError(what + " has no direction.");
+  std::vector<size_t> at;
+  std::vector<Eigen::Vector3d> corners;
+  for (uint32_t id : l.nodes) {
+    at.push_back(nodes.At(id, what));
+    const Node& n = m.nodes[at.back()];
+    corners.emplace_back(n.x, n.y, n.z);
+  }
+  const double pressure = l.magnitude * pressureScale;
+  for (const EdgeLoad& el : DistributeAreaLoad(corners, pressure, l.distribution == fmAreaLoad::OneWay, what)) {
+    const size_t a = at[el.edge], b = at[(el.edge + 1) % at.size()];
+    const double length = (corners[(el.edge + 1) % at.size()] - corners[el.edge]).norm();
+    if (el.beforeStart != 0) c.nodal.push_back({a, l.direction, el.beforeStart});
+    if (el.afterEnd != 0) c.nodal.push_back({b, l.direction, el.afterEnd});
+    const size_t* member = memberBetween(a, b);
+    const bool reversed = member && m.members[*member].nodes[0] == b;
+    for (size_t k = 0; k + 1 < el.profile.size(); ++k) {
+      const auto [s0, q0] = el.profile[k];
+      const auto [s1, q1] = el.profile[k + 1];
+      if (q0 == 0 && q1 == 0) continue;
+      if (member) {
+        MemberLineLoad line{*member, l.direction, false, {q0, q1}, {s0, s1}};
+        if (reversed) line = {*member, l.direction, false, {q1, q0}, {length - s1, length - s0}};
+        c.memberLine.push_back(line);
+      } else {
+        const double force = (q0 + q1) / 2 * (s1 - s0);
+        const double centroid = s0 + (s1 - s0) * (q0 + 2 * q1) / (3 * (q0 + q1));
+        c.nodal.push_back({a, l.direction, force * (1 - centroid / length)});
+        c.nodal.push_back({b, l.direction, force * centroid / length});
+      }
+    }
+  }
+}
+
 // The loads of every load case, from the document's case loads (its one source of loads),
 // in the analysis' units. Loads on inactive elements have nothing to act on and are left out.
 void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, DocumentModel& out) {
@@ -112,7 +152,13 @@ void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, Docum
     const Node& b = m.nodes[m.members[k].nodes[1]];
     return std::hypot(b.x - a.x, b.y - a.y, b.z - a.z);
   };
-  size_t skipped = 0, areas = 0, sideways = 0;
+  // Members by the two nodes they join, for the edges of area loads.
+  std::unordered_map<uint64_t, size_t> memberBetween;
+  const auto pairKey = [](size_t a, size_t b) { return (static_cast<uint64_t>(std::min(a, b)) << 32) | std::max(a, b); };
+  for (const fmCaseLoad& cl : doc.caseLoads)
+    if (!cl.area.empty() && memberBetween.empty())
+      for (size_t k = 0; k < m.members.size(); ++k) memberBetween.emplace(pairKey(m.members[k].nodes[0], m.members[k].nodes[1]), k);
+  size_t skipped = 0, sideways = 0;
   bool selfWeightMass = false;
   for (size_t i = 0; i < doc.loadCases.size(); ++i) {
     LoadCase c;
@@ -170,7 +216,12 @@ void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, Docum
     thermal(cl.memberThermal, memberAt, ThermalLoad::Kind::Member);
     thermal(cl.shellThermal, shellAt, ThermalLoad::Kind::Shell);
     thermal(cl.brickThermal, brickAt, ThermalLoad::Kind::Brick);
-    areas += cl.area.size();
+    for (size_t k = 0; k < cl.area.size(); ++k)
+      AddAreaLoad(m, cl.area[k], "Area load " + Id(static_cast<int64_t>(k + 1)) + " of \"" + c.name + "\"", nodes,
+                  s(fmUnit::SurfaceForce), [&](size_t a, size_t b) -> const size_t* {
+                    const auto it = memberBetween.find(pairKey(a, b));
+                    return it == memberBetween.end() ? nullptr : &it->second;
+                  }, c);
     if (cl.massFactor != 0) {
       AddCombinationMasses(m, c, cl.massFactor);
       selfWeightMass = selfWeightMass || c.selfWeight != 0;
@@ -182,7 +233,6 @@ void AddCaseLoads(const model::ModelDocument& doc, const NodeIndex& nodes, Docum
     m.cases.push_back(std::move(c));
   }
   if (skipped > 0) out.notes.push_back(Id(static_cast<int64_t>(skipped)) + " loads on inactive elements left out");
-  if (areas > 0) out.notes.push_back(Id(static_cast<int64_t>(areas)) + " area loads not analysed");
   if (sideways > 0) out.notes.push_back(Id(static_cast<int64_t>(sideways)) + " self weights along X or Z not analysed");
   if (selfWeightMass)
     out.notes.push_back("self weight left out of the combination masses: the elements carry their own mass");

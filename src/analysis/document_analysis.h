@@ -11,13 +11,12 @@
 // "results" section in the document's units.
 //
 // Read: nodes, materials, sections (RIGID_LINK sections as rigid links), thicknesses, active
-// members (tension-only and compression-only ones included), shells and bricks, supports,
-// load cases and combinations, and from the results section the records a solver run keeps
-// as input: nodal loads per case, nodal and coupled springs, and additional masses (a mass
-// record is taken as a weight in the force unit). Not read, because the document has no
-// records for them yet: member point and line loads, surface and thermal loads, self weight
-// per case, end releases, line and surface springs, constraints and diaphragms, and support
-// settlements.
+// members (tension-only and compression-only ones included) with their end releases, shells
+// and bricks, supports and their settlements, nodal, coupled, line and surface springs,
+// constraints and diaphragms, load cases and combinations, and every case's loads: nodal,
+// member point and line, surface, area (passed to the members along the polygon's edges, see
+// area_loads.h), thermal, self weight along Y, additional and combination masses. Loads on
+// inactive elements and self weight along X or Z are left out, each with a note.
 namespace analysis {
 
 struct DocumentModel {

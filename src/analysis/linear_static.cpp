@@ -37,7 +37,7 @@ struct Solver {
 
   Solver(const Model& m, const MemberActivity& active) : model(m), k(AssembleStiffness(m, active)) {
     factor.Factor(
-        k.free, [&](Eigen::Index eq) { return DofLabel(model, k.numbering.freeDofs[static_cast<size_t>(eq)]); });
+        k.free, k.numbering.freeDofs, [&](Eigen::Index eq) { return DofLabel(model, k.numbering.freeDofs[static_cast<size_t>(eq)]); });
   }
 
   // Displacements of several load vectors (columns) at once. `prescribed` holds the supports'

@@ -53,7 +53,7 @@ ModalResults SolveModes(const Model& model, int count, const Progress& progress)
   const DofNumbering& num = stiffness->numbering;
   StiffnessFactor factor;
   factor.Factor(
-      stiffness->free, [&](Eigen::Index eq) { return DofLabel(model, num.freeDofs[static_cast<size_t>(eq)]); });
+      stiffness->free, num.freeDofs, [&](Eigen::Index eq) { return DofLabel(model, num.freeDofs[static_cast<size_t>(eq)]); });
 
   out.mass = LumpedMasses(model);
   const auto all = out.mass.size();

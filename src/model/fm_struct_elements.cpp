@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <type_traits>
 #include <unordered_map>
 
 #include "model/fm_struct.h"
@@ -18,37 +19,27 @@ namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
-// The values of a record as one run of doubles, so one routine sums every kind.
+// The values of a record as one run of doubles (its array of points or nodes), so one
+// routine sums every kind.
+template <auto Member>
+struct ValuesOf;
+template <class R, class Array, Array R::* Member>
+struct ValuesOf<Member> {
+  static_assert(std::is_same_v<typename Array::value_type::value_type, double>);
+  static double* Of(R& r) { return (r.*Member)[0].data(); }
+  static const double* Of(const R& r) { return (r.*Member)[0].data(); }
+  static constexpr size_t kCount = sizeof(Array) / sizeof(double);
+};
 template <class R>
 struct Values;
 template <>
-struct Values<fmShellForce> {
-  static double* Of(fmShellForce& r) { return r.point[0].data(); }
-  static const double* Of(const fmShellForce& r) { return r.point[0].data(); }
-  static constexpr size_t kCount = 8 * kShellPoints;
-};
+struct Values<fmShellForce> : ValuesOf<&fmShellForce::point> {};
 template <>
-struct Values<fmShellNodalResultant> {
-  static double* Of(fmShellNodalResultant& r) { return r.node[0].data(); }
-  static const double* Of(const fmShellNodalResultant& r) { return r.node[0].data(); }
-  static constexpr size_t kCount = 5 * 4;
-};
+struct Values<fmShellNodalResultant> : ValuesOf<&fmShellNodalResultant::node> {};
 template <>
-struct Values<fmShellStress> {
-  static double* Of(fmShellStress& r) { return r.point[0].data(); }
-  static const double* Of(const fmShellStress& r) { return r.point[0].data(); }
-  static constexpr size_t kCount = 6 * kShellPoints;
-};
+struct Values<fmShellStress> : ValuesOf<&fmShellStress::point> {};
 template <>
-struct Values<fmBrickStress> {
-  static double* Of(fmBrickStress& r) { return r.point[0].data(); }
-  static const double* Of(const fmBrickStress& r) { return r.point[0].data(); }
-  static constexpr size_t kCount = 6 * kBrickPoints;
-};
-static_assert(sizeof(fmShellForce::point) == sizeof(double) * Values<fmShellForce>::kCount);
-static_assert(sizeof(fmBrickStress::point) == sizeof(double) * Values<fmBrickStress>::kCount);
-static_assert(sizeof(fmShellStress::point) == sizeof(double) * Values<fmShellStress>::kCount);
-static_assert(sizeof(fmShellNodalResultant::node) == sizeof(double) * Values<fmShellNodalResultant>::kCount);
+struct Values<fmBrickStress> : ValuesOf<&fmBrickStress::point> {};
 
 // Adds factor × one case's records into the sum, matching records by number: by position
 // while the lists line up (one run lists elements in one order), looked up where not.

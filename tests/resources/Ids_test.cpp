@@ -5,6 +5,8 @@
 #include <string>
 
 // Every ids header in one translation unit: a name given two values does not compile.
+#include "resources/boundary_ids.h"
+#include "resources/case_loads_ids.h"
 #include "resources/design_ids.h"
 #include "resources/frame_ids.h"
 #include "resources/geometry_ids.h"

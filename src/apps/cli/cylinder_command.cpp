@@ -6,6 +6,7 @@
 
 #include "apps/cli/cli.h"
 #include "dialogs/geometry/cylindrical_frame.h"
+#include "model/document.h"
 #include "tools/atomic_file.h"
 #include "tools/format.h"
 #include "tools/parse.h"
@@ -35,7 +36,7 @@ std::string Listing(const geometry::CylindricalFrame& f) {
 struct CylinderArgs {
   geometry::CylindricalFrameParameters p;
   bool noMembers = false;
-  std::string insert, axis, rotate, supports, firstNode, firstMember, output;
+  std::string insert, axis, rotate, supports, firstNode, firstMember, output, into, modelOut;
   const CLI::App* command = nullptr;
   bool Given(const std::string& option) const { return command->count(option) > 0; }
 };
@@ -83,6 +84,29 @@ int Cylinder(CylinderArgs a, std::ostream& out, std::ostream& err) {
   }
   const std::string& output = a.output;
 
+  if (a.Given("--into")) {
+    // Into a model: numbered after its nodes and members, with its first material and section.
+    if (a.Given("--first-node") || a.Given("--first-member") || a.Given("--output"))
+      return bad("--into numbers the frame after the model's own ids and writes a model: no --first-node, "
+                 "--first-member or --output");
+    if (a.modelOut.empty()) return bad("--into needs -o OUT, the model to write");
+    model::ModelDocument doc = model::LoadModelDocument(a.into);
+    const geometry::CylindricalFrameResult r = geometry::AddCylindricalFrameToDocument(doc, p);
+    if (!r.ok()) {
+      err << "norvane-cli: " << r.error << "\n";
+      return kRefused;
+    }
+    model::SaveModelDocument(doc, a.modelOut);
+    const auto& f = r.frame;
+    out << "Added " << Count(f.nodes.size(), "node");
+    if (!f.nodes.empty()) out << " (" << f.nodes.front().id << " to " << f.nodes.back().id << ")";
+    out << ", " << Count(f.members.size(), "member");
+    if (!f.members.empty()) out << " (" << f.members.front().id << " to " << f.members.back().id << ")";
+    out << " and " << Count(f.supports.size(), "support") << " to " << a.modelOut << "\n";
+    return kOk;
+  }
+  if (!a.modelOut.empty()) return bad("-o writes a model: give the model with --into");
+
   const geometry::CylindricalFrameResult r = geometry::GenerateCylindricalFrame(p, firstNode, firstMember);
   if (!r.ok()) {
     err << "norvane-cli: " << r.error << "\n";
@@ -117,6 +141,10 @@ void AddCylinderCommand(Program& program) {
   c->add_option("--first-node", a->firstNode, "id of the first node (1 by default)")->type_name("ID");
   c->add_option("--first-member", a->firstMember, "id of the first member (1 by default)")->type_name("ID");
   c->add_option("--output", a->output, "write the listing to FILE instead of stdout")->type_name("FILE");
+  c->add_option("--into", a->into,
+                "add the frame to this model (its members take the model's first material and section)")
+      ->type_name("MODEL");
+  c->add_option("-o", a->modelOut, "with --into, write the model with the frame to OUT")->type_name("OUT");
 }
 
 }  // namespace cli

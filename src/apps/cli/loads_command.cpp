@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -109,7 +110,75 @@ bool ParsePath(const std::string& text, std::vector<int64_t>& path, std::ostream
 struct Args {
   std::string model, caseNumber, step, path, ratio = "1", out;
   bool biDirectional = false, yes = false;
+  std::string selfWeight, nodes, direction, magnitude;
 };
+
+// Node ids as "3,5,8-12".
+bool ParseNodeIds(const std::string& text, std::vector<uint32_t>& ids, std::ostream& err) {
+  size_t start = 0;
+  while (start <= text.size()) {
+    const size_t comma = std::min(text.find(',', start), text.size());
+    const std::string item(tools::Trim(std::string_view(text).substr(start, comma - start)));
+    const size_t dash = item.find('-', 1);
+    const auto first = tools::ParseUInt32(item.substr(0, dash));
+    const auto last = dash == std::string::npos ? first : tools::ParseUInt32(item.substr(dash + 1));
+    if (!first || !last || *first == 0 || *last < *first || *last - *first > 1000000) {
+      err << "norvane-cli: bad node \"" << item << "\" in --nodes (ids and ranges separated by commas: 3,5,8-12)\n";
+      return false;
+    }
+    for (uint32_t id = *first; id <= *last; ++id) ids.push_back(id);
+    start = comma + 1;
+  }
+  return true;
+}
+
+// Adds self weight and nodal loads to a case.
+int Add(const Args& a, std::ostream& out, std::ostream& err) {
+  model::ModelDocument doc = model::LoadModelDocument(a.model);
+  int index = 0;
+  if (!CaseIndex(doc, a.caseNumber, index, err)) return kUsage;
+  fmCaseLoad& cl = doc.caseLoads[static_cast<size_t>(index)];
+  if (a.selfWeight.empty() && a.nodes.empty()) {
+    err << "norvane-cli: nothing to add: give --self-weight F, or --nodes with --direction and --magnitude\n";
+    return kUsage;
+  }
+  if (!a.selfWeight.empty()) {
+    const auto factor = tools::ParseDouble(tools::Trim(a.selfWeight));
+    if (!factor) {
+      err << "norvane-cli: bad --self-weight \"" << a.selfWeight << "\": a factor of the weight along Y (-1 is gravity)\n";
+      return kUsage;
+    }
+    cl.selfWeight = {1, *factor};
+  }
+  if (!a.nodes.empty()) {
+    std::vector<uint32_t> ids;
+    if (!ParseNodeIds(a.nodes, ids, err)) return kUsage;
+    int direction = -1;
+    for (size_t d = 0; d < 6; ++d)
+      if (tools::EqualsNoCase(tools::Trim(a.direction), LoadDirectionNames()[d])) direction = static_cast<int>(d);
+    const auto magnitude = tools::ParseDouble(tools::Trim(a.magnitude));
+    if (direction < 0 || !magnitude) {
+      err << "norvane-cli: nodal loads need --direction X, Y, Z, OX, OY or OZ and a --magnitude in the model's "
+             "force or moment unit\n";
+      return kUsage;
+    }
+    for (uint32_t id : ids) {
+      if (std::none_of(doc.nodes.begin(), doc.nodes.end(), [&](const fmNd& n) { return n.id == id; })) {
+        err << "norvane-cli: node " << id << " is not in the model\n";
+        return kRefused;
+      }
+      cl.nodal.push_back({id, direction, *magnitude});
+    }
+  }
+  PrintCase(doc, static_cast<size_t>(index), out);
+  if (a.out.empty()) {
+    err << "norvane-cli: model not written (give -o OUT to save it)\n";
+  } else {
+    model::SaveModelDocument(doc, a.out);
+    out << "Written to " << a.out << "\n";
+  }
+  return kOk;
+}
 
 int List(const Args& a, std::ostream& out, std::ostream& err) {
   const model::ModelDocument doc = model::LoadModelDocument(a.model);
@@ -200,6 +269,18 @@ void AddLoadsCommand(Program& program) {
                                [a](Io io) { return List(*a, io.out, io.err); });
   list->add_option("MODEL", a->model, "the model document")->required();
   list->add_option("--case", a->caseNumber, "only this load case, numbered from 1")->type_name("N");
+
+  CLI::App* add = program.Add(*loads, "add", "add self weight or nodal loads to a load case",
+                              [a](Io io) { return Add(*a, io.out, io.err); });
+  add->add_option("MODEL", a->model, "the model document")->required();
+  add->add_option("--case", a->caseNumber, "the load case, numbered from 1")->type_name("N")->required();
+  add->add_option("--self-weight", a->selfWeight, "the case carries F times the elements' weight along Y (-1: gravity)")
+      ->type_name("F");
+  add->add_option("--nodes", a->nodes, "nodal loads at these nodes: 3,5,8-12")->type_name("LIST");
+  add->add_option("--direction", a->direction, "of the nodal loads")->type_name("X|Y|Z|OX|OY|OZ");
+  add->add_option("--magnitude", a->magnitude, "of each nodal load, in the model's force or moment unit")
+      ->type_name("V");
+  add->add_option("-o", a->out, "write the model with the loads to OUT")->type_name("OUT");
 
   CLI::App* move = program.Add(*loads, "move", "move the point loads of a case along a path of members",
                                [a](Io io) { return Generate<model::MovingLoadGenerator>(*a, io.out, io.err); });

@@ -11,6 +11,7 @@
 #include <QTreeWidget>
 #include <map>
 
+#include "apps/host/AnalysisRun.h"
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostSettings.h"
 #include "apps/host/NodeTableModel.h"
@@ -89,6 +90,12 @@ void HostWindow::BuildMenus() {
   selectedOnlyAction_ = dataOptions->addAction("Show only selected entities in spreadsheet");
   selectedOnlyAction_->setCheckable(true);
   connect(selectedOnlyAction_, &QAction::triggered, this, [this](bool on) { SetShowSelectedOnly(on); });
+
+  QMenu* analysis = menuBar()->addMenu("&Analysis");
+  analysis->addAction("&Run", this, [this] {
+    RunAnalysisAndOfferResults(model_, this);
+    RefreshView();
+  })->setObjectName("analysisRun");
 
   // One menu entry per registered dialog, by its caption, grouped by family in registration
   // order; the class name is the entry's tooltip.

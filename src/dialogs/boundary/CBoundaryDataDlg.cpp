@@ -3,11 +3,13 @@
 #include <QComboBox>
 #include <memory>
 
+#include "dialogs/grid/grid_ops.h"
 #include "resources/boundary_ids.h"
-#include "resources/resources.h"
 
-CBoundaryDataDlg::CBoundaryDataDlg(int templateId, QWidget* pParent) : CDataGridDlg(templateId, pParent) {
-  OnCommand(res::kCtlDeleteRows, [this] { OnDeleteRows(); });
+using namespace res;
+
+CBoundaryDataDlg::CBoundaryDataDlg(const frame::FormBase& form, QWidget* pParent) : CDataGridDlg(form, pParent) {
+  OnCommand(kCtlGridEditAction, [this] { OnDeleteRows(); });
 }
 
 boundarygrid::Objects CBoundaryDataDlg::Objects() const {
@@ -24,12 +26,9 @@ void CBoundaryDataDlg::PrepareNewRows(grid::Sheet& sheet, int firstRow, int last
 
 void CBoundaryDataDlg::OnDeleteRows() {
   if (IsReadOnly()) return;
-  grid::Block block = m_Spread.sheet().SelectBlock();
-  if (block.IsEmpty()) {
-    const grid::CellRef active = m_Spread.sheet().ActiveCell();
-    if (active.row < 1 || active.row > m_Spread.sheet().MaxRows()) return;
-    block = {1, active.row, 1, active.row};
-  }
+  const std::optional<grid::Block> rows = grid::RowsToDelete(m_Spread.sheet());
+  if (!rows) return;
+  const grid::Block block = *rows;
   // The rows' records go with their rows when the deletion is undone or redone.
   boundarygrid::TableBase& table = Table();
   const std::vector<int64_t> before = table.RowOrigins();
@@ -45,12 +44,30 @@ void CBoundaryDataDlg::OnDeleteRows() {
   m_Spread.SetSelectBlock({});
 }
 
-CSuptDataDlg::CSuptDataDlg(QWidget* p) : CBoundaryDataDlg(res::kIddSuptData, p) {}
+const frame::Form<CSuptDataDlg>& CSuptDataDlg::Description() {
+  static const auto form = BoundaryForm<CSuptDataDlg>(
+      kIddSuptData, "Supports", 1000,
+      "X ... OZ: Fixed holds the node in that direction (global axes). Dx ... Doz: the displacement a Fixed "
+      "direction is given, a settlement; 0 holds it where it is.");
+  return form;
+}
+CSuptDataDlg::CSuptDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
 void CSuptDataDlg::Refresh() { FillFrom(table_, *m_pSupports); }
 bool CSuptDataDlg::Save() { return ReadInto(table_, *m_pSupports); }
 
-CSpringDataDlg::CSpringDataDlg(QWidget* p) : CBoundaryDataDlg(res::kIddSpringData, p) {
-  OnSelChange(res::kCtlSpringType, [this] { OnSpringTypeChange(); });
+const frame::Form<CSpringDataDlg>& CSpringDataDlg::Description() {
+  using F = frame::Field<CSpringDataDlg>;
+  static const auto form = BoundaryForm<CSpringDataDlg>(
+      kIddSpringData, "Springs", 900,
+      "Springs to ground in global axes, one row per node, member or shell; 0 is no spring.",
+      {F::DropIndex("Springs of:", &CSpringDataDlg::m_nSpringType)
+           .Items({"Nodes", "Members (line springs)", "Shells (surface springs)"})
+           .At(frame::kSideBar, 4)});
+  return form;
+}
+
+CSpringDataDlg::CSpringDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {
+  OnSelChange(frame::IdOf(&CSpringDataDlg::m_nSpringType), [this] { OnSpringTypeChange(); });
 }
 
 BOOL CSpringDataDlg::OnInitDialog() {
@@ -58,15 +75,7 @@ BOOL CSpringDataDlg::OnInitDialog() {
   lineCopy_ = m_pLineSprings ? *m_pLineSprings : std::vector<fmLineSpring>();
   surfaceCopy_ = m_pSurfaceSprings ? *m_pSurfaceSprings : std::vector<fmSurfaceSpring>();
   if (m_nSpringType < kNodal || m_nSpringType > kSurface) m_nSpringType = kNodal;
-  CBoundaryDataDlg::OnInitDialog();
-  SetComboItems(res::kCtlSpringType, {res::LoadStringOr(res::kStrSpringNodal, "Nodes"),
-                                      res::LoadStringOr(res::kStrSpringLine, "Members (line springs)"),
-                                      res::LoadStringOr(res::kStrSpringSurface, "Shells (surface springs)")});
-  if (auto* combo = Item<QComboBox>(res::kCtlSpringType)) {
-    const QSignalBlocker quiet(combo);
-    combo->setCurrentIndex(m_nSpringType);
-  }
-  return 1;
+  return CBoundaryDataDlg::OnInitDialog();
 }
 
 boundarygrid::TableBase& CSpringDataDlg::Table() const {
@@ -91,7 +100,7 @@ bool CSpringDataDlg::ReadShown() {
 }
 
 void CSpringDataDlg::OnSpringTypeChange() {
-  auto* combo = Item<QComboBox>(res::kCtlSpringType);
+  auto* combo = Item<QComboBox>(frame::IdOf(&CSpringDataDlg::m_nSpringType));
   if (!combo) return;
   const int chosen = combo->currentIndex();
   if (chosen == m_nSpringType || chosen < kNodal || chosen > kSurface) return;
@@ -113,24 +122,57 @@ bool CSpringDataDlg::Save() {
   return true;
 }
 
-CCoupledSpringDataDlg::CCoupledSpringDataDlg(QWidget* p) : CBoundaryDataDlg(res::kIddCoupledSpringData, p) {}
+const frame::Form<CCoupledSpringDataDlg>& CCoupledSpringDataDlg::Description() {
+  static const auto form = BoundaryForm<CCoupledSpringDataDlg>(
+      kIddCoupledSpringData, "Coupled Springs", 1020,
+      "The upper triangle of the node's symmetric 6x6 stiffness. Terms coupling a translation with a rotation "
+      "are forces per radian.");
+  return form;
+}
+CCoupledSpringDataDlg::CCoupledSpringDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
 void CCoupledSpringDataDlg::Refresh() { FillFrom(table_, *m_pCoupledSprings); }
 bool CCoupledSpringDataDlg::Save() { return ReadInto(table_, *m_pCoupledSprings); }
 
-CMomentReleasesDataDlg::CMomentReleasesDataDlg(QWidget* p) : CBoundaryDataDlg(res::kIddMomentReleasesData, p) {}
+const frame::Form<CMomentReleasesDataDlg>& CMomentReleasesDataDlg::Description() {
+  static const auto form = BoundaryForm<CMomentReleasesDataDlg>(
+      kIddMomentReleasesData, "Member End Releases", 1000,
+      "End forces in the member's local axes. Released: the end does not pass that force on; My and Mz "
+      "Released pin the end.");
+  return form;
+}
+CMomentReleasesDataDlg::CMomentReleasesDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
 void CMomentReleasesDataDlg::Refresh() { FillFrom(table_, *m_pReleases); }
 bool CMomentReleasesDataDlg::Save() { return ReadInto(table_, *m_pReleases); }
 
-CMultiDofConstraintDataDlg::CMultiDofConstraintDataDlg(QWidget* p)
-    : CBoundaryDataDlg(res::kIddMultiDofConstraintData, p) {}
+const frame::Form<CMultiDofConstraintDataDlg>& CMultiDofConstraintDataDlg::Description() {
+  static const auto form = BoundaryForm<CMultiDofConstraintDataDlg>(
+      kIddMultiDofConstraintData, "Multi-DOF Constraints", 560,
+      "The two degrees of freedom of each row move together.");
+  return form;
+}
+CMultiDofConstraintDataDlg::CMultiDofConstraintDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
 void CMultiDofConstraintDataDlg::Refresh() { FillFrom(table_, *m_pConstraints); }
 bool CMultiDofConstraintDataDlg::Save() { return ReadInto(table_, *m_pConstraints); }
 
-CDiaphragmDataDlg::CDiaphragmDataDlg(QWidget* p) : CBoundaryDataDlg(res::kIddDiaphragmData, p) {}
+const frame::Form<CDiaphragmDataDlg>& CDiaphragmDataDlg::Description() {
+  static const auto form = BoundaryForm<CDiaphragmDataDlg>(
+      kIddDiaphragmData, "Rigid Diaphragms", 620,
+      "Either a level (Y) or a list of nodes such as 5-9, 12. The floor follows its master node in X, Z and "
+      "the rotation about Y.");
+  return form;
+}
+CDiaphragmDataDlg::CDiaphragmDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
 void CDiaphragmDataDlg::Refresh() { FillFrom(table_, *m_pDiaphragms); }
 bool CDiaphragmDataDlg::Save() { return ReadInto(table_, *m_pDiaphragms); }
 
-CDriftNodeDataDlg::CDriftNodeDataDlg(QWidget* p) : CBoundaryDataDlg(res::kIddDriftNodeData, p) {}
+const frame::Form<CDriftNodeDataDlg>& CDriftNodeDataDlg::Description() {
+  static const auto form = BoundaryForm<CDriftNodeDataDlg>(
+      kIddDriftNodeData, "Drift Nodes", 420,
+      "The drift stack from the bottom up. The first node is measured from the base, the level of the lowest "
+      "support.");
+  return form;
+}
+CDriftNodeDataDlg::CDriftNodeDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
 void CDriftNodeDataDlg::Refresh() { FillFrom(table_, boundarygrid::DriftNodesOf(*m_pDriftNodes)); }
 bool CDriftNodeDataDlg::Save() {
   std::vector<boundarygrid::DriftNode> nodes;

@@ -18,7 +18,18 @@ class CBoundaryDataDlg : public CDataGridDlg {
   std::string PrintTitle() const override { return Table().Texts().printTitle; }
 
  protected:
-  CBoundaryDataDlg(int templateId, QWidget* pParent);
+  CBoundaryDataDlg(const frame::FormBase& form, QWidget* pParent);
+  // A boundary table's description: the grid with its note below it, "Delete Rows" after
+  // "New Rows", and `after` below "Save...".
+  template <class Dlg>
+  static frame::Form<Dlg> BoundaryForm(int templateId, const char* caption, int width, const char* note,
+                                       std::vector<frame::Field<Dlg>> after = {}) {
+    using F = frame::Field<Dlg>;
+    return TableForm<Dlg>({.templateId = templateId, .caption = caption, .minWidth = width, .minHeight = 420},
+                          {F::Static(note).Span(1).Flags(res::kMultiline),
+                           F::Button("Delete Rows").Id(res::kCtlGridEditAction)},
+                          std::move(after));
+  }
 
   void PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) override;
   // Deletes the selected rows (the active cell's row when nothing is selected) as one step.
@@ -47,6 +58,7 @@ class CBoundaryDataDlg : public CDataGridDlg {
 class CSuptDataDlg : public CBoundaryDataDlg {
  public:
   explicit CSuptDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CSuptDataDlg>& Description();
   std::vector<fmSupport>* m_pSupports = nullptr;
 
  protected:
@@ -65,6 +77,7 @@ class CSpringDataDlg : public CBoundaryDataDlg {
  public:
   enum SpringType { kNodal = 0, kLine = 1, kSurface = 2 };
   explicit CSpringDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CSpringDataDlg>& Description();
   std::vector<fmNodalSpring>* m_pNodalSprings = nullptr;
   std::vector<fmLineSpring>* m_pLineSprings = nullptr;
   std::vector<fmSurfaceSpring>* m_pSurfaceSprings = nullptr;
@@ -91,6 +104,7 @@ class CSpringDataDlg : public CBoundaryDataDlg {
 class CCoupledSpringDataDlg : public CBoundaryDataDlg {
  public:
   explicit CCoupledSpringDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CCoupledSpringDataDlg>& Description();
   std::vector<fmCoupledSpring>* m_pCoupledSprings = nullptr;
 
  protected:
@@ -105,6 +119,7 @@ class CCoupledSpringDataDlg : public CBoundaryDataDlg {
 class CMomentReleasesDataDlg : public CBoundaryDataDlg {
  public:
   explicit CMomentReleasesDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CMomentReleasesDataDlg>& Description();
   std::vector<fmMemberRelease>* m_pReleases = nullptr;
 
  protected:
@@ -119,6 +134,7 @@ class CMomentReleasesDataDlg : public CBoundaryDataDlg {
 class CMultiDofConstraintDataDlg : public CBoundaryDataDlg {
  public:
   explicit CMultiDofConstraintDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CMultiDofConstraintDataDlg>& Description();
   std::vector<fmConstraint>* m_pConstraints = nullptr;
 
  protected:
@@ -133,6 +149,7 @@ class CMultiDofConstraintDataDlg : public CBoundaryDataDlg {
 class CDiaphragmDataDlg : public CBoundaryDataDlg {
  public:
   explicit CDiaphragmDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CDiaphragmDataDlg>& Description();
   std::vector<fmDiaphragm>* m_pDiaphragms = nullptr;
 
  protected:
@@ -148,6 +165,7 @@ class CDiaphragmDataDlg : public CBoundaryDataDlg {
 class CDriftNodeDataDlg : public CBoundaryDataDlg {
  public:
   explicit CDriftNodeDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CDriftNodeDataDlg>& Description();
   std::vector<uint32_t>* m_pDriftNodes = nullptr;
 
  protected:

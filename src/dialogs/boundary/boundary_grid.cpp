@@ -197,69 +197,51 @@ struct Traits<fmSupport> {
   }
 };
 
+// Springs of nodes, members and shells: the object's id and its stiffnesses from column 2,
+// none negative and one at least not 0.
+template <class Record, Kind K, KeyKind Key_, uint32_t Record::* KeyMember>
+struct SpringTraits {
+  static constexpr Kind kKind = K;
+  static constexpr KeyKind kKey = Key_;
+  static uint32_t Key(const Record& s) { return s.*KeyMember; }
+  static void Write(const Record& s, RowOut& out) {
+    for (size_t k = 0; k < s.k.size(); ++k) out.Real(2 + static_cast<int>(k), s.k[k]);
+  }
+  static Record Read(uint32_t key, const RowIn& in, const Record* original, const Objects&) {
+    Record s;
+    s.*KeyMember = key;
+    for (size_t k = 0; k < s.k.size(); ++k) s.k[k] = in.NotNegative(2 + static_cast<int>(k), original ? &original->k[k] : nullptr);
+    RequireStiffness(s.k);
+    return s;
+  }
+};
+
 template <>
-struct Traits<fmNodalSpring> {
-  static constexpr Kind kKind = Kind::NodalSprings;
-  static constexpr KeyKind kKey = KeyKind::Node;
+struct Traits<fmNodalSpring> : SpringTraits<fmNodalSpring, Kind::NodalSprings, KeyKind::Node, &fmNodalSpring::node> {
   static std::vector<ColumnSpec> Columns(const fmUnit& u) {
     std::vector<ColumnSpec> c = {KeyCol("Node Id")};
     for (const char* name : {"Kx", "Ky", "Kz"}) c.push_back(RealCol(name, u, fmUnit::NodeSpring, 12));
     for (const char* name : {"Kox", "Koy", "Koz"}) c.push_back(RealCol(name, u, fmUnit::NodeRotationalSpring, 14));
     return c;
   }
-  static uint32_t Key(const fmNodalSpring& s) { return s.node; }
-  static void Write(const fmNodalSpring& s, RowOut& out) {
-    for (int k = 0; k < 6; ++k) out.Real(2 + k, s.k[static_cast<size_t>(k)]);
-  }
-  static fmNodalSpring Read(uint32_t key, const RowIn& in, const fmNodalSpring* original, const Objects&) {
-    fmNodalSpring s;
-    s.node = key;
-    for (size_t k = 0; k < 6; ++k) s.k[k] = in.NotNegative(2 + static_cast<int>(k), original ? &original->k[k] : nullptr);
-    RequireStiffness(s.k);
-    return s;
-  }
 };
 
-// Line and surface springs: an element id and Kx, Ky, Kz.
-template <class Record, Kind K, KeyKind Key_, fmUnit::Quantity Q>
-struct ElementSpringTraits {
-  static constexpr Kind kKind = K;
-  static constexpr KeyKind kKey = Key_;
-  static std::vector<ColumnSpec> Columns(const fmUnit& u) {
-    std::vector<ColumnSpec> c = {KeyCol(Key_ == KeyKind::Member ? "Member Id" : "Shell4 Id")};
-    for (const char* name : {"Kx", "Ky", "Kz"}) c.push_back(RealCol(name, u, Q, 13));
-    return c;
-  }
-  static void Write(const Record& s, RowOut& out) {
-    for (int k = 0; k < 3; ++k) out.Real(2 + k, s.k[static_cast<size_t>(k)]);
-  }
-  static void ReadK(Record& s, const RowIn& in, const Record* original) {
-    for (size_t k = 0; k < 3; ++k) s.k[k] = in.NotNegative(2 + static_cast<int>(k), original ? &original->k[k] : nullptr);
-    RequireStiffness(s.k);
-  }
-};
+// Line and surface springs: Kx, Ky, Kz after the element's id.
+std::vector<ColumnSpec> ElementSpringColumns(const char* key, const fmUnit& u, fmUnit::Quantity q) {
+  std::vector<ColumnSpec> c = {KeyCol(key)};
+  for (const char* name : {"Kx", "Ky", "Kz"}) c.push_back(RealCol(name, u, q, 13));
+  return c;
+}
 
 template <>
-struct Traits<fmLineSpring> : ElementSpringTraits<fmLineSpring, Kind::LineSprings, KeyKind::Member, fmUnit::LineSpring> {
-  static uint32_t Key(const fmLineSpring& s) { return s.member; }
-  static fmLineSpring Read(uint32_t key, const RowIn& in, const fmLineSpring* original, const Objects&) {
-    fmLineSpring s;
-    s.member = key;
-    ReadK(s, in, original);
-    return s;
-  }
+struct Traits<fmLineSpring> : SpringTraits<fmLineSpring, Kind::LineSprings, KeyKind::Member, &fmLineSpring::member> {
+  static std::vector<ColumnSpec> Columns(const fmUnit& u) { return ElementSpringColumns("Member Id", u, fmUnit::LineSpring); }
 };
 
 template <>
 struct Traits<fmSurfaceSpring>
-    : ElementSpringTraits<fmSurfaceSpring, Kind::SurfaceSprings, KeyKind::Shell, fmUnit::AreaSpring> {
-  static uint32_t Key(const fmSurfaceSpring& s) { return s.shell; }
-  static fmSurfaceSpring Read(uint32_t key, const RowIn& in, const fmSurfaceSpring* original, const Objects&) {
-    fmSurfaceSpring s;
-    s.shell = key;
-    ReadK(s, in, original);
-    return s;
-  }
+    : SpringTraits<fmSurfaceSpring, Kind::SurfaceSprings, KeyKind::Shell, &fmSurfaceSpring::shell> {
+  static std::vector<ColumnSpec> Columns(const fmUnit& u) { return ElementSpringColumns("Shell4 Id", u, fmUnit::AreaSpring); }
 };
 
 template <>
@@ -551,23 +533,10 @@ void TableBase::PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) {
 void TableBase::DeleteRows(grid::Sheet& sheet, int row1, int row2) {
   const int rows = sheet.MaxRows();
   row1 = std::max(row1, 1);
-  row2 = std::min(row2, rows);
-  if (row1 > row2) return;
-  const int count = row2 - row1 + 1;
-  const int cols = sheet.MaxCols();
-  for (int row = row1; row + count <= rows; ++row)
-    for (int col = 1; col <= cols; ++col) {
-      const int from = row + count;
-      const std::string text = sheet.GetData(col, from);
-      if (sheet.IsNumber(col, from))
-        sheet.SetNumber(col, row, text);
-      else
-        sheet.SetData(col, row, text);
-      sheet.SetLock(col, row, sheet.IsCellLocked(col, from));
-    }
-  sheet.SetMaxRows(rows - count);
+  const int count = grid::RemoveRows(sheet, row1, row2);
+  if (count == 0) return;
   origins_.resize(static_cast<size_t>(rows), -1);
-  origins_.erase(origins_.begin() + (row1 - 1), origins_.begin() + row2);
+  origins_.erase(origins_.begin() + (row1 - 1), origins_.begin() + (row1 - 1 + count));
   if (sheet.ActiveCell().row > sheet.MaxRows()) sheet.SetActiveCell(1, sheet.MaxRows());
 }
 

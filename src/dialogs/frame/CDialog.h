@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "dialogs/frame/Prompter.h"
+#include "resources/grid_ids.h"
 #include "resources/resources.h"
 
 using BOOL = int;
@@ -21,9 +22,9 @@ class Form;
 // How a grid dialog turns read-only when the model is locked or only selected entities are
 // shown. The defaults are the standard guard; a dialog changes only what differs.
 struct GridEditLock {
-  std::vector<int> disable{IDOK, 8050, 8006, 8082};  // new-row count, "New Rows", the grid's own action
-  int closeButton = IDCANCEL;                        // the button that then reads "Close"
-  bool hideCancel = false;                           // OK itself closes, so Cancel goes
+  std::vector<int> disable{IDOK, res::kCtlNewRowCount, res::kCtlNewRows, res::kCtlGridEditAction};
+  int closeButton = IDCANCEL;  // the button that then reads "Close"
+  bool hideCancel = false;     // OK itself closes, so Cancel goes
   std::string message;  // not empty: this one box instead of the locked and selected-only texts
 };
 

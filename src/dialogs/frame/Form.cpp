@@ -81,7 +81,7 @@ void FormBase::AssignIds() {
       control(f.labelId);
       string(f.labelStringId, f.text);
     }
-    if (*f.suffix || f.quantity >= 0) {
+    if (*f.suffix || f.quantity >= 0 || f.suffixFlags != 0) {
       control(f.suffixId);
       string(f.suffixStringId, f.suffix);
     }
@@ -182,7 +182,7 @@ void FormBase::Publish() const {
       if (f.kind == FK::Report) addString(f.stringId, f.text);
       if (f.suffixId != 0) {
         add({f.suffixId, res::Kind::Static, f.suffixStringId, f.suffix, controlRow, controlCol + controlSpan, 1, 1,
-             group, 0},
+             group, f.suffixFlags},
             true);
         addString(f.suffixStringId, f.suffix);
       }

@@ -42,7 +42,7 @@ struct FieldLayout {
   std::vector<const char*> items;  // the radios' texts, or a drop-down's fixed entries
   std::vector<int> itemIds, itemStringIds;
   int row = kNextRow, col = 0, rowSpan = 1, colSpan = 0;
-  uint32_t flags = 0, labelFlags = 0;
+  uint32_t flags = 0, labelFlags = 0, suffixFlags = 0;
   bool labelAbove = false;
   bool autoStretch = true;  // grids, lists and reports take the spare room unless placed otherwise
 };
@@ -176,6 +176,8 @@ class Field {
   // Only these stretch flags, for a grid or list that shares its rows with other fields.
   Field& Stretch(uint32_t flags) { return layout.autoStretch = false, layout.flags |= flags, *this; }
   Field& LabelFlags(uint32_t flags) { return layout.labelFlags |= flags, *this; }
+  // The suffix's flags; an empty suffix with flags still holds its column (kStretchCol).
+  Field& SuffixFlags(uint32_t flags) { return layout.suffixFlags |= flags, *this; }
   Field& LabelAbove() { return layout.labelAbove = true, *this; }
   // Read back only while the condition holds (the fields of another choice keep their
   // values and their texts are not checked); always shown.
@@ -303,6 +305,18 @@ int IdOf(T Dlg::* m) {
 template <class Dlg, class T>
 const FieldLayout& FieldOf(T Dlg::* m) {
   return Dlg::Description().FieldOf(m);
+}
+// The same for a member the dialog inherits, with the dialog named:
+// FieldOf<CMovingLoadDlg>(&CMovingLoadDlg::m_nCase).
+template <class Dlg, class T, class Base>
+  requires(std::is_base_of_v<Base, Dlg> && !std::is_same_v<Base, Dlg>)
+const FieldLayout& FieldOf(T Base::* m) {
+  return Dlg::Description().FieldOf(static_cast<T Dlg::*>(m));
+}
+template <class Dlg, class T, class Base>
+  requires(std::is_base_of_v<Base, Dlg> && !std::is_same_v<Base, Dlg>)
+int IdOf(T Base::* m) {
+  return FieldOf<Dlg>(m).id;
 }
 
 }  // namespace frame

@@ -1,6 +1,7 @@
 #pragma once
 #include <algorithm>
 #include <cstdint>
+#include <functional>
 #include <iterator>
 #include <string>
 
@@ -32,25 +33,31 @@ class CDataGridDlg : public CDialog {
 
   // A table's description: the grid filling the body with `fields` below it or, for buttons,
   // on the right between the new-row count with "New Rows" and "Print..." with "Save...";
-  // `after` follows those. Without new rows the table has neither count nor "New Rows".
+  // `after` follows those. A Grid() among `fields` puts the table there instead (the fields
+  // before it above it). Without new rows the table has neither count nor "New Rows". A
+  // field's unit label shows the dialog's units.
   template <class Dlg>
   static frame::Form<Dlg> TableForm(frame::FormFrame look, std::vector<frame::Field<Dlg>> fields = {},
                                     std::vector<frame::Field<Dlg>> after = {}, bool newRows = true) {
     using F = frame::Field<Dlg>;
+    using frame::FieldKind;
     look.stretchColumn = false;
     // The fields below the grid come first, as the focus goes.
-    const auto isButton = [](const F& f) { return f.layout.kind == frame::FieldKind::Button; };
-    std::vector<F> all{F::Grid().Id(res::kCtlGridPlaceholder)};
-    std::copy_if(fields.begin(), fields.end(), std::back_inserter(all), [&](const F& f) { return !isButton(f); });
+    const auto is = [](FieldKind kind) { return [kind](const F& f) { return f.layout.kind == kind; }; };
+    std::vector<F> all;
+    if (std::none_of(fields.begin(), fields.end(), is(FieldKind::Grid))) all.push_back(F::Grid());
+    std::copy_if(fields.begin(), fields.end(), std::back_inserter(all), std::not_fn(is(FieldKind::Button)));
+    for (F& f : all)
+      if (f.layout.kind == FieldKind::Grid) f.Id(res::kCtlGridPlaceholder);
     if (newRows) {
       all.push_back(F::Edit("").Id(res::kCtlNewRowCount).At(frame::kSideBar, 0));
       all.push_back(F::Button("New Rows").Id(res::kCtlNewRows, res::kStrNewRows));
     }
-    std::copy_if(fields.begin(), fields.end(), std::back_inserter(all), isButton);
+    std::copy_if(fields.begin(), fields.end(), std::back_inserter(all), is(FieldKind::Button));
     all.push_back(F::Button("Print...").Id(res::kCtlPrint, res::kStrPrint));
     all.push_back(F::Button("Save...").Id(res::kCtlSave, res::kStrSave));
     all.insert(all.end(), after.begin(), after.end());
-    return frame::Form<Dlg>(look, std::move(all));
+    return frame::Form<Dlg>(look, std::move(all), &Dlg::m_pUnits);
   }
 
   // What the tables whose guard says only that the model is locked show.

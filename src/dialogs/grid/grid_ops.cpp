@@ -1,5 +1,6 @@
 #include "dialogs/grid/grid_ops.h"
 
+#include <algorithm>
 #include <cmath>
 #include <unordered_map>
 
@@ -41,6 +42,36 @@ int AddRows(Sheet& sheet, int count, bool numberIds) {
   }
   sheet.SetActiveCell(1, oldRows + 1);
   return oldRows + 1;
+}
+
+std::optional<Block> RowsToDelete(const Sheet& sheet) {
+  Block block = sheet.SelectBlock();
+  if (block.IsEmpty()) {
+    const CellRef active = sheet.ActiveCell();
+    block = {1, active.row, 1, active.row};
+  }
+  const int row1 = std::max(block.row1, 1), row2 = std::min(block.row2, sheet.MaxRows());
+  if (row1 > row2) return std::nullopt;
+  return Block{1, row1, 1, row2};
+}
+
+int RemoveRows(Sheet& sheet, int row1, int row2) {
+  const int rows = sheet.MaxRows();
+  row1 = std::max(row1, 1);
+  row2 = std::min(row2, rows);
+  if (row1 > row2) return 0;
+  const int count = row2 - row1 + 1;
+  for (int row = row1; row + count <= rows; ++row)
+    for (int col = 1; col <= sheet.MaxCols(); ++col) {
+      const int from = row + count;
+      if (sheet.IsNumber(col, from))
+        sheet.SetNumber(col, row, sheet.GetData(col, from));
+      else
+        sheet.SetData(col, row, sheet.GetData(col, from));
+      sheet.SetLock(col, row, sheet.IsCellLocked(col, from));
+    }
+  sheet.SetMaxRows(rows - count);
+  return count;
 }
 
 namespace {

@@ -38,6 +38,13 @@ std::optional<GridFailure> CheckDuplicateLabels(const Sheet& sheet, int rowCount
 std::optional<GridFailure> CheckDeletedRows(const Sheet& sheet, int usedRows, int filledRows,
                                             const std::string& pluralEntity);
 
+// The rows "Delete Rows" acts on, as a block of column 1: the selected rows, or the active
+// cell's row when nothing is selected, cut to the grid; nothing when none is in the grid.
+std::optional<Block> RowsToDelete(const Sheet& sheet);
+// Moves the rows below row2 up over rows row1..row2 (every column's text, number mark and
+// lock) and shortens the grid. Returns the rows removed, 0 when none was in the grid.
+int RemoveRows(Sheet& sheet, int row1, int row2);
+
 // Right-click fill of the cells selected in the clicked column.
 enum class FillMode { Copy, Series };
 // Whether the fill is offered for that cell: an unlocked grid, a fill column, a cell inside

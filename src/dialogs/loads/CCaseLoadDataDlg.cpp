@@ -1,20 +1,54 @@
 #include "dialogs/loads/CCaseLoadDataDlg.h"
 
+#include <iterator>
 #include <memory>
 
+#include "dialogs/grid/grid_ops.h"
 #include "resources/case_loads_ids.h"
 
 using caseloadgrid::LoadKind;
 
-CCaseLoadDataDlg::CCaseLoadDataDlg(int templateId, LoadKind kind, QWidget* pParent)
-    : CDataGridDlg(templateId, pParent), table_(caseloadgrid::LoadTable::Create(kind)) {
-  OnCommand(res::kCtlLoadDeleteRows, [this] { OnDeleteRows(); });
+const frame::FormBase& CCaseLoadDataDlg::DescriptionOf(LoadKind kind) {
+  using F = frame::Field<CCaseLoadDataDlg>;
+  struct Look {
+    int templateId;
+    const char* caption;
+    const char* note = nullptr;
+  };
+  // In the order of the kinds.
+  static const Look looks[] = {
+      {res::kIddNodalLoadData, "Nodal Loads"},
+      {res::kIddPointLoadData, "Member Point Loads"},
+      {res::kIddLineLoadData, "Member Line Loads"},
+      {res::kIddShellLoadData, "Shell Surface Loads"},
+      {res::kIddAreaLoadData, "Area Loads",
+       "Nodes: the corners of the loaded area in order around it. Two-way: each edge member carries its "
+       "tributary area; one-way: the members parallel to the first edge carry the load."},
+      {res::kIddMemberThermalLoadData, "Member Thermal Loads"},
+      {res::kIddShell4ThermalLoadData, "Shell4 Thermal Loads"},
+      {res::kIddBrickThermalLoadData, "Brick Thermal Loads"},
+      {res::kIddNodalMassData, "Additional Nodal Masses",
+       "Weight of the mass; a rotational mass as weight times length squared."},
+      {res::kIddCombMassData, "Combination Masses",
+       "The gravity loads of each load case listed, times its factor, become masses for dynamic analysis."},
+  };
+  static_assert(std::size(looks) == static_cast<size_t>(LoadKind::Count));
+  static const std::vector<frame::Form<CCaseLoadDataDlg>> forms = [] {
+    std::vector<frame::Form<CCaseLoadDataDlg>> all;
+    for (const Look& look : looks) {
+      std::vector<F> fields{F::Button("Delete Rows").Id(res::kCtlGridEditAction)};
+      if (look.note) fields.push_back(F::Static(look.note).Span(1).Flags(res::kMultiline));
+      all.push_back(TableForm<CCaseLoadDataDlg>(
+          {.templateId = look.templateId, .caption = look.caption, .minWidth = 1020, .minHeight = 420}, fields));
+    }
+    return all;
+  }();
+  return forms[static_cast<size_t>(kind)];
 }
 
-GridEditLock CCaseLoadDataDlg::EditLock() const {
-  GridEditLock how;
-  how.disable.push_back(res::kCtlLoadDeleteRows);
-  return how;
+CCaseLoadDataDlg::CCaseLoadDataDlg(LoadKind kind, QWidget* pParent)
+    : CDataGridDlg(DescriptionOf(kind), pParent), table_(caseloadgrid::LoadTable::Create(kind)) {
+  OnCommand(res::kCtlGridEditAction, [this] { OnDeleteRows(); });
 }
 
 caseloadgrid::LoadLists CCaseLoadDataDlg::Lists() const {
@@ -46,12 +80,9 @@ void CCaseLoadDataDlg::PrepareNewRows(grid::Sheet& sheet, int firstRow, int last
 
 void CCaseLoadDataDlg::OnDeleteRows() {
   if (IsReadOnly()) return;
-  grid::Block block = m_Spread.sheet().SelectBlock();
-  if (block.IsEmpty()) {
-    const grid::CellRef active = m_Spread.sheet().ActiveCell();
-    if (active.row < 1 || active.row > m_Spread.sheet().MaxRows()) return;
-    block = {1, active.row, 1, active.row};
-  }
+  const std::optional<grid::Block> rows = grid::RowsToDelete(m_Spread.sheet());
+  if (!rows) return;
+  const grid::Block block = *rows;
   // The rows' records go with their rows when the deletion is undone or redone.
   const std::vector<int64_t> before = table_->RowOrigins();
   auto after = std::make_shared<std::vector<int64_t>>();
@@ -65,17 +96,3 @@ void CCaseLoadDataDlg::OnDeleteRows() {
   *after = table_->RowOrigins();
   m_Spread.SetSelectBlock({});
 }
-
-CNodalLoadDataDlg::CNodalLoadDataDlg(QWidget* p) : CCaseLoadDataDlg(res::kIddNodalLoadData, LoadKind::Nodal, p) {}
-CPointLoadDataDlg::CPointLoadDataDlg(QWidget* p) : CCaseLoadDataDlg(res::kIddPointLoadData, LoadKind::Point, p) {}
-CLineLoadDataDlg::CLineLoadDataDlg(QWidget* p) : CCaseLoadDataDlg(res::kIddLineLoadData, LoadKind::Line, p) {}
-CShellLoadDataDlg::CShellLoadDataDlg(QWidget* p) : CCaseLoadDataDlg(res::kIddShellLoadData, LoadKind::Surface, p) {}
-CAreaLoadDataDlg::CAreaLoadDataDlg(QWidget* p) : CCaseLoadDataDlg(res::kIddAreaLoadData, LoadKind::Area, p) {}
-CMemberThermalLoadDataDlg::CMemberThermalLoadDataDlg(QWidget* p)
-    : CCaseLoadDataDlg(res::kIddMemberThermalLoadData, LoadKind::MemberThermal, p) {}
-CShell4ThermalLoadDataDlg::CShell4ThermalLoadDataDlg(QWidget* p)
-    : CCaseLoadDataDlg(res::kIddShell4ThermalLoadData, LoadKind::Shell4Thermal, p) {}
-CBrickThermalLoadDataDlg::CBrickThermalLoadDataDlg(QWidget* p)
-    : CCaseLoadDataDlg(res::kIddBrickThermalLoadData, LoadKind::BrickThermal, p) {}
-CNodalMassDataDlg::CNodalMassDataDlg(QWidget* p) : CCaseLoadDataDlg(res::kIddNodalMassData, LoadKind::NodalMass, p) {}
-CCombMassDataDlg::CCombMassDataDlg(QWidget* p) : CCaseLoadDataDlg(res::kIddCombMassData, LoadKind::CombMass, p) {}

@@ -22,9 +22,10 @@ class CCaseLoadDataDlg : public CDataGridDlg {
   caseloadgrid::LoadKind Kind() const { return table_->Kind(); }
 
  protected:
-  CCaseLoadDataDlg(int templateId, caseloadgrid::LoadKind kind, QWidget* pParent);
+  CCaseLoadDataDlg(caseloadgrid::LoadKind kind, QWidget* pParent);
+  // The kind's table: its template, caption and the note under the grid where it has one.
+  static const frame::FormBase& DescriptionOf(caseloadgrid::LoadKind kind);
 
-  GridEditLock EditLock() const override;
   void Refresh() override;
   bool Save() override;
   void PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) override;
@@ -36,43 +37,41 @@ class CCaseLoadDataDlg : public CDataGridDlg {
   std::unique_ptr<caseloadgrid::LoadTable> table_;
 };
 
-class CNodalLoadDataDlg : public CCaseLoadDataDlg {
+// One table per load kind, each with its own description.
+template <caseloadgrid::LoadKind kKind>
+class CCaseLoadKindDlg : public CCaseLoadDataDlg {
  public:
-  explicit CNodalLoadDataDlg(QWidget* pParent = nullptr);
+  explicit CCaseLoadKindDlg(QWidget* pParent = nullptr) : CCaseLoadDataDlg(kKind, pParent) {}
+  static const frame::FormBase& Description() { return DescriptionOf(kKind); }
 };
-class CPointLoadDataDlg : public CCaseLoadDataDlg {
- public:
-  explicit CPointLoadDataDlg(QWidget* pParent = nullptr);
+
+class CNodalLoadDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::Nodal> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
 };
-class CLineLoadDataDlg : public CCaseLoadDataDlg {
- public:
-  explicit CLineLoadDataDlg(QWidget* pParent = nullptr);
+class CPointLoadDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::Point> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
 };
-class CShellLoadDataDlg : public CCaseLoadDataDlg {
- public:
-  explicit CShellLoadDataDlg(QWidget* pParent = nullptr);
+class CLineLoadDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::Line> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
 };
-class CAreaLoadDataDlg : public CCaseLoadDataDlg {
- public:
-  explicit CAreaLoadDataDlg(QWidget* pParent = nullptr);
+class CShellLoadDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::Surface> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
 };
-class CMemberThermalLoadDataDlg : public CCaseLoadDataDlg {
- public:
-  explicit CMemberThermalLoadDataDlg(QWidget* pParent = nullptr);
+class CAreaLoadDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::Area> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
 };
-class CShell4ThermalLoadDataDlg : public CCaseLoadDataDlg {
- public:
-  explicit CShell4ThermalLoadDataDlg(QWidget* pParent = nullptr);
+class CMemberThermalLoadDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::MemberThermal> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
 };
-class CBrickThermalLoadDataDlg : public CCaseLoadDataDlg {
- public:
-  explicit CBrickThermalLoadDataDlg(QWidget* pParent = nullptr);
+class CShell4ThermalLoadDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::Shell4Thermal> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
 };
-class CNodalMassDataDlg : public CCaseLoadDataDlg {
- public:
-  explicit CNodalMassDataDlg(QWidget* pParent = nullptr);
+class CBrickThermalLoadDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::BrickThermal> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
 };
-class CCombMassDataDlg : public CCaseLoadDataDlg {
- public:
-  explicit CCombMassDataDlg(QWidget* pParent = nullptr);
+class CNodalMassDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::NodalMass> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
+};
+class CCombMassDataDlg : public CCaseLoadKindDlg<caseloadgrid::LoadKind::CombMass> {
+  using CCaseLoadKindDlg::CCaseLoadKindDlg;
 };

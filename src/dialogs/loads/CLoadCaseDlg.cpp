@@ -1,5 +1,6 @@
 #include "dialogs/loads/CLoadCaseDlg.h"
 
+#include "dialogs/grid/grid_ops.h"
 #include "dialogs/loads/load_grids.h"
 #include "resources/grid_ids.h"
 #include "resources/ids.h"
@@ -69,12 +70,9 @@ void CLoadCaseDlg::PrepareNewRows(grid::Sheet& sheet, int firstRow, int) {
 void CLoadCaseDlg::OnDeleteRows() {
   if (IsReadOnly()) return;
   grid::Sheet& sheet = m_Spread.sheet();
-  grid::Block block = sheet.SelectBlock();
-  if (block.IsEmpty()) {
-    const grid::CellRef active = sheet.ActiveCell();
-    if (active.row < 1) return;
-    block = {1, active.row, 1, active.row};
-  }
+  const std::optional<grid::Block> rows = grid::RowsToDelete(sheet);
+  if (!rows) return;
+  const grid::Block block = *rows;
   std::optional<grid::GridFailure> refusal;
   const int filledBefore = filledRows_;
   const int filledAfter = filledRows_ - std::max(0, std::min(block.row2, filledRows_) - block.row1 + 1);

@@ -1,33 +1,20 @@
 #include "dialogs/loads/CLoadGeneratorDlg.h"
 
-#include "dialogs/frame/DataExchange.h"
+#include "dialogs/grid/grid_ops.h"
 #include "dialogs/loads/member_path_grid.h"
-#include "resources/case_loads_ids.h"
 #include "resources/grid_ids.h"
 
-CLoadGeneratorDlg::CLoadGeneratorDlg(int templateId, const char* entity, QWidget* pParent)
-    : CDataGridDlg(templateId, pParent), entity_(entity) {
+CLoadGeneratorDlg::CLoadGeneratorDlg(const frame::FormBase& form, const char* entity, QWidget* pParent)
+    : CDataGridDlg(form, pParent), entity_(entity) {
   // The path's rows are member ids the user types, not numbered records.
   OnCommand(res::kCtlNewRows, [this] { OnBnClickedGenerateMore(); });
-  OnCommand(res::kCtlGenCutRows, [this] { OnBnClickedDeleteRows(); });
+  OnCommand(res::kCtlGridEditAction, [this] { OnBnClickedDeleteRows(); });
   OnCommand(res::kCtlPrint, [this] { OnBnClickedPrint(); });
   OnCommand(res::kCtlSave, [this] { OnBnClickedSave(); });
 }
 
-BOOL CLoadGeneratorDlg::OnInitDialog() {
-  SetComboItems(res::kCtlGenCase, m_pLoadCases ? model::CaseChoices(*m_pLoadCases) : std::vector<std::string>{});
-  return CDataGridDlg::OnInitDialog();
-}
-
-GridEditLock CLoadGeneratorDlg::EditLock() const {
-  GridEditLock how;
-  how.disable.push_back(res::kCtlGenCutRows);
-  return how;
-}
-
-void CLoadGeneratorDlg::DoDataExchange(CDataExchange* pDX) {
-  CDataGridDlg::DoDataExchange(pDX);
-  DDX_CBIndex(pDX, res::kCtlGenCase, m_nCase);
+std::vector<std::string> CLoadGeneratorDlg::CaseItems(const CLoadGeneratorDlg& dlg) {
+  return dlg.m_pLoadCases ? model::CaseChoices(*dlg.m_pLoadCases) : std::vector<std::string>{};
 }
 
 void CLoadGeneratorDlg::Refresh() {
@@ -43,12 +30,9 @@ void CLoadGeneratorDlg::OnBnClickedGenerateMore() {
 
 void CLoadGeneratorDlg::OnBnClickedDeleteRows() {
   if (IsReadOnly()) return;
-  grid::Block block = m_Spread.sheet().SelectBlock();
-  if (block.IsEmpty()) {
-    const grid::CellRef active = m_Spread.sheet().ActiveCell();
-    if (active.row < 1 || active.row > m_Spread.sheet().MaxRows()) return;
-    block = {1, active.row, 1, active.row};
-  }
+  const std::optional<grid::Block> rows = grid::RowsToDelete(m_Spread.sheet());
+  if (!rows) return;
+  const grid::Block block = *rows;
   m_Spread.SetSelectBlock({1, block.row1, 1, block.row2});
   m_Spread.CopySelection();
   m_Spread.ChangeRows("Cut Selected Rows", block.row1, [&](grid::Sheet& rows) {

@@ -19,11 +19,25 @@ class CLoadGeneratorDlg : public CDataGridDlg {
   int32_t m_nCase = -1;  // the drop-down's index, -1 when none is chosen
 
  protected:
-  CLoadGeneratorDlg(int templateId, const char* entity, QWidget* pParent);
+  CLoadGeneratorDlg(const frame::FormBase& form, const char* entity, QWidget* pParent);
+  // A generator's description: the note, the case drop-down and the dialog's own `values`
+  // above the member path; "Cut Selected Rows" after "New Rows".
+  template <class Dlg>
+  static frame::Form<Dlg> GeneratorForm(int templateId, const char* caption, const char* note, const char* caseLabel,
+                                        std::vector<frame::Field<Dlg>> values) {
+    using F = frame::Field<Dlg>;
+    // The column after the first value shares the spare width with the grid's, so a unit
+    // stands next to its edit.
+    if (!values.empty()) values.front().SuffixFlags(res::kStretchCol);
+    std::vector<F> fields{F::Static(note).Flags(res::kMultiline),
+                          F::DropIndexOrNone(caseLabel, &Dlg::m_nCase).Items(&CLoadGeneratorDlg::CaseItems).Span(2)};
+    fields.insert(fields.end(), values.begin(), values.end());
+    fields.push_back(F::Grid().Span(3).Stretch(res::kStretchRow | res::kStretchCol));
+    fields.push_back(F::Button("Cut Selected Rows").Id(res::kCtlGridEditAction));
+    return TableForm<Dlg>({.templateId = templateId, .caption = caption, .minWidth = 560, .minHeight = 480},
+                          std::move(fields));
+  }
 
-  BOOL OnInitDialog() override;
-  GridEditLock EditLock() const override;
-  void DoDataExchange(CDataExchange* pDX) override;
   void Refresh() override;
   bool Save() override { return true; }
   void OnOK() override { OnBnClickedOk(); }
@@ -42,6 +56,8 @@ class CLoadGeneratorDlg : public CDataGridDlg {
   void Prepare(model::LoadGenerator& generator) const;
   // Shows every refusal of the run, one message each.
   void ShowRefusals(const model::LoadGenerator& generator);
+  // The case drop-down's entries, "%d: %s".
+  static std::vector<std::string> CaseItems(const CLoadGeneratorDlg& dlg);
 
  private:
   const char* entity_;  // "moving load": "Invalid empty input for moving load %d"

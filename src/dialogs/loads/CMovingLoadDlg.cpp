@@ -1,25 +1,24 @@
 #include "dialogs/loads/CMovingLoadDlg.h"
 
-#include "dialogs/frame/DataExchange.h"
 #include "resources/case_loads_ids.h"
 
-CMovingLoadDlg::CMovingLoadDlg(QWidget* pParent) : CLoadGeneratorDlg(res::kIddMovingLoad, "moving load", pParent) {}
-
-BOOL CMovingLoadDlg::OnInitDialog() {
-  CLoadGeneratorDlg::OnInitDialog();
-  if (m_pUnits) SetDlgItemText(res::kCtlGenValueUnit, m_pUnits->Label(fmUnit::Length));
-  return 1;
+const frame::Form<CMovingLoadDlg>& CMovingLoadDlg::Description() {
+  using F = frame::Field<CMovingLoadDlg>;
+  static const auto form = GeneratorForm<CMovingLoadDlg>(
+      res::kIddMovingLoad, "Moving Load",
+      "Note: Point loads of the moving load case will be moved on the members.  New loads, load cases and load "
+      "combinations are generated appropriately.",
+      "Moving load case:",
+      {F::Real("Moving step:", &CMovingLoadDlg::m_dStep).Flags(res::kNarrow).Unit(fmUnit::Length),
+       F::Check("Bi-Directional", &CMovingLoadDlg::m_bBiDirectional)});
+  return form;
 }
 
-void CMovingLoadDlg::DoDataExchange(CDataExchange* pDX) {
-  CLoadGeneratorDlg::DoDataExchange(pDX);
-  DDX_Text(pDX, res::kCtlGenValue, m_dStep);
-  DDX_Check(pDX, res::kCtlGenBiDirectional, m_bBiDirectional);
-}
+CMovingLoadDlg::CMovingLoadDlg(QWidget* pParent) : CLoadGeneratorDlg(Description(), "moving load", pParent) {}
 
 bool CMovingLoadDlg::CheckValues() {
   if (m_dStep != 0) return true;
-  FailOn(res::kCtlGenValue, "Moving step may be positive or negative, but not zero");
+  FailOn(frame::IdOf(&CMovingLoadDlg::m_dStep), "Moving step may be positive or negative, but not zero");
   return false;
 }
 

@@ -7,6 +7,7 @@
 class CMovingLoadDlg : public CLoadGeneratorDlg {
  public:
   explicit CMovingLoadDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CMovingLoadDlg>& Description();
 
   double m_dStep = 0;        // "Moving step:", a length, positive or negative
   BOOL m_bBiDirectional = 0;  // "Bi-Directional"
@@ -14,8 +15,6 @@ class CMovingLoadDlg : public CLoadGeneratorDlg {
   std::string PrintTitle() const override { return "Moving Load Path Table"; }
 
  protected:
-  BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   bool CheckValues() override;
   bool Generate(const std::vector<int64_t>& path) override;
 };

@@ -1,10 +1,19 @@
 #include "dialogs/loads/CPatternLoadDataDlg.h"
 
-#include "dialogs/frame/DataExchange.h"
 #include "resources/case_loads_ids.h"
 
+const frame::Form<CPatternLoadDataDlg>& CPatternLoadDataDlg::Description() {
+  using F = frame::Field<CPatternLoadDataDlg>;
+  static const auto form = GeneratorForm<CPatternLoadDataDlg>(
+      res::kIddPatternLoad, "Pattern Load",
+      "Note: Point and line loads of the pattern load case will be patterned on the members based on odd, even and "
+      "adjacent spans.  New loads, load cases and load combinations are generated appropriately.",
+      "Pattern load case:", {F::Real("Pattern ratio:", &CPatternLoadDataDlg::m_dRatio).Flags(res::kNarrow)});
+  return form;
+}
+
 CPatternLoadDataDlg::CPatternLoadDataDlg(QWidget* pParent)
-    : CLoadGeneratorDlg(res::kIddPatternLoad, "pattern load", pParent) {}
+    : CLoadGeneratorDlg(Description(), "pattern load", pParent) {}
 
 BOOL CPatternLoadDataDlg::OnInitDialog() {
   // Normally the live load is patterned: the first case of that type is offered.
@@ -13,11 +22,6 @@ BOOL CPatternLoadDataDlg::OnInitDialog() {
   preselect.PreselectCase();
   m_nCase = preselect.m_nCase;
   return CLoadGeneratorDlg::OnInitDialog();
-}
-
-void CPatternLoadDataDlg::DoDataExchange(CDataExchange* pDX) {
-  CLoadGeneratorDlg::DoDataExchange(pDX);
-  DDX_Text(pDX, res::kCtlGenValue, m_dRatio);
 }
 
 bool CPatternLoadDataDlg::Generate(const std::vector<int64_t>& path) {

@@ -8,6 +8,7 @@
 class CPatternLoadDataDlg : public CLoadGeneratorDlg {
  public:
   explicit CPatternLoadDataDlg(QWidget* pParent = nullptr);
+  static const frame::Form<CPatternLoadDataDlg>& Description();
 
   double m_dRatio = 1.0;  // "Pattern ratio:", multiplies the loads of the loaded spans
 
@@ -15,6 +16,5 @@ class CPatternLoadDataDlg : public CLoadGeneratorDlg {
 
  protected:
   BOOL OnInitDialog() override;
-  void DoDataExchange(CDataExchange* pDX) override;
   bool Generate(const std::vector<int64_t>& path) override;
 };

@@ -5,6 +5,7 @@
 #include <QTableView>
 #include <QVBoxLayout>
 
+#include "dialogs/grid/grid_ops.h"
 #include "dialogs/loads/SpectrumChart.h"
 #include "dialogs/loads/spectrum_grid.h"
 #include "model/response_spectrum_manager.h"
@@ -95,12 +96,9 @@ void CResponseSpectrumDataDlg::OnNewPointRows() {
 void CResponseSpectrumDataDlg::OnDeleteRows() {
   if (IsReadOnly()) return;
   grid::Sheet& sheet = m_Spread.sheet();
-  grid::Block block = sheet.SelectBlock();
-  if (block.IsEmpty()) {
-    const grid::CellRef active = sheet.ActiveCell();
-    if (active.row < 1) return;
-    block = {1, active.row, 1, active.row};
-  }
+  const std::optional<grid::Block> rows = grid::RowsToDelete(sheet);
+  if (!rows) return;
+  const grid::Block block = *rows;
   {
     TSpread::RedrawGuard guard(m_Spread);
     spectrumgrid::DeleteRows(sheet, block.row1, block.row2);

@@ -661,19 +661,8 @@ void LoadTable::PrepareNewRows(grid::Sheet& sheet, int firstRow, int lastRow) co
 
 void LoadTable::DeleteRows(grid::Sheet& sheet, int row1, int row2) {
   row1 = std::max(row1, 1);
-  row2 = std::min(row2, sheet.MaxRows());
-  if (row2 < row1) return;
-  const int count = row2 - row1 + 1;
-  const int last = sheet.MaxRows();
-  for (int col = kCaseColumn; col <= sheet.MaxCols(); ++col)
-    for (int row = row1; row + count <= last; ++row) {
-      const std::string text = sheet.GetData(col, row + count);
-      if (sheet.IsNumber(col, row + count))
-        sheet.SetNumber(col, row, text);
-      else
-        sheet.SetData(col, row, text);
-    }
-  sheet.SetMaxRows(last - count);
+  const int count = grid::RemoveRows(sheet, row1, row2);
+  if (count == 0) return;
   for (int row = row1; row <= sheet.MaxRows(); ++row) SetUInt(sheet, kNumberColumn, row, static_cast<uint64_t>(row));
   const size_t from = static_cast<size_t>(row1 - 1);
   if (from < origins_.size())

@@ -62,11 +62,7 @@ std::optional<grid::GridFailure> DeleteCaseRows(grid::Sheet& sheet, int row1, in
   for (int row = row1; row <= row2; ++row) rows.push_back(row - 1);
   if (const std::string refusal = loads::CheckDeleteLoadCases(rows); !refusal.empty())
     return grid::GridFailure{refusal, {kCaseLabel, 1}};
-  const int count = row2 - row1 + 1;
-  const int last = sheet.MaxRows();
-  for (int row = row1; row + count <= last; ++row)
-    for (int col = kCaseLabel; col <= kCaseType; ++col) sheet.SetData(col, row, sheet.GetData(col, row + count));
-  sheet.SetMaxRows(last - count);
+  grid::RemoveRows(sheet, row1, row2);
   for (int row = 1; row <= sheet.MaxRows(); ++row) sheet.SetData(kCaseNo, row, tools::Format("%d", row));
   sheet.SetActiveCell(kCaseLabel, std::min(row1, std::max(sheet.MaxRows(), 1)));
   return std::nullopt;

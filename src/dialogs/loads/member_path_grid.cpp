@@ -47,18 +47,7 @@ PathRead Read(const grid::Sheet& sheet, const std::string& entity) {
 
 void DeleteRows(grid::Sheet& sheet, int row1, int row2) {
   row1 = std::max(row1, 1);
-  row2 = std::min(row2, sheet.MaxRows());
-  if (row2 < row1) return;
-  const int count = row2 - row1 + 1;
-  const int last = sheet.MaxRows();
-  for (int row = row1; row + count <= last; ++row) {
-    const std::string text = sheet.GetData(1, row + count);
-    if (sheet.IsNumber(1, row + count))
-      sheet.SetNumber(1, row, text);
-    else
-      sheet.SetData(1, row, text);
-  }
-  sheet.SetMaxRows(last - count);
+  if (grid::RemoveRows(sheet, row1, row2) == 0) return;
   sheet.SetActiveCell(1, std::min(row1, std::max(sheet.MaxRows(), 1)));
 }
 

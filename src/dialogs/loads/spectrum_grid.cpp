@@ -77,12 +77,7 @@ std::vector<fmSpectrumPoint> PointsForPlot(const grid::Sheet& sheet) {
 
 void DeleteRows(grid::Sheet& sheet, int row1, int row2) {
   row1 = std::max(row1, 1);
-  row2 = std::min(row2, sheet.MaxRows());
-  if (row2 < row1) return;
-  const int count = row2 - row1 + 1, last = sheet.MaxRows();
-  for (int row = row1; row + count <= last; ++row)
-    for (int col = kPeriodCol; col <= kAccelerationCol; ++col) sheet.SetData(col, row, sheet.GetData(col, row + count));
-  sheet.SetMaxRows(last - count);
+  if (grid::RemoveRows(sheet, row1, row2) == 0) return;
   sheet.SetSelectBlock({});
   sheet.SetActiveCell(kPeriodCol, std::min(row1, std::max(sheet.MaxRows(), 1)));
 }

@@ -65,16 +65,16 @@ BOOL CReportDlg::OnInitDialog() {
 // The second list follows the kind: its load cases and combinations, or its modes; a kind
 // that reads neither leaves it empty and disabled.
 void CReportDlg::FillCases() {
-  auto* combo = Item<QComboBox>(frame::IdOf(&D::m_nCombination));
+  const int id = frame::IdOf(&D::m_nCombination);
+  auto* combo = Item<QComboBox>(id);
   if (!combo) return;
   const int kind = m_nReportType;
   std::vector<std::string> entries;
   if (m_pStruct && results::ComboUseOf(kind) != results::ComboUse::Nothing)
     entries = results::ComboEntries(*m_pStruct, kind);
   const int keep = combo->currentIndex();
-  combo->clear();
-  for (const std::string& e : entries) combo->addItem(QString::fromStdString(e));
-  combo->setEnabled(!entries.empty());
+  SetComboItems(id, entries);
+  EnableDlgItem(id, !entries.empty());
   if (!entries.empty()) combo->setCurrentIndex(std::clamp(keep, 0, static_cast<int>(entries.size()) - 1));
 }
 

@@ -1,17 +1,11 @@
-#include <QApplication>
-#include <QClipboard>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QTableView>
-#include <QTest>
 
 #include <functional>
 #include <memory>
 
 #include "dialogs/boundary/CBoundaryDataDlg.h"
-#include "resources/boundary_ids.h"
 #include "resources/grid_ids.h"
-#include "support/DialogTest.h"
+#include "support/GridHands.h"
 
 namespace {
 
@@ -63,7 +57,7 @@ struct Host {
 
 using Texts = std::vector<std::string>;
 
-class BoundaryDialogTest : public DialogTest {
+class BoundaryDialogTest : public GridDialogTest {
  protected:
   template <class Dlg>
   Dlg& Open(bool locked = false) {
@@ -82,45 +76,10 @@ class BoundaryDialogTest : public DialogTest {
     if constexpr (std::is_same_v<Dlg, CDriftNodeDataDlg>) d.m_pDriftNodes = &host.driftNodes;
     d.InitDialogForTest();
     dialog = std::move(dlg);
-    Show();
+    Show(d);
     return d;
   }
-  grid::Sheet& sheet() { return dialog->Spread().sheet(); }
-  QTableView* view() { return dialog->Spread().view(); }
-  void Show() {
-    dialog->show();
-    QApplication::setActiveWindow(dialog.get());
-    view()->setFocus();
-  }
-  QPoint CellCenter(int col, int row) {
-    view()->scrollTo(view()->model()->index(row - 1, col - 1));
-    return view()->visualRect(view()->model()->index(row - 1, col - 1)).center();
-  }
-  void Click(int col, int row, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::mouseClick(view()->viewport(), Qt::LeftButton, modifiers, CellCenter(col, row));
-  }
-  void Type(const QString& text) {
-    for (QChar c : text) QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
-  }
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    QApplication::processEvents();
-  }
-  // Types a text into a cell and leaves it with Enter.
-  void TypeInto(int col, int row, const QString& text) {
-    Click(col, row);
-    Type(text);
-    Press(Qt::Key_Return);
-  }
-  void AddNewRows(const char* count) {
-    dialog->Item<QLineEdit>(res::kCtlNewRowCount)->setText(count);
-    ASSERT_TRUE(dialog->PressButton(res::kCtlNewRows));
-  }
-  Texts Row(int row) {
-    Texts texts;
-    for (int col = 1; col <= sheet().MaxCols(); ++col) texts.push_back(sheet().GetData(col, row));
-    return texts;
-  }
+  void AddNewRows(const char* count) { GridDialogTest::AddNewRows(*dialog, count); }
 
   Host host;
   const Host original;
@@ -132,7 +91,7 @@ TEST_F(BoundaryDialogTest, EveryGridOpensWithItsCaptionAndOkWithoutEditsKeepsThe
     SCOPED_TRACE(caption);
     EXPECT_EQ(dlg.windowTitle().toStdString(), caption);
     EXPECT_EQ(dlg.PrintTitle(), title);
-    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlDeleteRows), "Delete Rows");
+    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGridEditAction), "Delete Rows");
     EXPECT_EQ(sheet().MaxRows(), rows);
     ASSERT_TRUE(dlg.PressButton(IDOK));
     EXPECT_EQ(dlg.ModalResult(), IDOK);
@@ -178,8 +137,7 @@ TEST_F(BoundaryDialogTest, APastedBlockOfSpringsIsReadAndAWordInAChoiceIsRefused
   Open<CSpringDataDlg>();
   AddNewRows("2");
   Click(1, 2);
-  QApplication::clipboard()->setText("4\t10\t10\t0\t0\t0\t0\n5\t0\t0\t20\t0\t0\t1500\n");
-  Press(Qt::Key_V, Qt::ControlModifier);
+  Paste("4\t10\t10\t0\t0\t0\t0\n5\t0\t0\t20\t0\t0\t1500\n");
   EXPECT_EQ(Row(3), (Texts{"5", "0", "0", "20", "0", "0", "1500"}));
   ASSERT_TRUE(dialog->PressButton(IDOK));
   EXPECT_TRUE(Messages().empty());
@@ -188,8 +146,7 @@ TEST_F(BoundaryDialogTest, APastedBlockOfSpringsIsReadAndAWordInAChoiceIsRefused
 
   Open<CMomentReleasesDataDlg>();
   Click(2, 1);
-  QApplication::clipboard()->setText("Loose");
-  Press(Qt::Key_V, Qt::ControlModifier);
+  Paste("Loose");
   EXPECT_EQ(Messages(), (Texts{"\"Loose\" is not one of Fixed, Released."}));
   EXPECT_EQ(sheet().GetData(2, 1), "Fixed");
 }
@@ -256,7 +213,7 @@ TEST_F(BoundaryDialogTest, EachGridRefusesAnUnknownNodeAndASecondRecordAndLeaves
 TEST_F(BoundaryDialogTest, DeleteRowsRemovesASupportAndUndoBringsItBackWithItsPrecision) {
   Open<CSuptDataDlg>();
   Click(3, 1);
-  ASSERT_TRUE(dialog->PressButton(res::kCtlDeleteRows));
+  ASSERT_TRUE(dialog->PressButton(res::kCtlGridEditAction));
   ASSERT_EQ(sheet().MaxRows(), 1);
   EXPECT_EQ(sheet().GetData(1, 1), "2");
   view()->setFocus();
@@ -271,7 +228,7 @@ TEST_F(BoundaryDialogTest, DeleteRowsRemovesASupportAndUndoBringsItBackWithItsPr
 
   Open<CSuptDataDlg>();
   Click(1, 1);
-  ASSERT_TRUE(dialog->PressButton(res::kCtlDeleteRows));
+  ASSERT_TRUE(dialog->PressButton(res::kCtlGridEditAction));
   // The row that stays may not be emptied: the refusal of emptied existing rows still holds.
   Click(1, 1);
   Press(Qt::Key_Delete);
@@ -286,18 +243,19 @@ TEST_F(BoundaryDialogTest, DeleteRowsRemovesASupportAndUndoBringsItBackWithItsPr
 
 TEST_F(BoundaryDialogTest, TheSpringGridShowsOneKindAtATimeAndOkWritesEveryKindEdited) {
   CSpringDataDlg& dlg = Open<CSpringDataDlg>();
+  const int springType = frame::IdOf(&CSpringDataDlg::m_nSpringType);
   TypeInto(4, 1, "60");
-  ASSERT_TRUE(dlg.ChooseItem(res::kCtlSpringType, CSpringDataDlg::kLine));
+  ASSERT_TRUE(dlg.ChooseItem(springType, CSpringDataDlg::kLine));
   EXPECT_EQ(sheet().GetData(1, 0), "Member Id");
   EXPECT_EQ(Row(1), (Texts{"1", "0", "12.5", "0"}));
   EXPECT_EQ(sheet().GetData(2, 0), "Kx [kip/ft^2]");
   TypeInto(1, 1, "7");
   // A grid that does not read keeps its kind.
-  ASSERT_TRUE(dlg.ChooseItem(res::kCtlSpringType, CSpringDataDlg::kSurface));
+  ASSERT_TRUE(dlg.ChooseItem(springType, CSpringDataDlg::kSurface));
   EXPECT_EQ(Messages(), Texts{"Invalid input for line spring on member 7.\nMember 7 does not exist."});
-  EXPECT_EQ(dlg.Item<QComboBox>(res::kCtlSpringType)->currentIndex(), CSpringDataDlg::kLine);
+  EXPECT_EQ(dlg.Item<QComboBox>(springType)->currentIndex(), CSpringDataDlg::kLine);
   TypeInto(1, 1, "2");
-  ASSERT_TRUE(dlg.ChooseItem(res::kCtlSpringType, CSpringDataDlg::kSurface));
+  ASSERT_TRUE(dlg.ChooseItem(springType, CSpringDataDlg::kSurface));
   EXPECT_EQ(sheet().GetData(1, 0), "Shell4 Id");
   AddNewRows("1");
   Type("1");
@@ -306,7 +264,7 @@ TEST_F(BoundaryDialogTest, TheSpringGridShowsOneKindAtATimeAndOkWritesEveryKindE
   Press(Qt::Key_Tab);
   Type("4");
   Press(Qt::Key_Return);
-  ASSERT_TRUE(dlg.ChooseItem(res::kCtlSpringType, CSpringDataDlg::kNodal));
+  ASSERT_TRUE(dlg.ChooseItem(springType, CSpringDataDlg::kNodal));
   EXPECT_EQ(sheet().GetData(4, 1), "60") << "the nodal kind's edit was kept";
   EXPECT_EQ(host, original) << "nothing reaches the model before OK";
   ASSERT_TRUE(dlg.PressButton(IDOK));
@@ -324,9 +282,9 @@ TEST_F(BoundaryDialogTest, ALockedModelShowsTheRecordsReadOnly) {
   EXPECT_TRUE(sheet().IsLockedAll());
   EXPECT_FALSE(dlg.GetDlgItem(IDOK)->isEnabled());
   EXPECT_FALSE(dlg.GetDlgItem(res::kCtlNewRows)->isEnabled());
-  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlDeleteRows)->isEnabled());
+  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlGridEditAction)->isEnabled());
   Click(1, 1);
-  dlg.PressButton(res::kCtlDeleteRows);
+  dlg.PressButton(res::kCtlGridEditAction);
   EXPECT_EQ(sheet().MaxRows(), 1);
   EXPECT_EQ(host, original);
 }

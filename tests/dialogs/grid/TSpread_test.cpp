@@ -7,7 +7,7 @@
 #include <QUndoStack>
 
 #include "dialogs/grid/TSpread.h"
-#include "support/DialogTest.h"
+#include "support/GridHands.h"
 
 // A real grid driven by keys and mouse clicks as a user drives it: ids locked in column 1,
 // X and Y numbers, and a "Nonlinear" drop-down in column 4.
@@ -16,12 +16,13 @@ namespace {
 const std::vector<std::string> kNonlinear = {"Linear", "Tension only", "Compression Only"};
 constexpr int kRows = 10;
 
-class SpreadTest : public DialogTest {
+class SpreadTest : public DialogTest, public GridHands {
  protected:
   void SetUp() override {
     DialogTest::SetUp();
-    spread.InitializeGrid(0xF0F0F0, kRows, 4, {"Id", "X", "Y", "Nonlinear"}, {6, 10, 10, 15}, false);
-    grid::Sheet& sheet = spread.sheet();
+    GridHands::spread = &table;
+    table.InitializeGrid(0xF0F0F0, kRows, 4, {"Id", "X", "Y", "Nonlinear"}, {6, 10, 10, 15}, false);
+    grid::Sheet& sheet = table.sheet();
     sheet.SetColumnLock(1, true);
     grid::CellType combo;
     combo.kind = grid::CellType::Combo;
@@ -34,56 +35,37 @@ class SpreadTest : public DialogTest {
       sheet.SetData(3, row, std::to_string(row));
       sheet.SetData(4, row, "Linear");
     }
-    spread.Refresh();
-    spread.resize(500, 400);
-    spread.show();
-    QApplication::setActiveWindow(&spread);
+    table.Refresh();
+    table.resize(500, 400);
+    table.show();
+    QApplication::setActiveWindow(&table);
     view()->setFocus();
     opening = Texts();
   }
 
-  QTableView* view() { return spread.view(); }
   std::vector<std::string> Texts() const {
     std::vector<std::string> texts;
-    for (int row = 1; row <= spread.sheet().MaxRows(); ++row)
-      for (int col = 1; col <= spread.sheet().MaxCols(); ++col) texts.push_back(spread.GetData(col, row));
+    for (int row = 1; row <= table.sheet().MaxRows(); ++row)
+      for (int col = 1; col <= table.sheet().MaxCols(); ++col) texts.push_back(table.GetData(col, row));
     return texts;
   }
   // The cells that differ from the opening grid, as "col,row=text".
   std::vector<std::string> Changes() const {
     std::vector<std::string> changes;
     const auto now = Texts();
-    const int cols = spread.sheet().MaxCols();
+    const int cols = table.sheet().MaxCols();
     for (size_t i = 0; i < now.size(); ++i)
       if (i >= opening.size() || now[i] != opening[i])
         changes.push_back(std::to_string(i % cols + 1) + "," + std::to_string(i / cols + 1) + "=" + now[i]);
     return changes;
   }
-  QPoint CellCenter(int col, int row) {
-    return view()->visualRect(view()->model()->index(row - 1, col - 1)).center();
-  }
-  void Click(int col, int row, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::mouseClick(view()->viewport(), Qt::LeftButton, modifiers, CellCenter(col, row));
-  }
-  // Keys go where a user's keys go: to the widget that has the focus.
-  void Type(const QString& text) {
-    for (QChar c : text) QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
-  }
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    QApplication::processEvents();  // the delegate commits on the next turn of the event loop
-  }
   void SelectColumnRange(int col, int fromRow, int toRow) {
     Click(col, fromRow);
     Click(col, toRow, Qt::ShiftModifier);
   }
-  void Paste(const QString& text) {
-    QApplication::clipboard()->setText(text);
-    Press(Qt::Key_V, Qt::ControlModifier);
-  }
-  grid::CellRef Active() const { return spread.GetActiveCell(); }
+  grid::CellRef Active() const { return table.GetActiveCell(); }
 
-  TSpread spread;
+  TSpread table;
   std::vector<std::string> opening;
 };
 
@@ -101,24 +83,24 @@ TEST_F(SpreadTest, TypingReplacesExactlyTheCellReachedHoweverItWasReached) {
   Press(Qt::Key_Right);  // Y of row 5, reached by arrows
   Type("7");
   Press(Qt::Key_Tab);
-  EXPECT_EQ(spread.GetData(3, 5), "7");
+  EXPECT_EQ(table.GetData(3, 5), "7");
   EXPECT_EQ(Active(), (grid::CellRef{4, 5})) << "Tab commits and moves right";
 
   Click(2, 8);
   Type("99");
   Press(Qt::Key_Escape);  // cancels the cell's edit only
-  EXPECT_EQ(spread.GetData(2, 8), "80");
-  EXPECT_TRUE(spread.isVisible());
+  EXPECT_EQ(table.GetData(2, 8), "80");
+  EXPECT_TRUE(table.isVisible());
 
   Press(Qt::Key_F2);  // edits in place: the caret after the text
   Type("5");
   Press(Qt::Key_Return);
-  EXPECT_EQ(spread.GetData(2, 8), "805");
+  EXPECT_EQ(table.GetData(2, 8), "805");
   Click(3, 2);  // a double click's first press and release
   QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, CellCenter(3, 2));
   Type(".5");
   Press(Qt::Key_Return);
-  EXPECT_EQ(spread.GetData(3, 2), "2.5");
+  EXPECT_EQ(table.GetData(3, 2), "2.5");
 
   Click(1, 3);
   Type("42");  // a locked id takes nothing, and nothing jumps
@@ -144,9 +126,9 @@ TEST_F(SpreadTest, PasteStartsAtTheTopLeftOfTheSelectionWhicheverWayItWasDrawn) 
   Click(2, 9);  // a block over ids skips the locked cells
   SelectColumnRange(1, 1, 1);
   Paste("a\tb\nc\td");
-  EXPECT_EQ(spread.GetData(1, 1), "1");
-  EXPECT_EQ(spread.GetData(2, 1), "b");
-  EXPECT_EQ(spread.GetData(2, 2), "d");
+  EXPECT_EQ(table.GetData(1, 1), "1");
+  EXPECT_EQ(table.GetData(2, 1), "b");
+  EXPECT_EQ(table.GetData(2, 2), "d");
 }
 
 TEST_F(SpreadTest, OneValueFillsTheSelectionAndUndoRestoresIt) {
@@ -163,9 +145,9 @@ TEST_F(SpreadTest, OneValueFillsTheSelectionAndUndoRestoresIt) {
   // The right-click fill is one step too.
   SelectColumnRange(3, 2, 5);
   prompter.QueueMenuChoice(1);  // a series from the clicked cell: 2, 3, 4, 5 by its step
-  spread.sheet().SetData(3, 3, "4");
-  spread.FillSelection(3, 2, false);
-  EXPECT_EQ(spread.GetData(3, 5), "8");
+  table.sheet().SetData(3, 3, "4");
+  table.FillSelection(3, 2, false);
+  EXPECT_EQ(table.GetData(3, 5), "8");
   Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Changes(), Cells{"3,3=4"});
 }
@@ -180,13 +162,13 @@ TEST_F(SpreadTest, UndoNeverGoesBackPastTheOpeningGrid) {
   Press(Qt::Key_Return);
   for (int i = 0; i < 4; ++i) Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Changes(), Cells{});
-  EXPECT_EQ(spread.UndoStack().count(), 2);
+  EXPECT_EQ(table.UndoStack().count(), 2);
 
   // Laying the grid out anew (a dialog refilling it) starts a new history.
   Press(Qt::Key_Y, Qt::ControlModifier);
-  spread.InitializeGrid(0xF0F0F0, 2, 2, {"Id", "X"}, {6, 10}, false);
-  spread.Refresh();
-  EXPECT_EQ(spread.UndoStack().count(), 0);
+  table.InitializeGrid(0xF0F0F0, 2, 2, {"Id", "X"}, {6, 10}, false);
+  table.Refresh();
+  EXPECT_EQ(table.UndoStack().count(), 0);
 }
 
 TEST_F(SpreadTest, CutAndDeleteClearTheUnlockedCellsAsOneStep) {
@@ -206,7 +188,7 @@ TEST_F(SpreadTest, CutAndDeleteClearTheUnlockedCellsAsOneStep) {
 TEST_F(SpreadTest, DropDownCellsTakeOnlyTheirItems) {
   Click(4, 2);
   Paste("tension ONLY");  // case ignored, kept in the list's own spelling
-  EXPECT_EQ(spread.GetData(4, 2), "Tension only");
+  EXPECT_EQ(table.GetData(4, 2), "Tension only");
 
   SelectColumnRange(4, 5, 7);
   Paste("Compression Only\nBogus\nLinear");
@@ -217,7 +199,7 @@ TEST_F(SpreadTest, DropDownCellsTakeOnlyTheirItems) {
 
   Type("c");  // a typed letter picks the first item that starts with it
   Press(Qt::Key_Return);
-  EXPECT_EQ(spread.GetData(4, 6), "Compression Only");
+  EXPECT_EQ(table.GetData(4, 6), "Compression Only");
   EXPECT_EQ(Messages().size(), 1u);
 }
 
@@ -235,19 +217,19 @@ TEST_F(SpreadTest, ABlockThatDoesNotFitIsRefusedNotCut) {
 }
 
 TEST_F(SpreadTest, NewRowsAreOneStepAndTheirFirstIdIsActive) {
-  const int first = spread.AddRows(2, true, [](grid::Sheet& sheet, int from, int to) {
+  const int first = table.AddRows(2, true, [](grid::Sheet& sheet, int from, int to) {
     for (int row = from; row <= to; ++row) sheet.SetData(4, row, "Linear");
   });
   EXPECT_EQ(first, 11);
   EXPECT_EQ(Active(), (grid::CellRef{1, 11}));
   EXPECT_EQ(QApplication::focusWidget(), view());
-  EXPECT_EQ(spread.GetData(1, 12), "12");
+  EXPECT_EQ(table.GetData(1, 12), "12");
   Press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(spread.sheet().MaxRows(), kRows);
+  EXPECT_EQ(table.sheet().MaxRows(), kRows);
   Press(Qt::Key_Y, Qt::ControlModifier);
-  EXPECT_EQ(spread.sheet().MaxRows(), 12);
-  EXPECT_EQ(spread.GetData(4, 12), "Linear");
-  EXPECT_TRUE(spread.sheet().IsLocked(1, 12));
+  EXPECT_EQ(table.sheet().MaxRows(), 12);
+  EXPECT_EQ(table.GetData(4, 12), "Linear");
+  EXPECT_TRUE(table.sheet().IsLocked(1, 12));
 }
 
 }  // namespace

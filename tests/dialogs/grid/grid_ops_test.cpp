@@ -54,6 +54,34 @@ TEST(AddRows, IdsContinueFromTheLastRowLockedAndTheNewBlockActive) {
   }
 }
 
+TEST(DeleteRows, TheSelectedRowsOrTheActiveRowAreRemovedWithTheirNumbersAndLocks) {
+  Sheet sheet = IdSheet({{"1", "a"}, {"2", "b"}, {"3", "c"}, {"4", "d"}, {"5", "e"}}, 2);
+  const struct { Block selection; CellRef active; std::optional<Block> rows; } cases[] = {
+      {{2, 4, 2, 9}, {2, 4}, Block{1, 4, 1, 5}},    // a selection past the end stops at the last row
+      {{1, 1, 2, 5}, {1, 1}, Block{1, 1, 1, 5}},    // the whole table
+      {{}, {2, 3}, Block{1, 3, 1, 3}},              // nothing selected: the active cell's row
+      {{}, {-1, -1}, std::nullopt},                 // nothing selected, no active cell
+      {{}, {2, 6}, std::nullopt},                   // an active cell below the grid
+  };
+  for (const auto& c : cases) {
+    sheet.SetSelectBlock(c.selection);
+    sheet.SetActiveCell(c.active.col, c.active.row);
+    EXPECT_EQ(grid::RowsToDelete(sheet), c.rows) << c.active.row;
+  }
+
+  sheet.SetNumber(2, 4, "4.5");
+  sheet.SetLock(2, 5, true);
+  EXPECT_EQ(grid::RemoveRows(sheet, 2, 3), 2);
+  EXPECT_EQ(Column(sheet, 2), (std::vector<std::string>{"a", "4.5", "e"}));
+  EXPECT_TRUE(sheet.IsNumber(2, 2)) << "a number stays one where it moves";
+  EXPECT_FALSE(sheet.IsNumber(2, 3));
+  EXPECT_TRUE(sheet.IsCellLocked(2, 3)) << "the lock moves with its cell";
+  EXPECT_FALSE(sheet.IsCellLocked(2, 2));
+  EXPECT_EQ(grid::RemoveRows(sheet, 3, 8), 1);
+  EXPECT_EQ(grid::RemoveRows(sheet, 4, 6), 0);
+  EXPECT_EQ(Column(sheet, 1), (std::vector<std::string>{"1", "4"}));
+}
+
 TEST(CheckEmptyCells, FirstEmptyCellStopsTheScanAndNamesItsRowsId) {
   const Sheet sheet = IdSheet({{"10", "1", "2", "3"}, {"11", "1", " ", "3"}, {"12", "", "", ""}}, 4);
   const struct { int rowCount, firstCol, lastCol; std::optional<std::string> message; CellRef active; } cases[] = {

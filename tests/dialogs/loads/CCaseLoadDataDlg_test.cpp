@@ -1,15 +1,8 @@
-#include <QApplication>
-#include <QClipboard>
-#include <QLineEdit>
-#include <QTableView>
-#include <QTest>
-
 #include <memory>
 
 #include "dialogs/loads/CCaseLoadDataDlg.h"
-#include "resources/case_loads_ids.h"
 #include "resources/grid_ids.h"
-#include "support/DialogTest.h"
+#include "support/GridHands.h"
 
 namespace {
 
@@ -37,7 +30,7 @@ struct Host {
   bool operator==(const Host&) const = default;
 };
 
-class CaseLoadDialogTest : public DialogTest {
+class CaseLoadDialogTest : public GridDialogTest {
  protected:
   template <class Dlg = CPointLoadDataDlg>
   Dlg& Open(bool locked = false) {
@@ -48,36 +41,11 @@ class CaseLoadDialogTest : public DialogTest {
     d.m_pMembers = &host.members, d.m_pShells = &host.shells, d.m_pBricks = &host.bricks;
     d.InitDialogForTest();
     dialog = std::move(dlg);
+    spread = &d.Spread();
     return d;
   }
-  grid::Sheet& sheet() { return dialog->Spread().sheet(); }
-  QTableView* view() { return dialog->Spread().view(); }
-  // The user's hands: a click on a cell, keys to the focused widget.
-  void Show() {
-    dialog->show();
-    QApplication::setActiveWindow(dialog.get());
-    view()->setFocus();
-  }
-  QPoint CellCenter(int col, int row) { return view()->visualRect(view()->model()->index(row - 1, col - 1)).center(); }
-  void Click(int col, int row, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::mouseClick(view()->viewport(), Qt::LeftButton, modifiers, CellCenter(col, row));
-  }
-  void Type(const QString& text) {
-    for (QChar c : text) QTest::keyClick(QApplication::focusWidget(), c.toLatin1());
-  }
-  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-    QTest::keyClick(QApplication::focusWidget(), key, modifiers);
-    QApplication::processEvents();
-  }
-  void AddNewRows(const char* count) {
-    dialog->Item<QLineEdit>(res::kCtlNewRowCount)->setText(count);
-    ASSERT_TRUE(dialog->PressButton(res::kCtlNewRows));
-  }
-  std::vector<std::string> Row(int row) {
-    std::vector<std::string> texts;
-    for (int col = 1; col <= sheet().MaxCols(); ++col) texts.push_back(sheet().GetData(col, row));
-    return texts;
-  }
+  void Show() { GridDialogTest::Show(*dialog); }
+  void AddNewRows(const char* count) { GridDialogTest::AddNewRows(*dialog, count); }
 
   fmUnit units;
   Host host;
@@ -92,7 +60,7 @@ TEST_F(CaseLoadDialogTest, EveryLoadTableOpensWithItsCaptionAndOkWithoutEditsKee
     SCOPED_TRACE(caption);
     EXPECT_EQ(dlg.windowTitle().toStdString(), caption);
     EXPECT_EQ(dlg.PrintTitle(), title);
-    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlLoadDeleteRows), "Delete Rows");
+    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGridEditAction), "Delete Rows");
     ASSERT_TRUE(dlg.PressButton(IDOK));
     EXPECT_EQ(dlg.ModalResult(), IDOK);
   };
@@ -145,13 +113,11 @@ TEST_F(CaseLoadDialogTest, APastedBlockOfLoadsIsReadAndAWrongDirectionIsRefusedB
   Show();
   AddNewRows("2");
   Click(2, 4);
-  QApplication::clipboard()->setText("2: Live\t1\t0.1\tY\tGlobal\t-4\n2: Live\t2\t0.9\tY\tGlobal\t-5\n");
-  Press(Qt::Key_V, Qt::ControlModifier);
+  Paste("2: Live\t1\t0.1\tY\tGlobal\t-4\n2: Live\t2\t0.9\tY\tGlobal\t-5\n");
   EXPECT_EQ(Row(5), (Texts{"5", "2: Live", "2", "0.9", "Y", "Global", "-5"}));
 
   Click(5, 1);
-  QApplication::clipboard()->setText("Down");
-  Press(Qt::Key_V, Qt::ControlModifier);
+  Paste("Down");
   ASSERT_EQ(Messages().size(), 1u);
   EXPECT_EQ(Messages()[0], "\"Down\" is not one of X, Y, Z, OX, OY, OZ.");
   EXPECT_EQ(sheet().GetData(5, 1), "Y");
@@ -166,7 +132,7 @@ TEST_F(CaseLoadDialogTest, DeleteRowsRemovesTheSelectedLoadsAndUndoBringsThemBac
   Show();
   Click(3, 2);
   Click(3, 3, Qt::ShiftModifier);
-  ASSERT_TRUE(dialog->PressButton(res::kCtlLoadDeleteRows));
+  ASSERT_TRUE(dialog->PressButton(res::kCtlGridEditAction));
   ASSERT_EQ(sheet().MaxRows(), 1);
   EXPECT_EQ(sheet().GetData(7, 1), "-2.12346");
   view()->setFocus();
@@ -181,7 +147,7 @@ TEST_F(CaseLoadDialogTest, DeleteRowsRemovesTheSelectedLoadsAndUndoBringsThemBac
 
   Open();
   Click(1, 1);
-  ASSERT_TRUE(dialog->PressButton(res::kCtlLoadDeleteRows));  // the active cell's row
+  ASSERT_TRUE(dialog->PressButton(res::kCtlGridEditAction));  // the active cell's row
   ASSERT_TRUE(dialog->PressButton(IDOK));
   EXPECT_EQ(host.caseLoads[0].point, (std::vector<fmPtLoad>{original.caseLoads[0].point[1]}));
   EXPECT_EQ(host.caseLoads[0].nodal, original.caseLoads[0].nodal);
@@ -207,8 +173,8 @@ TEST_F(CaseLoadDialogTest, ALockedModelShowsTheLoadsReadOnly) {
   EXPECT_TRUE(sheet().IsLockedAll());
   EXPECT_FALSE(dlg.GetDlgItem(IDOK)->isEnabled());
   EXPECT_FALSE(dlg.GetDlgItem(res::kCtlNewRows)->isEnabled());
-  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlLoadDeleteRows)->isEnabled());
-  dlg.PressButton(res::kCtlLoadDeleteRows);
+  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlGridEditAction)->isEnabled());
+  dlg.PressButton(res::kCtlGridEditAction);
   EXPECT_EQ(sheet().MaxRows(), 1);
   EXPECT_EQ(host, original);
 }

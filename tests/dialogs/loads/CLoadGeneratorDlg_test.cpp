@@ -8,9 +8,8 @@
 
 #include "dialogs/loads/CMovingLoadDlg.h"
 #include "dialogs/loads/CPatternLoadDataDlg.h"
-#include "resources/case_loads_ids.h"
 #include "resources/grid_ids.h"
-#include "support/DialogTest.h"
+#include "support/GridHands.h"
 
 namespace {
 
@@ -60,7 +59,7 @@ struct Host {
 
 using Texts = std::vector<std::string>;
 
-class GeneratorDialogTest : public DialogTest {
+class GeneratorDialogTest : public GridDialogTest {
  protected:
   template <class Dlg>
   void Open(Dlg& dlg) {
@@ -69,7 +68,22 @@ class GeneratorDialogTest : public DialogTest {
     dlg.m_pCaseLoads = &host.caseLoads, dlg.m_pLoadCombs = &host.combs;
     dlg.InitDialogForTest();
   }
-  static void SetValue(CDialog& dlg, const char* text) { dlg.Item<QLineEdit>(res::kCtlGenValue)->setText(text); }
+  static void SetValue(CPatternLoadDataDlg& dlg, const char* text) {
+    dlg.Item<QLineEdit>(frame::IdOf(&CPatternLoadDataDlg::m_dRatio))->setText(text);
+  }
+  static void SetValue(CMovingLoadDlg& dlg, const char* text) {
+    dlg.Item<QLineEdit>(frame::IdOf(&CMovingLoadDlg::m_dStep))->setText(text);
+  }
+  // The text of the form's first static, its note.
+  static std::string Note(const CDialog& dlg, const frame::FormBase& form) {
+    for (const frame::FieldLayout& f : form.Layouts())
+      if (f.kind == frame::FieldKind::Static) return dlg.GetDlgItemText(f.id);
+    return {};
+  }
+  template <class Dlg>
+  static int CaseId() {
+    return frame::IdOf<Dlg>(&Dlg::m_nCase);
+  }
   static Texts Path(CDataGridDlg& dlg) {
     Texts ids;
     for (int row = 1; row <= dlg.Spread().sheet().MaxRows(); ++row) ids.push_back(dlg.Spread().GetData(1, row));
@@ -85,13 +99,13 @@ TEST_F(GeneratorDialogTest, TheMovingDialogOpensOnTheSelectedMembersAndGenerates
   CMovingLoadDlg dlg;
   Open(dlg);
   EXPECT_EQ(dlg.windowTitle().toStdString(), "Moving Load");
-  EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGenNote),
+  EXPECT_EQ(Note(dlg, CMovingLoadDlg::Description()),
             "Note: Point loads of the moving load case will be moved on the members.  New loads, load cases and load "
             "combinations are generated appropriately.");
-  EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGenCaseText), "Moving load case:");
-  EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGenValueUnit), "ft");
-  EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGenCutRows), "Cut Selected Rows");
-  auto* cases = dlg.Item<QComboBox>(res::kCtlGenCase);
+  EXPECT_EQ(dlg.GetDlgItemText(frame::FieldOf<CMovingLoadDlg>(&CMovingLoadDlg::m_nCase).labelId), "Moving load case:");
+  EXPECT_EQ(dlg.GetDlgItemText(frame::FieldOf(&CMovingLoadDlg::m_dStep).suffixId), "ft");
+  EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGridEditAction), "Cut Selected Rows");
+  auto* cases = dlg.Item<QComboBox>(CaseId<CMovingLoadDlg>());
   ASSERT_EQ(cases->count(), 2);
   EXPECT_EQ(cases->itemText(1).toStdString(), "2: Live");
   EXPECT_EQ(Path(dlg), (Texts{"11", "12", "13"}));
@@ -100,7 +114,7 @@ TEST_F(GeneratorDialogTest, TheMovingDialogOpensOnTheSelectedMembersAndGenerates
   QApplication::setActiveWindow(&dlg);
   ASSERT_TRUE(dlg.PressButton(IDOK));
   EXPECT_EQ(Messages(), (Texts{"Moving step may be positive or negative, but not zero"}));
-  EXPECT_EQ(QApplication::focusWidget(), dlg.GetDlgItem(res::kCtlGenValue));
+  EXPECT_EQ(QApplication::focusWidget(), dlg.GetDlgItem(frame::IdOf(&CMovingLoadDlg::m_dStep)));
 
   SetValue(dlg, "5");
   ASSERT_TRUE(dlg.PressButton(IDOK));
@@ -108,7 +122,7 @@ TEST_F(GeneratorDialogTest, TheMovingDialogOpensOnTheSelectedMembersAndGenerates
   EXPECT_EQ(dlg.ModalResult(), 0);
   EXPECT_EQ(host, original);
 
-  ASSERT_TRUE(dlg.ChooseItem(res::kCtlGenCase, 1));
+  ASSERT_TRUE(dlg.ChooseItem(CaseId<CMovingLoadDlg>(), 1));
   ASSERT_TRUE(dlg.PressButton(IDOK));
   EXPECT_EQ(dlg.ModalResult(), IDOK);
   // The load starts 2 ft along a 12 ft path: at 7 and 12 ft it is still on it, at 17 ft off.
@@ -157,7 +171,7 @@ TEST_F(GeneratorDialogTest, BiDirectionalKeepsTheFirstDirectionWhenTheSecondIsRe
   dlg.m_nCase = 1;
   dlg.m_dStep = -6;
   Open(dlg);
-  dlg.Item<QCheckBox>(res::kCtlGenBiDirectional)->setChecked(true);
+  dlg.Item<QCheckBox>(frame::IdOf(&CMovingLoadDlg::m_bBiDirectional))->setChecked(true);
   ASSERT_TRUE(dlg.PressButton(IDOK));
   EXPECT_EQ(Messages(), (Texts{"Moving load case prefix (Moving_Dir2_Live_) already exists"}));
   EXPECT_EQ(dlg.ModalResult(), IDOK) << "Dir1 generated: the sign of the step is ignored";
@@ -179,25 +193,18 @@ TEST_F(GeneratorDialogTest, BiDirectionalKeepsTheFirstDirectionWhenTheSecondIsRe
 TEST_F(GeneratorDialogTest, PathRowsAreTypedAddedAndCutThroughTheGrid) {
   CMovingLoadDlg dlg;
   Open(dlg);
-  dlg.show();
-  QApplication::setActiveWindow(&dlg);
-  QTableView* view = dlg.Spread().view();
-  const auto center = [&](int row) { return view->visualRect(view->model()->index(row - 1, 0)).center(); };
-  dlg.Item<QLineEdit>(res::kCtlNewRowCount)->setText("2");
-  ASSERT_TRUE(dlg.PressButton(res::kCtlNewRows));
+  Show(dlg);
+  AddNewRows(dlg, "2");
   EXPECT_EQ(Path(dlg), (Texts{"11", "12", "13", "", ""})) << "new rows hold no numbers of their own";
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, center(4));
-  for (char c : std::string("20")) QTest::keyClick(QApplication::focusWidget(), c);
-  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  QApplication::processEvents();
+  TypeInto(1, 4, "20");
   EXPECT_EQ(Path(dlg), (Texts{"11", "12", "13", "20", ""}));
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, center(1));
-  QTest::mouseClick(view->viewport(), Qt::LeftButton, Qt::ShiftModifier, center(2));
-  ASSERT_TRUE(dlg.PressButton(res::kCtlGenCutRows));
+  Click(1, 1);
+  Click(1, 2, Qt::ShiftModifier);
+  ASSERT_TRUE(dlg.PressButton(res::kCtlGridEditAction));
   EXPECT_EQ(Path(dlg), (Texts{"13", "20", ""}));
   EXPECT_EQ(QApplication::clipboard()->text().left(2).toStdString(), "11") << "cut, not only deleted";
-  view->setFocus();
-  QTest::keyClick(view, Qt::Key_Z, Qt::ControlModifier);
+  view()->setFocus();
+  Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(Path(dlg), (Texts{"11", "12", "13", "20", ""}));
 }
 
@@ -206,10 +213,11 @@ TEST_F(GeneratorDialogTest, ThePatternDialogOffersTheLiveCaseAndMakesOddEvenAndA
   Open(dlg);
   EXPECT_EQ(dlg.windowTitle().toStdString(), "Pattern Load");
   EXPECT_EQ(dlg.PrintTitle(), "Point Load Table");
-  EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGenCaseText), "Pattern load case:");
-  EXPECT_EQ(dlg.Item<QComboBox>(res::kCtlGenCase)->currentIndex(), 1) << "the first Live case";
-  EXPECT_EQ(dlg.Item<QLineEdit>(res::kCtlGenValue)->text().toStdString(), "1");
-  EXPECT_EQ(dlg.GetDlgItem(res::kCtlGenBiDirectional), nullptr);
+  EXPECT_EQ(dlg.GetDlgItemText(frame::FieldOf<CPatternLoadDataDlg>(&CPatternLoadDataDlg::m_nCase).labelId),
+            "Pattern load case:");
+  EXPECT_EQ(dlg.Item<QComboBox>(CaseId<CPatternLoadDataDlg>())->currentIndex(), 1) << "the first Live case";
+  EXPECT_EQ(dlg.Item<QLineEdit>(frame::IdOf(&CPatternLoadDataDlg::m_dRatio))->text().toStdString(), "1");
+  EXPECT_TRUE(dlg.findChildren<QCheckBox*>().isEmpty()) << "no Bi-Directional";
 
   dlg.Spread().sheet().SetData(1, 2, "");
   dlg.Spread().sheet().SetData(1, 3, "");
@@ -240,7 +248,7 @@ TEST_F(GeneratorDialogTest, ALockedModelGeneratesNothing) {
   Open(dlg);
   ASSERT_EQ(Messages().size(), 1u);
   EXPECT_EQ(Messages()[0].rfind("The Model is locked.\n", 0), 0u);
-  for (int id : {IDOK, res::kCtlNewRows, res::kCtlGenCutRows}) EXPECT_FALSE(dlg.GetDlgItem(id)->isEnabled()) << id;
+  for (int id : {IDOK, res::kCtlNewRows, res::kCtlGridEditAction}) EXPECT_FALSE(dlg.GetDlgItem(id)->isEnabled()) << id;
   EXPECT_TRUE(dlg.Spread().sheet().IsLockedAll());
   EXPECT_EQ(host, original);
 }
