@@ -109,9 +109,9 @@ class Ties {
         pick = static_cast<long>(i);
     }
     if (pick < 0) return;
-    // Not a structured binding: clang 14 cannot capture one in the lambda below.
+    // Not a structured binding: clang 14 does not let the lambda below capture one.
     const auto s = terms[static_cast<size_t>(pick)].first;
-    const double cs = terms[static_cast<size_t>(pick)].second;
+    const auto cs = terms[static_cast<size_t>(pick)].second;
     Terms e;
     for (const auto& [dof, c] : terms)
       if (dof != s) e.push_back({dof, -c / cs});

@@ -5,6 +5,7 @@
 #include <unordered_set>
 
 #include "model/document_sections.h"
+#include "model/id_index.h"
 #include "tools/format.h"
 #include "tools/labels.h"
 
@@ -24,18 +25,13 @@ namespace {
 
 using OrderedJson = nlohmann::ordered_json;
 
-std::unordered_set<uint32_t> Ids(const auto& records) {
-  std::unordered_set<uint32_t> ids;
-  ids.reserve(records.size());
-  for (const auto& r : records) ids.insert(r.id);
-  return ids;
-}
+IdSet Ids(const auto& records) { return IdSet(records); }
 
 struct Known {
-  std::unordered_set<uint32_t> nodes, members, shells;
+  IdSet nodes, members, shells;
 };
 
-uint32_t Reference(const JsonReader& item, const char* key, const std::unordered_set<uint32_t>& ids, const char* table) {
+uint32_t Reference(const JsonReader& item, const char* key, const IdSet& ids, const char* table) {
   const uint32_t id = item.Id(key, tools::Format("%s id", key).c_str());
   if (!ids.count(id)) item.Member(key).Fail(tools::Format("%s %u is not in \"%s\"", key, id, table));
   return id;
@@ -103,7 +99,7 @@ std::string FlagText(const std::array<bool, 6>& flags) {
 // stiffnesses `k`.
 template <class Spring>
 void ReadSprings(const JsonReader& root, const char* key, std::vector<Spring>& out, uint32_t Spring::*object,
-                 const char* objectKey, const std::unordered_set<uint32_t>& ids, const char* table, const char* what) {
+                 const char* objectKey, const IdSet& ids, const char* table, const char* what) {
   OnePerObject seen(key, objectKey);
   ReadSection(root, key, out, [&](const JsonReader& item) {
     item.RequireObject();
@@ -385,7 +381,7 @@ bool BoundariesFinite(const ModelDocument& doc) {
 }
 
 size_t RemoveBoundariesAtMissingObjects(ModelDocument& doc) {
-  const std::unordered_set<uint32_t> nodes = Ids(doc.nodes), members = Ids(doc.members), shells = Ids(doc.shells);
+  const IdSet nodes = Ids(doc.nodes), members = Ids(doc.members), shells = Ids(doc.shells);
   size_t removed = 0;
   const auto drop = [&](auto& records, auto missing) { removed += std::erase_if(records, missing); };
   drop(doc.nodalSprings, [&](const fmNodalSpring& s) { return !nodes.count(s.node); });

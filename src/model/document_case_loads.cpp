@@ -2,6 +2,7 @@
 #include <unordered_set>
 
 #include "model/document_sections.h"
+#include "model/id_index.h"
 #include "tools/format.h"
 #include "tools/fm_unit.h"
 
@@ -11,18 +12,13 @@
 namespace model {
 namespace {
 
-std::unordered_set<uint32_t> Ids(const auto& records) {
-  std::unordered_set<uint32_t> ids;
-  ids.reserve(records.size());
-  for (const auto& r : records) ids.insert(r.id);
-  return ids;
-}
+IdSet Ids(const auto& records) { return IdSet(records); }
 
 struct Known {
-  std::unordered_set<uint32_t> nodes, members, shells, bricks;
+  IdSet nodes, members, shells, bricks;
 };
 
-uint32_t Reference(const JsonReader& item, const char* key, const std::unordered_set<uint32_t>& ids,
+uint32_t Reference(const JsonReader& item, const char* key, const IdSet& ids,
                    const char* table) {
   const uint32_t id = item.Id(key, key);
   if (!ids.count(id)) item.Member(key).Fail(tools::Format("%s %u is not in \"%s\"", key, id, table));
@@ -65,7 +61,7 @@ void ReadList(const JsonReader& entry, const char* key, std::vector<T>& out, Rea
 }
 
 void ReadThermal(const JsonReader& entry, const char* key, std::vector<fmThermalLoad>& out,
-                 const std::unordered_set<uint32_t>& ids, const char* idKey, const char* table) {
+                 const IdSet& ids, const char* idKey, const char* table) {
   ReadList(entry, key, out, [&](const JsonReader& item) {
     return fmThermalLoad{Reference(item, idKey, ids, table), item.Double("temperature")};
   });
@@ -158,7 +154,7 @@ void WriteList(nlohmann::ordered_json& entry, const char* key, const std::vector
 // loads) of a case of the model become its loads, in the document's units; masses, which
 // named no case, go to the first case.
 void TakeOverResultCopies(ModelDocument& doc) {
-  const std::unordered_set<uint32_t> nodes = Ids(doc.nodes);
+  const IdSet nodes = Ids(doc.nodes);
   const auto known = [&](int32_t node) { return node > 0 && nodes.count(static_cast<uint32_t>(node)); };
   double f[fmUnit::QuantityCount];
   GetConversionFactors(f, doc.results.units, doc.units);

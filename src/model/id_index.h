@@ -51,4 +51,18 @@ class IdIndex {
   std::vector<std::pair<int64_t, int64_t>> sorted_;
 };
 
+// Whether a number is that of one of a table's records: one block of memory, however many
+// records (a hash set costs an allocation per record).
+class IdSet {
+ public:
+  template <class Records>
+  explicit IdSet(const Records& records) {
+    index_.Build(records, [](const auto& r) { return static_cast<int64_t>(r.id); });
+  }
+  size_t count(uint32_t id) const { return index_.Find(id) >= 0 ? 1 : 0; }
+
+ private:
+  IdIndex index_;
+};
+
 }  // namespace model

@@ -3,26 +3,15 @@
 
 namespace {
 
-// The boundary tables check their rows against the model's nodes, members and shells, and
-// write their records back themselves on OK.
-void PrepareBoundaryGrid(CBoundaryDataDlg& dlg, HostModel& m) {
-  dlg.m_pUnits = &m.doc.units;
-  dlg.m_bShowSelectedOnly = m.doc.display.showSelectedOnly;
-  dlg.m_bModelLocked = m.doc.display.modelLocked;
-  dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
-  dlg.m_pNodes = &m.doc.nodes;
-  dlg.m_pMembers = &m.doc.members;
-  dlg.m_pShells = &m.doc.shells;
-}
-
-template <class Dlg, class Bind>
-void BindBoundaryGrid(Bind bind) {
-  BindDialog<Dlg>(
-      [bind](Dlg& dlg, HostModel& m) {
-        PrepareBoundaryGrid(dlg, m);
-        bind(dlg, m.doc);
-      },
-      [](Dlg&, HostModel&) { return true; });
+// The boundary tables check their rows against the model's nodes, members and shells.
+template <class Dlg>
+void BindBoundaryGrid(std::function<void(Dlg&, model::ModelDocument&)> hand) {
+  BindTable<Dlg>([hand](Dlg& dlg, model::ModelDocument& doc) {
+    dlg.m_pNodes = &doc.nodes;
+    dlg.m_pMembers = &doc.members;
+    dlg.m_pShells = &doc.shells;
+    hand(dlg, doc);
+  });
 }
 
 }  // namespace

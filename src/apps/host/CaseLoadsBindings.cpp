@@ -9,9 +9,7 @@ namespace {
 // and the cases with one entry of loads each.
 template <class Dlg>
 void PrepareLoads(Dlg& dlg, HostModel& m) {
-  dlg.m_pUnits = &m.doc.units;
-  dlg.m_bModelLocked = m.doc.display.modelLocked;
-  dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
+  PrepareGrid(dlg, m, false);
   m.doc.caseLoads.resize(m.doc.loadCases.size());
   dlg.m_pLoadCases = &m.doc.loadCases;
   dlg.m_pCaseLoads = &m.doc.caseLoads;

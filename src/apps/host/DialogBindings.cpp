@@ -1,5 +1,7 @@
 #include "apps/host/DialogBindings.h"
 
+#include "dialogs/grid/CDataGridDlg.h"
+
 #include <vector>
 
 namespace {
@@ -22,6 +24,13 @@ const DialogBinding* FindDialogBinding(std::string_view className) {
   for (const auto& b : Bindings())
     if (className == b.className) return &b;
   return nullptr;
+}
+
+void PrepareGrid(CDataGridDlg& dlg, HostModel& m, bool selectedOnly) {
+  dlg.m_pUnits = &m.doc.units;
+  if (selectedOnly) dlg.m_bShowSelectedOnly = m.doc.display.showSelectedOnly;
+  dlg.m_bModelLocked = m.doc.display.modelLocked;
+  dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
 }
 
 void RegisterAllBindings() {

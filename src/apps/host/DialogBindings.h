@@ -8,6 +8,7 @@
 #include "dialogs/frame/DialogRegistry.h"
 
 class CDialog;
+class CDataGridDlg;
 
 // How the host hands its model to one dialog class and takes the result back, as any host
 // embedding the library would: set the public members, DoModal, read back after IDOK.
@@ -45,6 +46,21 @@ void BindDialog(std::function<void(Dlg&, HostModel&)> prepare, std::function<boo
   }
   RegisterDialogBinding(
       {info->className, typed(std::move(prepare)), typed(std::move(takeBack)), typed(std::move(afterCancel))});
+}
+
+// What a table takes from the host: its units, the lock and the grid's colour; with
+// selectedOnly also "show only selected entities" (the tables of the model's entities).
+void PrepareGrid(CDataGridDlg& dlg, HostModel& m, bool selectedOnly);
+
+// A table that writes into the host's lists itself on OK; `hand` gives it those lists.
+template <class Dlg>
+void BindTable(std::function<void(Dlg&, model::ModelDocument&)> hand, bool selectedOnly = true) {
+  BindDialog<Dlg>(
+      [hand, selectedOnly](Dlg& dlg, HostModel& m) {
+        PrepareGrid(dlg, m, selectedOnly);
+        hand(dlg, m.doc);
+      },
+      [](Dlg&, HostModel&) { return true; });
 }
 
 // Each family adds its bindings; called once at start-up.

@@ -18,9 +18,7 @@ bool WroteThrough(CDialog&, HostModel&) { return true; }
 void RegisterLoadsBindings() {
   BindDialog<CLoadCaseDlg>(
       [](CLoadCaseDlg& dlg, HostModel& m) {
-        dlg.m_pUnits = &m.doc.units;
-        dlg.m_bModelLocked = m.doc.display.modelLocked;
-        dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
+        PrepareGrid(dlg, m, false);
         dlg.m_pLoadCases = &m.doc.loadCases;
         m.doc.caseLoads.resize(m.doc.loadCases.size());
         dlg.m_pCaseLoads = &m.doc.caseLoads;

@@ -7,30 +7,18 @@
 
 namespace {
 
-// Every data grid gets the same units, flags and colour from the host.
-void PrepareGrid(CDataGridDlg& dlg, HostModel& m) {
-  dlg.m_pUnits = &m.doc.units;
-  dlg.m_bShowSelectedOnly = m.doc.display.showSelectedOnly;
-  dlg.m_bModelLocked = m.doc.display.modelLocked;
-  dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
-}
-
 // The element grids also check nodes and materials.
-void PrepareElementGrid(CElementDataDlg& dlg, HostModel& m) {
-  PrepareGrid(dlg, m);
-  dlg.m_pNodes = &m.doc.nodes;
-  dlg.m_pMaterials = &m.doc.materials;
+void HandElements(CElementDataDlg& dlg, model::ModelDocument& doc) {
+  dlg.m_pNodes = &doc.nodes;
+  dlg.m_pMaterials = &doc.materials;
 }
-
-// Grid dialogs write into the host's vectors themselves on OK.
-bool WroteThrough(CDialog&, HostModel&) { return true; }
 
 }  // namespace
 
 void RegisterModelBindings() {
   BindDialog<CNodeDataDlg>(
       [](CNodeDataDlg& dlg, HostModel& m) {
-        PrepareGrid(dlg, m);
+        PrepareGrid(dlg, m, true);
         dlg.m_pNodes = &m.doc.nodes;
       },
       [](CDialog&, HostModel& m) {
@@ -50,24 +38,18 @@ void RegisterModelBindings() {
                                     m.status.empty() ? "" : "; ", others, others == 1 ? "" : "s");
         return true;
       });
-  BindDialog<CBeamDataDlg>(
-      [](CBeamDataDlg& dlg, HostModel& m) {
-        PrepareElementGrid(dlg, m);
-        dlg.m_pSections = &m.doc.sections;
-        dlg.m_pBeams = &m.doc.members;
-      },
-      WroteThrough);
-  BindDialog<CShell4DataDlg>(
-      [](CShell4DataDlg& dlg, HostModel& m) {
-        PrepareElementGrid(dlg, m);
-        dlg.m_pThicknesses = &m.doc.thicknesses;
-        dlg.m_pShells = &m.doc.shells;
-      },
-      WroteThrough);
-  BindDialog<CBrickDataDlg>(
-      [](CBrickDataDlg& dlg, HostModel& m) {
-        PrepareElementGrid(dlg, m);
-        dlg.m_pBricks = &m.doc.bricks;
-      },
-      WroteThrough);
+  BindTable<CBeamDataDlg>([](CBeamDataDlg& dlg, model::ModelDocument& doc) {
+    HandElements(dlg, doc);
+    dlg.m_pSections = &doc.sections;
+    dlg.m_pBeams = &doc.members;
+  });
+  BindTable<CShell4DataDlg>([](CShell4DataDlg& dlg, model::ModelDocument& doc) {
+    HandElements(dlg, doc);
+    dlg.m_pThicknesses = &doc.thicknesses;
+    dlg.m_pShells = &doc.shells;
+  });
+  BindTable<CBrickDataDlg>([](CBrickDataDlg& dlg, model::ModelDocument& doc) {
+    HandElements(dlg, doc);
+    dlg.m_pBricks = &doc.bricks;
+  });
 }

@@ -10,15 +10,6 @@
 
 namespace {
 
-void PrepareGrid(CDataGridDlg& dlg, HostModel& m) {
-  dlg.m_pUnits = &m.doc.units;
-  dlg.m_bModelLocked = m.doc.display.modelLocked;
-  dlg.m_crAlternateRowColor = m.doc.display.alternateRowColor;
-}
-
-// The grids write into the host's vectors themselves on OK.
-bool WroteThrough(CDialog&, HostModel&) { return true; }
-
 template <class Dlg>
 void PrepareBrowser(Dlg& dlg, HostModel& m) {
   dlg.m_pUnits = &m.doc.units;
@@ -28,30 +19,13 @@ void PrepareBrowser(Dlg& dlg, HostModel& m) {
 }  // namespace
 
 void RegisterSectionsBindings() {
-  BindDialog<CSectionDlg>(
-      [](CSectionDlg& dlg, HostModel& m) {
-        PrepareGrid(dlg, m);
-        dlg.m_pSections = &m.doc.sections;
-      },
-      WroteThrough);
-  BindDialog<CThickDlg>(
-      [](CThickDlg& dlg, HostModel& m) {
-        PrepareGrid(dlg, m);
-        dlg.m_pThicknesses = &m.doc.thicknesses;
-      },
-      WroteThrough);
-  BindDialog<CMaterialDlg>(
-      [](CMaterialDlg& dlg, HostModel& m) {
-        PrepareGrid(dlg, m);
-        dlg.m_pMaterials = &m.doc.materials;
-      },
-      WroteThrough);
-  const auto strengths = [](CMaterialStrengthDlg& dlg, HostModel& m) {
-    PrepareGrid(dlg, m);
-    dlg.m_pMaterials = &m.doc.materials;
-  };
-  BindDialog<CMaterialRcDlg>(strengths, WroteThrough);
-  BindDialog<CMaterialSteelDlg>(strengths, WroteThrough);
+  // The property tables list every row, whatever is selected.
+  BindTable<CSectionDlg>([](CSectionDlg& dlg, model::ModelDocument& doc) { dlg.m_pSections = &doc.sections; }, false);
+  BindTable<CThickDlg>([](CThickDlg& dlg, model::ModelDocument& doc) { dlg.m_pThicknesses = &doc.thicknesses; }, false);
+  const auto materials = [](auto& dlg, model::ModelDocument& doc) { dlg.m_pMaterials = &doc.materials; };
+  BindTable<CMaterialDlg>(materials, false);
+  BindTable<CMaterialRcDlg>(materials, false);
+  BindTable<CMaterialSteelDlg>(materials, false);
   // The calculators and browsers change nothing in the model by themselves.
   BindDialog<CRegularSectionDlg>([](CRegularSectionDlg& dlg, HostModel& m) { dlg.m_pUnits = &m.doc.units; }, nullptr);
   BindDialog<CStandardMaterialDlg>([](CStandardMaterialDlg& dlg, HostModel& m) { dlg.m_pUnits = &m.doc.units; },
