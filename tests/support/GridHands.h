@@ -61,6 +61,17 @@ class GridDialogTest : public DialogTest, public GridHands {
     QApplication::setActiveWindow(&dlg);
     view()->setFocus();
   }
+  // A locked model: its message, the grid locked, OK and the editing buttons disabled, and
+  // the grid's own action (on the active row) changing nothing.
+  void ExpectLocked(CDataGridDlg& dlg) {
+    ASSERT_EQ(Messages().size(), 1u);
+    EXPECT_EQ(Messages()[0].rfind("The Model is locked.\nYou can not modify data in the spreadsheet.", 0), 0u);
+    EXPECT_TRUE(dlg.Spread().sheet().IsLockedAll());
+    for (int id : {IDOK, res::kCtlNewRows, res::kCtlGridEditAction}) EXPECT_FALSE(dlg.GetDlgItem(id)->isEnabled()) << id;
+    const int rows = dlg.Spread().sheet().MaxRows();
+    dlg.PressButton(res::kCtlGridEditAction);
+    EXPECT_EQ(dlg.Spread().sheet().MaxRows(), rows);
+  }
   // "New Rows" with the count typed into its field.
   static void AddNewRows(CDataGridDlg& dlg, const char* count) {
     dlg.Item<QLineEdit>(res::kCtlNewRowCount)->setText(count);

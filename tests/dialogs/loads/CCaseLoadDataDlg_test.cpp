@@ -167,14 +167,7 @@ TEST_F(CaseLoadDialogTest, ARefusalIsOneMessageAtTheCellAndLeavesTheModelUntouch
 }
 
 TEST_F(CaseLoadDialogTest, ALockedModelShowsTheLoadsReadOnly) {
-  CCaseLoadDataDlg& dlg = Open<CNodalLoadDataDlg>(true);
-  ASSERT_EQ(Messages().size(), 1u);
-  EXPECT_EQ(Messages()[0].rfind("The Model is locked.\nYou can not modify data in the spreadsheet.", 0), 0u);
-  EXPECT_TRUE(sheet().IsLockedAll());
-  EXPECT_FALSE(dlg.GetDlgItem(IDOK)->isEnabled());
-  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlNewRows)->isEnabled());
-  EXPECT_FALSE(dlg.GetDlgItem(res::kCtlGridEditAction)->isEnabled());
-  dlg.PressButton(res::kCtlGridEditAction);
+  ExpectLocked(Open<CNodalLoadDataDlg>(true));
   EXPECT_EQ(sheet().MaxRows(), 1);
   EXPECT_EQ(host, original);
 }
