@@ -10,6 +10,7 @@
 #include "dialogs/frame/Form.h"
 #include "resources/design_ids.h"
 #include "resources/sections_ids.h"
+#include "support/file_size_limit.h"
 #include "support/files.h"
 #include "tools/format.h"
 #include "tools/parse.h"
@@ -166,6 +167,19 @@ TEST_F(SteelCheckDialogTest, UnknownShapeAndUnwritableFolderAreRefusedKeepingThe
   Edit(kCtlSteelSection, "W14X90");
   dlg.PressButton(IDOK);
   EXPECT_EQ(Messages(), (std::vector<std::string>{"Invalid AISC section", "Error opening file kStrand.htm"}));
+}
+
+// Past a file-size limit (as on a full disk) the run says so, the old report stays whole and
+// nothing is left beside it.
+TEST_F(SteelCheckDialogTest, AReportThatCannotBeWrittenKeepsTheOldOne) {
+  dlg.PressButton(IDOK);
+  const std::string before = Report();
+  ASSERT_GT(before.size(), 2048u);
+  Edit(kCtlSteelSection, "W14X90");
+  WithFileSizeLimit(1024, [&] { dlg.PressButton(IDOK); });
+  EXPECT_EQ(Messages(), std::vector<std::string>{"Error opening file kStrand.htm"});
+  EXPECT_TRUE(Report() == before) << "the old report is kept";
+  EXPECT_EQ(FolderEntries(reports.path()), std::vector<std::string>{"kStrand.htm"});
 }
 
 TEST_F(SteelCheckDialogTest, ShowProcedureOpensTheReportAndAiscTableChoosesTheShape) {
