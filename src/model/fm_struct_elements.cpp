@@ -342,14 +342,24 @@ std::vector<bool> CfmStruct::ConcreteDesignCombinations() const {
   return marked;
 }
 
+namespace {
+
+// Calls each(c, results) for every concrete-design combination c that has results, with its
+// element results.
+template <class Each>
+void ForEachDesignCombination(const CfmStruct& s, Each each) {
+  const std::vector<bool> marked = s.ConcreteDesignCombinations();
+  fmCaseResults scratch;
+  for (int c = 0; c < s.GetNumLoadCases(); ++c)
+    if (marked[static_cast<size_t>(c)] && s.GetCaseResults(c)) each(c, s.GetElementResults(c, scratch));
+}
+
+}  // namespace
+
 void CfmStruct::CalcBeamDesignEnvelope(std::vector<fmBmDesignEnvelope>& out) const {
   out.clear();
-  const std::vector<bool> marked = ConcreteDesignCombinations();
   std::unordered_map<int32_t, size_t> slot;
-  fmCaseResults scratch;
-  for (int c = 0; c < GetNumLoadCases(); ++c) {
-    if (!marked[static_cast<size_t>(c)] || !GetCaseResults(c)) continue;
-    const fmCaseResults& r = GetElementResults(c, scratch);
+  ForEachDesignCombination(*this, [&](int c, const fmCaseResults& r) {
     for (const fmBmVMD& m : r.memberStations) {
       const Member* member = FindMember(m.number);
       if (!member || member->rcCriteria.empty() || member->rcExcluded) continue;
@@ -387,7 +397,7 @@ void CfmStruct::CalcBeamDesignEnvelope(std::vector<fmBmDesignEnvelope>& out) con
         }
       }
     }
-  }
+  });
   for (fmBmDesignEnvelope& e : out)
     for (fmBmDesignEnvelope::Station& s : e.station) {
       if (s.maxMzComb < 0) s.maxMz = kNaN;
@@ -398,12 +408,8 @@ void CfmStruct::CalcBeamDesignEnvelope(std::vector<fmBmDesignEnvelope>& out) con
 
 void CfmStruct::CalcWoodArmerMoments(std::vector<fmWoodArmerMoment>& out) const {
   out.clear();
-  const std::vector<bool> marked = ConcreteDesignCombinations();
   std::unordered_map<int32_t, size_t> slot;
-  fmCaseResults scratch;
-  for (int c = 0; c < GetNumLoadCases(); ++c) {
-    if (!marked[static_cast<size_t>(c)] || !GetCaseResults(c)) continue;
-    const fmCaseResults& r = GetElementResults(c, scratch);
+  ForEachDesignCombination(*this, [&](int c, const fmCaseResults& r) {
     for (const fmShellForce& f : r.shellForces) {
       const Shell4* shell = FindShell(f.number);
       if (!shell || shell->rcExcluded) continue;
@@ -429,5 +435,5 @@ void CfmStruct::CalcWoodArmerMoments(std::vector<fmWoodArmerMoment>& out) const 
         }
       }
     }
-  }
+  });
 }

@@ -61,6 +61,30 @@ class GridDialogTest : public DialogTest, public GridHands {
     QApplication::setActiveWindow(&dlg);
     view()->setFocus();
   }
+  // A table opens with its caption, the title of its printout and "Delete Rows" and holds
+  // `rows` rows (-1: any); OK without an edit closes it.
+  static void ExpectOpensAndCloses(CDataGridDlg& dlg, const char* caption, const char* title, int rows = -1) {
+    SCOPED_TRACE(caption);
+    EXPECT_EQ(dlg.windowTitle().toStdString(), caption);
+    EXPECT_EQ(dlg.PrintTitle(), title);
+    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGridEditAction), "Delete Rows");
+    if (rows >= 0) {
+      EXPECT_EQ(dlg.Spread().sheet().MaxRows(), rows);
+    }
+    ASSERT_TRUE(dlg.PressButton(IDOK));
+    EXPECT_EQ(dlg.ModalResult(), IDOK);
+  }
+  // A locked model: its message, the grid locked, OK and the editing buttons disabled, and
+  // the grid's own action (on the active row) changing nothing.
+  void ExpectLocked(CDataGridDlg& dlg) {
+    ASSERT_EQ(Messages().size(), 1u);
+    EXPECT_EQ(Messages()[0].rfind("The Model is locked.\nYou can not modify data in the spreadsheet.", 0), 0u);
+    EXPECT_TRUE(dlg.Spread().sheet().IsLockedAll());
+    for (int id : {IDOK, res::kCtlNewRows, res::kCtlGridEditAction}) EXPECT_FALSE(dlg.GetDlgItem(id)->isEnabled()) << id;
+    const int rows = dlg.Spread().sheet().MaxRows();
+    dlg.PressButton(res::kCtlGridEditAction);
+    EXPECT_EQ(dlg.Spread().sheet().MaxRows(), rows);
+  }
   // "New Rows" with the count typed into its field.
   static void AddNewRows(CDataGridDlg& dlg, const char* count) {
     dlg.Item<QLineEdit>(res::kCtlNewRowCount)->setText(count);

@@ -246,10 +246,7 @@ TEST_F(GeneratorDialogTest, ALockedModelGeneratesNothing) {
   CPatternLoadDataDlg dlg;
   dlg.m_bModelLocked = 1;
   Open(dlg);
-  ASSERT_EQ(Messages().size(), 1u);
-  EXPECT_EQ(Messages()[0].rfind("The Model is locked.\n", 0), 0u);
-  for (int id : {IDOK, res::kCtlNewRows, res::kCtlGridEditAction}) EXPECT_FALSE(dlg.GetDlgItem(id)->isEnabled()) << id;
-  EXPECT_TRUE(dlg.Spread().sheet().IsLockedAll());
+  ExpectLocked(dlg);
   EXPECT_EQ(host, original);
 }
 
