@@ -10,6 +10,7 @@
 #include <locale.h>
 #include <new>
 #include <string>
+#include <unordered_set>
 
 #include "tools/format.h"
 
@@ -163,16 +164,15 @@ class Scanner {
     }
     od::object root;
     if (const auto e = doc.get_object().get(root)) return Failed(e);
-    std::vector<std::string> keys;
+    // A set, so that no text of many keys makes the check of repeated ones quadratic.
+    std::unordered_set<std::string> keys;
     std::string scratch;
     for (auto member : root) {
       od::field field;
       std::string_view key;
       if (const auto e = std::move(member).get(field)) return Failed(e);
       if (!KeyOf(field, scratch, key)) return TextFaults();
-      for (const std::string& k : keys)
-        if (k == key) return TextFaults();
-      keys.emplace_back(key);
+      if (!keys.emplace(key).second) return TextFaults();
       od::value& value = field.value();
       od::json_type valueType;
       if (const auto e = value.type().get(valueType)) return Failed(e);
@@ -225,7 +225,7 @@ class Scanner {
     if (const auto e = list.count_elements().get(count)) return Failed(e);
     out_.nodes.reserve(count);
     size_t index = 0;
-    std::vector<std::string> otherKeys;
+    std::unordered_set<std::string> otherKeys;
     std::string scratch;
     for (auto element : list) {
       od::value item;
@@ -250,9 +250,7 @@ class Scanner {
         od::value& v = field.value();
         const int f = FieldOf(key);
         if (f < 0) {
-          for (const std::string& k : otherKeys)
-            if (k == key) return TextFaults();
-          otherKeys.emplace_back(key);
+          if (!otherKeys.emplace(key).second) return TextFaults();
           // Kept by nobody, but still checked as the strict parser checks it.
           std::string_view span;
           if (const auto e = SpanOf(v, span)) return Failed(e);

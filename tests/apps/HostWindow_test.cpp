@@ -3,7 +3,6 @@
 #include <QImage>
 #include <QMenuBar>
 #include <QTableView>
-#include <QTreeWidget>
 
 #include <filesystem>
 
@@ -263,16 +262,17 @@ TEST_F(HostWindowTest, TheLoadTablesAndGeneratorsAreListedAndOpenOnTheExamplesLo
   EXPECT_FALSE(path.IsLockedAll());
 }
 
-// The main window reads its node table from the document's vector: no item per node, and
-// it follows every change of the document.
+// The main window reads its node table from the document's vector and its summary from a
+// table model: no item per node or fact, and both follow every change of the document.
 TEST_F(HostWindowTest, TheNodeTableShowsTheDocumentsNodesAndFollowsItsChanges) {
   const auto* view = window.findChild<QTableView*>("nodes");
   ASSERT_NE(view, nullptr);
   const QAbstractItemModel& table = *view->model();
   const auto cell = [&](int row, int col) { return table.index(row, col).data().toString().toStdString(); };
+  const QAbstractItemModel& facts = *window.findChild<QTableView*>("summary")->model();
   const auto summary = [&](const QString& key) {
-    const auto items = window.findChild<QTreeWidget*>()->findItems(key, Qt::MatchExactly);
-    return items.size() == 1 ? items[0]->text(1).toStdString() : std::string("?");
+    const auto found = facts.match(facts.index(0, 0), Qt::DisplayRole, key, -1, Qt::MatchExactly);
+    return found.size() == 1 ? facts.index(found[0].row(), 1).data().toString().toStdString() : std::string("?");
   };
   ASSERT_EQ(table.rowCount(), 44);
   EXPECT_EQ(summary("Nodes"), "44");

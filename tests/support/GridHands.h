@@ -61,6 +61,19 @@ class GridDialogTest : public DialogTest, public GridHands {
     QApplication::setActiveWindow(&dlg);
     view()->setFocus();
   }
+  // A table opens with its caption, the title of its printout and "Delete Rows" and holds
+  // `rows` rows (-1: any); OK without an edit closes it.
+  static void ExpectOpensAndCloses(CDataGridDlg& dlg, const char* caption, const char* title, int rows = -1) {
+    SCOPED_TRACE(caption);
+    EXPECT_EQ(dlg.windowTitle().toStdString(), caption);
+    EXPECT_EQ(dlg.PrintTitle(), title);
+    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGridEditAction), "Delete Rows");
+    if (rows >= 0) {
+      EXPECT_EQ(dlg.Spread().sheet().MaxRows(), rows);
+    }
+    ASSERT_TRUE(dlg.PressButton(IDOK));
+    EXPECT_EQ(dlg.ModalResult(), IDOK);
+  }
   // A locked model: its message, the grid locked, OK and the editing buttons disabled, and
   // the grid's own action (on the active row) changing nothing.
   void ExpectLocked(CDataGridDlg& dlg) {

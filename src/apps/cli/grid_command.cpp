@@ -89,15 +89,18 @@ int Export(const ExportArgs& a, std::ostream& out, std::ostream& err) {
     err << "norvane-cli: Invalid file format specified\n";
     return kRefused;
   }
-  model::ModelDocument doc;
-  try {
-    doc = model::LoadModelDocument(modelPath);
-  } catch (const model::DocumentLoadError& e) {
-    err << "norvane-cli: " << e.what() << "\n";
-    return kRefused;
-  }
   grid::Sheet sheet;
-  table->fill(doc, sheet);
+  {
+    // The document goes once the table holds what it shows, before the file is written.
+    model::ModelDocument doc;
+    try {
+      doc = model::LoadModelDocument(modelPath);
+    } catch (const model::DocumentLoadError& e) {
+      err << "norvane-cli: " << e.what() << "\n";
+      return kRefused;
+    }
+    table->fill(doc, sheet);
+  }
   if (const auto failure = grid::ExportSheet(sheet, outPath, append, table->title)) {
     err << "norvane-cli: " << *failure << "\n";
     return kRefused;

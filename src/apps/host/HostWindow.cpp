@@ -8,13 +8,13 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTableView>
-#include <QTreeWidget>
 #include <map>
 
 #include "apps/host/AnalysisRun.h"
 #include "apps/host/DialogRunner.h"
 #include "apps/host/HostSettings.h"
 #include "apps/host/NodeTableModel.h"
+#include "apps/host/SummaryTableModel.h"
 #include "dialogs/frame/CDialog.h"
 #include "dialogs/frame/DialogRegistry.h"
 #include "dialogs/frame/Prompter.h"
@@ -23,11 +23,19 @@
 
 namespace {
 
-QTreeWidget* MakeTable(QWidget* parent) {
-  auto* table = new QTreeWidget(parent);
-  table->setRootIsDecorated(false);
+// A read-only table of whole rows in one height: the view then never measures its rows.
+QTableView* MakeTable(const char* name, QAbstractItemModel* model, QWidget* parent) {
+  auto* table = new QTableView(parent);
+  table->setObjectName(name);
+  table->setModel(model);
+  table->verticalHeader()->hide();
+  table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 4);
   table->setAlternatingRowColors(true);
-  table->setUniformRowHeights(true);
+  table->setShowGrid(false);
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->horizontalHeader()->setHighlightSections(false);
   return table;
 }
 
@@ -45,22 +53,12 @@ QString DialogCaption(const DialogClassInfo& info) {
 
 HostWindow::HostWindow(QWidget* parent)
     : QMainWindow(parent),
-      summary_(MakeTable(this)),
+      summaryModel_(new SummaryTableModel(this)),
+      summary_(MakeTable("summary", summaryModel_, this)),
       nodeModel_(new NodeTableModel(model_.doc, this)),
-      nodes_(new QTableView(this)) {
-  summary_->setHeaderLabels({"Model", "Value"});
-  // Rows of one height and no row headings: the view then never measures a million rows.
-  nodes_->setObjectName("nodes");
-  nodes_->setModel(nodeModel_);
-  nodes_->verticalHeader()->hide();
-  nodes_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  nodes_->verticalHeader()->setDefaultSectionSize(nodes_->fontMetrics().height() + 4);
-  nodes_->setAlternatingRowColors(true);
-  nodes_->setShowGrid(false);
-  nodes_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  nodes_->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  nodes_->horizontalHeader()->setHighlightSections(false);
-  summary_->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+      nodes_(MakeTable("nodes", nodeModel_, this)) {
+  summary_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
+  summary_->horizontalHeader()->setStretchLastSection(true);
   auto* splitter = new QSplitter(Qt::Vertical, this);
   splitter->addWidget(summary_);
   splitter->addWidget(nodes_);
@@ -138,8 +136,8 @@ void HostWindow::RefreshView() {
   lockAction_->setEnabled(!doc.display.modelLocked);
   unlockAction_->setEnabled(doc.display.modelLocked);
   selectedOnlyAction_->setChecked(doc.display.showSelectedOnly);
-  summary_->clear();
-  auto add = [this](const QString& key, const QString& value) { summary_->addTopLevelItem(new QTreeWidgetItem({key, value})); };
+  std::vector<std::pair<QString, QString>> summary;
+  auto add = [&summary](const QString& key, const QString& value) { summary.emplace_back(key, value); };
   add("Title", QString::fromStdString(doc.title));
   add("File", QString::fromStdString(model_.path));
   add("Length unit", QString::fromStdString(doc.units.Label(fmUnit::Length)));
@@ -149,6 +147,7 @@ void HostWindow::RefreshView() {
   add("Supports", QString::fromStdString(tools::Format("%zu", doc.supports.size())));
   add("Model locked", doc.display.modelLocked ? "yes" : "no");
   add("Show only selected", doc.display.showSelectedOnly ? "yes" : "no");
+  summaryModel_->SetRows(std::move(summary));
 
   // The nodes in the model's units and display format, as an embedding program shows them.
   nodeModel_->Refresh();

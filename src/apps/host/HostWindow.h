@@ -9,7 +9,7 @@ class QAction;
 class QLabel;
 class NodeTableModel;
 class QTableView;
-class QTreeWidget;
+class SummaryTableModel;
 
 // The demo host: opens a model document, lists the library's dialogs by family in its
 // menus and runs them on the open model as an embedding program would.
@@ -46,7 +46,8 @@ class HostWindow : public QMainWindow {
   QAction* lockAction_ = nullptr;
   QAction* unlockAction_ = nullptr;
   QAction* selectedOnlyAction_ = nullptr;
-  QTreeWidget* summary_;
+  SummaryTableModel* summaryModel_;
+  QTableView* summary_;
   NodeTableModel* nodeModel_;
   QTableView* nodes_;
 };

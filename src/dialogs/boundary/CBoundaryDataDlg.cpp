@@ -51,9 +51,7 @@ const frame::Form<CSuptDataDlg>& CSuptDataDlg::Description() {
       "direction is given, a settlement; 0 holds it where it is.");
   return form;
 }
-CSuptDataDlg::CSuptDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
-void CSuptDataDlg::Refresh() { FillFrom(table_, *m_pSupports); }
-bool CSuptDataDlg::Save() { return ReadInto(table_, *m_pSupports); }
+CSuptDataDlg::CSuptDataDlg(QWidget* p) : CBoundaryTableDlg(Description(), p) {}
 
 const frame::Form<CSpringDataDlg>& CSpringDataDlg::Description() {
   using F = frame::Field<CSpringDataDlg>;
@@ -129,9 +127,7 @@ const frame::Form<CCoupledSpringDataDlg>& CCoupledSpringDataDlg::Description() {
       "are forces per radian.");
   return form;
 }
-CCoupledSpringDataDlg::CCoupledSpringDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
-void CCoupledSpringDataDlg::Refresh() { FillFrom(table_, *m_pCoupledSprings); }
-bool CCoupledSpringDataDlg::Save() { return ReadInto(table_, *m_pCoupledSprings); }
+CCoupledSpringDataDlg::CCoupledSpringDataDlg(QWidget* p) : CBoundaryTableDlg(Description(), p) {}
 
 const frame::Form<CMomentReleasesDataDlg>& CMomentReleasesDataDlg::Description() {
   static const auto form = BoundaryForm<CMomentReleasesDataDlg>(
@@ -140,9 +136,7 @@ const frame::Form<CMomentReleasesDataDlg>& CMomentReleasesDataDlg::Description()
       "Released pin the end.");
   return form;
 }
-CMomentReleasesDataDlg::CMomentReleasesDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
-void CMomentReleasesDataDlg::Refresh() { FillFrom(table_, *m_pReleases); }
-bool CMomentReleasesDataDlg::Save() { return ReadInto(table_, *m_pReleases); }
+CMomentReleasesDataDlg::CMomentReleasesDataDlg(QWidget* p) : CBoundaryTableDlg(Description(), p) {}
 
 const frame::Form<CMultiDofConstraintDataDlg>& CMultiDofConstraintDataDlg::Description() {
   static const auto form = BoundaryForm<CMultiDofConstraintDataDlg>(
@@ -150,9 +144,7 @@ const frame::Form<CMultiDofConstraintDataDlg>& CMultiDofConstraintDataDlg::Descr
       "The two degrees of freedom of each row move together.");
   return form;
 }
-CMultiDofConstraintDataDlg::CMultiDofConstraintDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
-void CMultiDofConstraintDataDlg::Refresh() { FillFrom(table_, *m_pConstraints); }
-bool CMultiDofConstraintDataDlg::Save() { return ReadInto(table_, *m_pConstraints); }
+CMultiDofConstraintDataDlg::CMultiDofConstraintDataDlg(QWidget* p) : CBoundaryTableDlg(Description(), p) {}
 
 const frame::Form<CDiaphragmDataDlg>& CDiaphragmDataDlg::Description() {
   static const auto form = BoundaryForm<CDiaphragmDataDlg>(
@@ -161,9 +153,7 @@ const frame::Form<CDiaphragmDataDlg>& CDiaphragmDataDlg::Description() {
       "the rotation about Y.");
   return form;
 }
-CDiaphragmDataDlg::CDiaphragmDataDlg(QWidget* p) : CBoundaryDataDlg(Description(), p) {}
-void CDiaphragmDataDlg::Refresh() { FillFrom(table_, *m_pDiaphragms); }
-bool CDiaphragmDataDlg::Save() { return ReadInto(table_, *m_pDiaphragms); }
+CDiaphragmDataDlg::CDiaphragmDataDlg(QWidget* p) : CBoundaryTableDlg(Description(), p) {}
 
 const frame::Form<CDriftNodeDataDlg>& CDriftNodeDataDlg::Description() {
   static const auto form = BoundaryForm<CDriftNodeDataDlg>(

@@ -55,19 +55,26 @@ class CBoundaryDataDlg : public CDataGridDlg {
   }
 };
 
-class CSuptDataDlg : public CBoundaryDataDlg {
+// A table of one record kind, kept in the host's list that the dialog's kRecords member
+// points to.
+template <class Dlg, class Record>
+class CBoundaryTableDlg : public CBoundaryDataDlg {
+ protected:
+  using CBoundaryDataDlg::CBoundaryDataDlg;
+  void Refresh() override { FillFrom(table_, *(static_cast<Dlg*>(this)->*Dlg::kRecords)); }
+  bool Save() override { return ReadInto(table_, *(static_cast<Dlg*>(this)->*Dlg::kRecords)); }
+  boundarygrid::TableBase& Table() const override { return table_; }
+
+ private:
+  mutable boundarygrid::Table<Record> table_;
+};
+
+class CSuptDataDlg : public CBoundaryTableDlg<CSuptDataDlg, fmSupport> {
  public:
   explicit CSuptDataDlg(QWidget* pParent = nullptr);
   static const frame::Form<CSuptDataDlg>& Description();
   std::vector<fmSupport>* m_pSupports = nullptr;
-
- protected:
-  void Refresh() override;
-  bool Save() override;
-  boundarygrid::TableBase& Table() const override { return table_; }
-
- private:
-  mutable boundarygrid::SupportTable table_;
+  static constexpr auto kRecords = &CSuptDataDlg::m_pSupports;
 };
 
 // Springs to ground of nodes, members (line springs) or shells (surface springs), one kind
@@ -101,64 +108,36 @@ class CSpringDataDlg : public CBoundaryDataDlg {
   std::vector<fmSurfaceSpring> surfaceCopy_;
 };
 
-class CCoupledSpringDataDlg : public CBoundaryDataDlg {
+class CCoupledSpringDataDlg : public CBoundaryTableDlg<CCoupledSpringDataDlg, fmCoupledSpring> {
  public:
   explicit CCoupledSpringDataDlg(QWidget* pParent = nullptr);
   static const frame::Form<CCoupledSpringDataDlg>& Description();
   std::vector<fmCoupledSpring>* m_pCoupledSprings = nullptr;
-
- protected:
-  void Refresh() override;
-  bool Save() override;
-  boundarygrid::TableBase& Table() const override { return table_; }
-
- private:
-  mutable boundarygrid::CoupledSpringTable table_;
+  static constexpr auto kRecords = &CCoupledSpringDataDlg::m_pCoupledSprings;
 };
 
-class CMomentReleasesDataDlg : public CBoundaryDataDlg {
+class CMomentReleasesDataDlg : public CBoundaryTableDlg<CMomentReleasesDataDlg, fmMemberRelease> {
  public:
   explicit CMomentReleasesDataDlg(QWidget* pParent = nullptr);
   static const frame::Form<CMomentReleasesDataDlg>& Description();
   std::vector<fmMemberRelease>* m_pReleases = nullptr;
-
- protected:
-  void Refresh() override;
-  bool Save() override;
-  boundarygrid::TableBase& Table() const override { return table_; }
-
- private:
-  mutable boundarygrid::ReleaseTable table_;
+  static constexpr auto kRecords = &CMomentReleasesDataDlg::m_pReleases;
 };
 
-class CMultiDofConstraintDataDlg : public CBoundaryDataDlg {
+class CMultiDofConstraintDataDlg : public CBoundaryTableDlg<CMultiDofConstraintDataDlg, fmConstraint> {
  public:
   explicit CMultiDofConstraintDataDlg(QWidget* pParent = nullptr);
   static const frame::Form<CMultiDofConstraintDataDlg>& Description();
   std::vector<fmConstraint>* m_pConstraints = nullptr;
-
- protected:
-  void Refresh() override;
-  bool Save() override;
-  boundarygrid::TableBase& Table() const override { return table_; }
-
- private:
-  mutable boundarygrid::ConstraintTable table_;
+  static constexpr auto kRecords = &CMultiDofConstraintDataDlg::m_pConstraints;
 };
 
-class CDiaphragmDataDlg : public CBoundaryDataDlg {
+class CDiaphragmDataDlg : public CBoundaryTableDlg<CDiaphragmDataDlg, fmDiaphragm> {
  public:
   explicit CDiaphragmDataDlg(QWidget* pParent = nullptr);
   static const frame::Form<CDiaphragmDataDlg>& Description();
   std::vector<fmDiaphragm>* m_pDiaphragms = nullptr;
-
- protected:
-  void Refresh() override;
-  bool Save() override;
-  boundarygrid::TableBase& Table() const override { return table_; }
-
- private:
-  mutable boundarygrid::DiaphragmTable table_;
+  static constexpr auto kRecords = &CDiaphragmDataDlg::m_pDiaphragms;
 };
 
 // The drift stack, from the bottom up, in row order.

@@ -87,14 +87,8 @@ class BoundaryDialogTest : public GridDialogTest {
 };
 
 TEST_F(BoundaryDialogTest, EveryGridOpensWithItsCaptionAndOkWithoutEditsKeepsTheModelExactly) {
-  const auto check = [&](CBoundaryDataDlg& dlg, const char* caption, const char* title, int rows = 1) {
-    SCOPED_TRACE(caption);
-    EXPECT_EQ(dlg.windowTitle().toStdString(), caption);
-    EXPECT_EQ(dlg.PrintTitle(), title);
-    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGridEditAction), "Delete Rows");
-    EXPECT_EQ(sheet().MaxRows(), rows);
-    ASSERT_TRUE(dlg.PressButton(IDOK));
-    EXPECT_EQ(dlg.ModalResult(), IDOK);
+  const auto check = [](CBoundaryDataDlg& dlg, const char* caption, const char* title, int rows = 1) {
+    ExpectOpensAndCloses(dlg, caption, title, rows);
   };
   check(Open<CSuptDataDlg>(), "Supports", "Support Table", 2);
   EXPECT_EQ(Row(2), (Texts{"2", "Fixed", "Fixed", "Fixed", "Free", "Free", "Free", "0", "0", "0", "0", "0", "0"}));

@@ -56,24 +56,16 @@ class CaseLoadDialogTest : public GridDialogTest {
 using Texts = std::vector<std::string>;
 
 TEST_F(CaseLoadDialogTest, EveryLoadTableOpensWithItsCaptionAndOkWithoutEditsKeepsTheModelExactly) {
-  const auto check = [&](CCaseLoadDataDlg& dlg, const char* caption, const char* title) {
-    SCOPED_TRACE(caption);
-    EXPECT_EQ(dlg.windowTitle().toStdString(), caption);
-    EXPECT_EQ(dlg.PrintTitle(), title);
-    EXPECT_EQ(dlg.GetDlgItemText(res::kCtlGridEditAction), "Delete Rows");
-    ASSERT_TRUE(dlg.PressButton(IDOK));
-    EXPECT_EQ(dlg.ModalResult(), IDOK);
-  };
-  check(Open<CNodalLoadDataDlg>(), "Nodal Loads", "Nodal Load Table");
-  check(Open<CPointLoadDataDlg>(), "Member Point Loads", "Point Load Table");
-  check(Open<CLineLoadDataDlg>(), "Member Line Loads", "Line Load Table");
-  check(Open<CShellLoadDataDlg>(), "Shell Surface Loads", "Surface Load Table");
-  check(Open<CAreaLoadDataDlg>(), "Area Loads", "Area Load Table");
-  check(Open<CMemberThermalLoadDataDlg>(), "Member Thermal Loads", "Member Thermal Load Table");
-  check(Open<CShell4ThermalLoadDataDlg>(), "Shell4 Thermal Loads", "Shell4 Thermal Load Table");
-  check(Open<CBrickThermalLoadDataDlg>(), "Brick Thermal Loads", "Brick Thermal Load Table");
-  check(Open<CNodalMassDataDlg>(), "Additional Nodal Masses", "Nodal Mass Table");
-  check(Open<CCombMassDataDlg>(), "Combination Masses", "Combination Mass Table");
+  ExpectOpensAndCloses(Open<CNodalLoadDataDlg>(), "Nodal Loads", "Nodal Load Table");
+  ExpectOpensAndCloses(Open<CPointLoadDataDlg>(), "Member Point Loads", "Point Load Table");
+  ExpectOpensAndCloses(Open<CLineLoadDataDlg>(), "Member Line Loads", "Line Load Table");
+  ExpectOpensAndCloses(Open<CShellLoadDataDlg>(), "Shell Surface Loads", "Surface Load Table");
+  ExpectOpensAndCloses(Open<CAreaLoadDataDlg>(), "Area Loads", "Area Load Table");
+  ExpectOpensAndCloses(Open<CMemberThermalLoadDataDlg>(), "Member Thermal Loads", "Member Thermal Load Table");
+  ExpectOpensAndCloses(Open<CShell4ThermalLoadDataDlg>(), "Shell4 Thermal Loads", "Shell4 Thermal Load Table");
+  ExpectOpensAndCloses(Open<CBrickThermalLoadDataDlg>(), "Brick Thermal Loads", "Brick Thermal Load Table");
+  ExpectOpensAndCloses(Open<CNodalMassDataDlg>(), "Additional Nodal Masses", "Nodal Mass Table");
+  ExpectOpensAndCloses(Open<CCombMassDataDlg>(), "Combination Masses", "Combination Mass Table");
   EXPECT_TRUE(Messages().empty());
   EXPECT_EQ(host, original) << "-2.123456789 survives the \"-2.12346\" shown";
 }
