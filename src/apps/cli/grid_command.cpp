@@ -1,4 +1,6 @@
 #include <memory>
+#include <optional>
+#include <span>
 #include <ostream>
 #include <string>
 
@@ -19,6 +21,10 @@ struct GridTable {
   const char* name;
   const char* title;
   void (*fill)(const model::ModelDocument& doc, grid::Sheet& sheet);
+  // For tables that reach a million rows: their row count and a fill of some of the rows, so
+  // the export never holds a sheet of the whole table.
+  int (*rowCount)(const model::ModelDocument& doc) = nullptr;
+  void (*fillRows)(const model::ModelDocument& doc, grid::Sheet& part, int first, int count) = nullptr;
 };
 
 elementgrid::ElementLists ElementListsOf(const model::ModelDocument& doc) {
@@ -42,6 +48,11 @@ const GridTable kTables[] = {
     {"nodes", nodegrid::kTableTitle,
      [](const model::ModelDocument& doc, grid::Sheet& sheet) {
        nodegrid::Fill(sheet, doc.nodes, doc.units, false, doc.display.alternateRowColor, false);
+     },
+     [](const model::ModelDocument& doc) { return static_cast<int>(doc.nodes.size()); },
+     [](const model::ModelDocument& doc, grid::Sheet& part, int first, int count) {
+       nodegrid::Fill(part, std::span<const fmNd>(doc.nodes).subspan(static_cast<size_t>(first), static_cast<size_t>(count)),
+                      doc.units, false, doc.display.alternateRowColor, false);
      }},
     {"members", elementgrid::kMembers.printTitle,
      [](const model::ModelDocument& doc, grid::Sheet& sheet) { FillElements(doc, doc.members, sheet); }},
@@ -89,23 +100,34 @@ int Export(const ExportArgs& a, std::ostream& out, std::ostream& err) {
     err << "norvane-cli: Invalid file format specified\n";
     return kRefused;
   }
-  grid::Sheet sheet;
-  {
-    // The document goes once the table holds what it shows, before the file is written.
-    model::ModelDocument doc;
-    try {
-      doc = model::LoadModelDocument(modelPath);
-    } catch (const model::DocumentLoadError& e) {
-      err << "norvane-cli: " << e.what() << "\n";
-      return kRefused;
-    }
-    table->fill(doc, sheet);
+  model::ModelDocument doc;
+  try {
+    doc = model::LoadModelDocument(modelPath);
+  } catch (const model::DocumentLoadError& e) {
+    err << "norvane-cli: " << e.what() << "\n";
+    return kRefused;
   }
-  if (const auto failure = grid::ExportSheet(sheet, outPath, append, table->title)) {
+  int rows = 0;
+  std::optional<std::string> failure;
+  // A workbook needs the whole sheet: filled at once, the document let go before it is written.
+  if (table->fillRows && grid::ExportFormatOf(outPath) != grid::ExportFormat::Workbook) {
+    rows = table->rowCount(doc);
+    failure = grid::ExportRows(
+        rows, [&](grid::Sheet& part, int first, int count) { table->fillRows(doc, part, first, count); }, outPath,
+        append, table->title);
+  } else {
+    grid::Sheet sheet;
+    table->fill(doc, sheet);
+    // The document goes once the table holds what it shows, before the file is written.
+    doc = {};
+    rows = sheet.MaxRows();
+    failure = grid::ExportSheet(sheet, outPath, append, table->title);
+  }
+  if (failure) {
     err << "norvane-cli: " << *failure << "\n";
     return kRefused;
   }
-  out << "Wrote " << sheet.MaxRows() << " rows of " << table->name << " to " << outPath << "\n";
+  out << "Wrote " << rows << " rows of " << table->name << " to " << outPath << "\n";
   return kOk;
 }
 

@@ -1,4 +1,5 @@
 #pragma once
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -23,6 +24,15 @@ std::optional<ExportFormat> ExportFormatOf(const std::string& path);
 // table and names the worksheet.
 std::optional<std::string> ExportSheet(const Sheet& sheet, const std::string& path, bool appendPreference,
                                        const std::string& title);
+
+// A table too long to hold as one sheet, written part by part: `fill` fills rows
+// first..first+count-1 of the table (counted from 0) into rows 1..count of a small sheet, and
+// the column headings into its row 0, as the table's own fill would. HTML and text are written
+// as ExportSheet writes the whole table, byte for byte; a workbook needs the whole sheet, so it
+// is filled once with every row.
+using FillRows = std::function<void(Sheet& part, int first, int count)>;
+std::optional<std::string> ExportRows(int rows, const FillRows& fill, const std::string& path,
+                                      bool appendPreference, const std::string& title, int rowsPerPart = 16384);
 
 // The pieces, for the exports above and their tests.
 std::string HtmlDocument(const Sheet& sheet, const std::string& title);

@@ -18,7 +18,7 @@ std::vector<std::string> Headers(const fmUnit& units) {
           units.Heading("Z", fmUnit::Length), "Status"};
 }
 
-int Fill(grid::Sheet& sheet, const std::vector<fmNd>& nodes, const fmUnit& units, bool selectedOnly,
+int Fill(grid::Sheet& sheet, std::span<const fmNd> nodes, const fmUnit& units, bool selectedOnly,
          grid::Color alternateRowColor, bool lockAll) {
   int rows = 0;
   if (selectedOnly) {

@@ -21,7 +21,7 @@ std::vector<std::string> Headers(const fmUnit& units);
 
 // Fills the grid from the nodes (only the selected ones when asked) and returns the number
 // of rows filled. The grid is locked whole when lockAll is set.
-int Fill(grid::Sheet& sheet, const std::vector<fmNd>& nodes, const fmUnit& units, bool selectedOnly,
+int Fill(grid::Sheet& sheet, std::span<const fmNd> nodes, const fmUnit& units, bool selectedOnly,
          grid::Color alternateRowColor, bool lockAll);
 
 struct ReadResult {

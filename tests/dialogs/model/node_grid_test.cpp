@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "dialogs/grid/export.h"
 #include "dialogs/grid/grid_ops.h"
+#include "support/TempDir.h"
+#include "support/files.h"
 
 namespace {
 
@@ -77,4 +80,50 @@ TEST(NodeGrid, RoundOffRoundsToTheDecimalsOfEpsilon) {
     nodegrid::RoundOffCoordinates(sheet, c.epsilon);
     EXPECT_EQ(sheet.GetData(nodegrid::kX, 1), c.out) << c.epsilon << " " << c.in;
   }
+}
+
+// The CLI writes big node tables part by part, never holding a sheet of them all; the file must
+// be the one the whole grid exports, whatever the values and wherever the parts break.
+TEST(NodeGridExport, PartsWriteWhatTheWholeGridExports) {
+  const std::vector<fmNd> nodes = {
+      {1, 0, -0.0, 1e-7, 123456789},
+      {2, fmNd::kSelected, 512345.678, -512345.678, 0.1 + 0.2},
+      {30, fmNd::kFrozen, 1e300, -1e-300, 1.0 / 3.0},
+      {4000000, 0, 999999.5, 0.0001, -0.00001},
+      {5, 0, 100000, 1e6, 12.5},
+  };
+  const auto fillRows = [&](const std::vector<fmNd>& all) {
+    return [&all](grid::Sheet& part, int first, int count) {
+      nodegrid::Fill(part, std::span<const fmNd>(all).subspan(first, count), fmUnit(), false, 0xF0F5FF, false);
+    };
+  };
+  TempDir dir;
+  for (const std::vector<fmNd>& table : {nodes, std::vector<fmNd>{}})
+    for (const char* ext : {".txt", ".htm"})
+      for (bool append : {false, true})
+        for (int rowsPerPart : {1, 2, 3, 1000}) {
+          SCOPED_TRACE(std::string(ext) + " append " + std::to_string(append) + ", " + std::to_string(rowsPerPart) +
+                       " rows a part, " + std::to_string(table.size()) + " nodes");
+          const std::string whole = dir / (std::string("whole") + ext), parts = dir / (std::string("parts") + ext);
+          const std::string before = std::string(ext) == ".txt" ? "kept line" : "<html><body><p>kept</p></body></html>";
+          if (append) {
+            WriteFileText(whole, before);
+            WriteFileText(parts, before);
+          }
+          ASSERT_EQ(grid::ExportSheet(Filled(table), whole, append, "Node Table"), std::nullopt);
+          ASSERT_EQ(grid::ExportRows(static_cast<int>(table.size()), fillRows(table), parts, append, "Node Table",
+                                     rowsPerPart),
+                    std::nullopt);
+          EXPECT_EQ(ReadFileText(parts), ReadFileText(whole));
+        }
+  ASSERT_EQ(grid::ExportRows(5, fillRows(nodes), dir / "nodes.txt", false, "Node Table", 2), std::nullopt);
+  EXPECT_EQ(ReadFileText(dir / "nodes.txt"),
+            "Node Id\tX [ft]\tY [ft]\tZ [ft]\tStatus\r\n"
+            "1\t-0\t1e-07\t1.23457e+08\tNormal\r\n"
+            "2\t512346\t-512346\t0.3\tSelected\r\n"
+            "30\t1e+300\t-1e-300\t0.333333\tFrozen\r\n"
+            "4000000\t1e+06\t0.0001\t-1e-05\tNormal\r\n"
+            "5\t100000\t1e+06\t12.5\tNormal\r\n");
+  EXPECT_EQ(grid::ExportRows(5, fillRows(nodes), dir / "nodes.csv", false, "Node Table", 2),
+            "Invalid file format specified");
 }
