@@ -12,10 +12,12 @@
 #include <fstream>
 #include <algorithm>
 #include <map>
+#include <thread>
 
 #include "tools/atomic_file.h"
 #include "tools/format.h"
 #include "tools/parse.h"
+#include "tools/parallel.h"
 #include "tools/release.h"
 #include "tools/labels.h"
 
@@ -289,23 +291,34 @@ std::optional<std::string> ExportRows(int rows, const FillRows& fill, const std:
   }
   const bool html = *format == ExportFormat::Html;
   rowsPerPart = std::max(rowsPerPart, 1);
-  Sheet part;
-  std::string text;
-  // Each part's text goes to `write`; the headings come with the first part only.
+  const int partCount = rows == 0 ? 1 : static_cast<int>((int64_t(rows) + rowsPerPart - 1) / rowsPerPart);
+  // A few parts at once, one a core, each with its own sheet and text; written in order.
+  const int slots = static_cast<int>(std::min<unsigned>(
+      std::clamp(std::thread::hardware_concurrency(), 1u, tools::kMaxWorkThreads), static_cast<unsigned>(partCount)));
+  std::vector<Sheet> parts(static_cast<size_t>(slots));
+  std::vector<std::string> texts(static_cast<size_t>(slots));
+  const auto makePart = [&](int index, size_t slot) {
+    const int first = index * rowsPerPart;
+    const int count = std::min(rowsPerPart, rows - first);
+    Sheet& part = parts[slot];
+    std::string& text = texts[slot];
+    fill(part, first, count);
+    text.clear();
+    // The headings come with the first part only.
+    if (index == 0 && html) AppendHtmlTableStart(text, part, title);
+    if (html)
+      AppendHtmlRows(text, part);
+    else
+      AppendTextRows(text, part, index == 0 ? 0 : 1);
+  };
   const auto eachPart = [&](const std::function<void(std::string_view)>& write) {
-    int first = 0;
-    do {
-      const int count = std::min(rowsPerPart, rows - first);
-      fill(part, first, count);
-      text.clear();
-      if (first == 0 && html) AppendHtmlTableStart(text, part, title);
-      if (html)
-        AppendHtmlRows(text, part);
-      else
-        AppendTextRows(text, part, first == 0 ? 0 : 1);
-      write(text);
-      first += count;
-    } while (first < rows);
+    for (int batch = 0; batch < partCount; batch += slots) {
+      const int inBatch = std::min(slots, partCount - batch);
+      tools::ParallelRanges(static_cast<size_t>(inBatch), 1, [&](size_t begin, size_t end) {
+        for (size_t slot = begin; slot < end; ++slot) makePart(batch + static_cast<int>(slot), slot);
+      });
+      for (int slot = 0; slot < inBatch; ++slot) write(texts[static_cast<size_t>(slot)]);
+    }
   };
   try {
     if (appendPreference && FileExists(path)) {

@@ -29,7 +29,8 @@ std::optional<std::string> ExportSheet(const Sheet& sheet, const std::string& pa
 // first..first+count-1 of the table (counted from 0) into rows 1..count of a small sheet, and
 // the column headings into its row 0, as the table's own fill would. HTML and text are written
 // as ExportSheet writes the whole table, byte for byte; a workbook needs the whole sheet, so it
-// is filled once with every row.
+// is filled once with every row. Parts are filled on all cores at once, each into its own
+// sheet: `fill` must only read what it shares.
 using FillRows = std::function<void(Sheet& part, int first, int count)>;
 std::optional<std::string> ExportRows(int rows, const FillRows& fill, const std::string& path,
                                       bool appendPreference, const std::string& title, int rowsPerPart = 16384);
