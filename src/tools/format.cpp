@@ -1,5 +1,7 @@
 #include "tools/format.h"
 
+#include <algorithm>
+
 #include <charconv>
 #include <clocale>
 #include <cstdarg>
@@ -44,13 +46,21 @@ std::string Format(const char* fmt, ...) {
   return out;
 }
 
-std::string FormatG(double value) {
+std::string_view FormatG(double value, std::array<char, 32>& buffer) {
   // to_chars with a precision prints exactly as printf's "%g" in the C locale, and quickly:
   // grids of a million rows are filled through here.
-  char buffer[64];
-  const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::general, 6);
-  if (ec != std::errc()) return Format("%g", value);
-  return std::string(buffer, end);
+  const auto [end, ec] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                       std::chars_format::general, 6);
+  if (ec == std::errc()) return std::string_view(buffer.data(), static_cast<size_t>(end - buffer.data()));
+  const std::string text = Format("%g", value);
+  const size_t size = std::min(text.size(), buffer.size());
+  std::copy_n(text.data(), size, buffer.data());
+  return std::string_view(buffer.data(), size);
+}
+
+std::string FormatG(double value) {
+  std::array<char, 32> buffer;
+  return std::string(FormatG(value, buffer));
 }
 
 std::string FormatInt(long long value) {

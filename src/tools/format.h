@@ -1,4 +1,5 @@
 #pragma once
+#include <array>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,9 @@ std::string Format(const char* fmt, ...) __attribute__((format(printf, 1, 2)));
 
 // "%g" of a real, the way grid cells and reports write reals.
 std::string FormatG(double value);
+// The same into the caller's buffer, for fills of millions of cells that need no string of
+// their own; the text stays valid while the buffer does.
+std::string_view FormatG(double value, std::array<char, 32>& buffer);
 
 // "%d" of an integer (ids, counts), without printf's cost: grids of a million ids are
 // numbered through here.

@@ -86,7 +86,8 @@ bool Sheet::IsNumber(int col, int row) const {
 
 void Sheet::SetNumberG(int col, int row, double value) {
   if (!InGrid(col, row)) return;
-  SetNumber(col, row, value, tools::FormatG(value));
+  std::array<char, 32> buffer;
+  SetNumber(col, row, value, tools::FormatG(value, buffer));
 }
 
 std::optional<double> Sheet::GetNumber(int col, int row) const {
