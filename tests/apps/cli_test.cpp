@@ -84,6 +84,9 @@ TEST_F(CliTest, RefusalsSayWhy) {
       {grid + dir / "n.csv" + " --append", 1, "norvane-cli: Invalid file format specified"},
       {"grid export " + dir / "broken.json" + " nodes " + dir / "n.txt", 1, "Cannot open model"},
       {"combos generate " + kModel + " 0 --rows 37", 2, "norvane-cli: bad row \"37\": rows are numbered 1 to 36"},
+      {"combos generate " + kModel + " 0 --rows 1,5-3", 2, "norvane-cli: bad row \"5-3\""},
+      {"loads add " + kModel + " --case 1 --nodes 3,0-2 --direction Y --magnitude 1", 2,
+       "norvane-cli: bad node \"0-2\" in --nodes"},
       {"section tee 5 10 1 6", 1, "Flange width must be greater than or equal to web width\n"},
       {"shapes import " + dir / "bad.csv", 1, "line 2, column 5 (Iy): \"two\" is not a number."},
   };

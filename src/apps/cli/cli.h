@@ -1,9 +1,15 @@
 #pragma once
+#include <cstdint>
 #include <functional>
 #include <iosfwd>
+#include <optional>
 #include <string>
 
 #include <CLI/CLI.hpp>
+
+namespace model {
+struct ModelDocument;
+}
 
 // norvane-cli: one command per engine family, parsed with CLI11. A family adds its command in
 // src/apps/cli/<family>_command.cpp with an Add<Family>Command(Program&) listed in main.cpp.
@@ -47,6 +53,15 @@ class Program {
 // A command's help with its whole name ("Usage: norvane-cli units convert ..."), to follow a
 // message about its arguments.
 std::string Help(const CLI::App& command);
+
+// Numbers and rising ranges separated by commas ("3,5,8-12"). Each item goes to `take`, which
+// refuses one outside its own bounds. Returns the first item that is unreadable or refused, so the
+// command can name it in its own words; nothing when every item was taken.
+std::optional<std::string> ForEachNumberRange(const std::string& text,
+                                              const std::function<bool(uint32_t first, uint32_t last)>& take);
+
+// Saves the model to `path`, or says it was not written when no -o OUT was given.
+int WriteModelIfAsked(const model::ModelDocument& doc, const std::string& path, Io io);
 
 void AddUnitsCommand(Program& program);
 void AddCombosCommand(Program& program);

@@ -26,22 +26,15 @@ bool ParseRows(const std::string& text, size_t rowCount, std::vector<int32_t>& c
     checks.assign(rowCount, 1);
     return true;
   }
-  size_t start = 0;
-  while (start <= text.size()) {
-    const size_t comma = std::min(text.find(',', start), text.size());
-    const std::string item(tools::Trim(std::string_view(text).substr(start, comma - start)));
-    const size_t dash = item.find('-', 1);
-    const auto first = tools::ParseUInt32(item.substr(0, dash));
-    const auto last = dash == std::string::npos ? first : tools::ParseUInt32(item.substr(dash + 1));
-    if (!first || !last || *first < 1 || *last < *first || *last > rowCount) {
-      err << "norvane-cli: bad row \"" << item << "\": rows are numbered 1 to " << rowCount
-          << " (see: norvane-cli combos list CODE)\n";
-      return false;
-    }
-    for (uint32_t r = *first; r <= *last; ++r) checks[r - 1] = 1;
-    start = comma + 1;
-  }
-  return true;
+  const auto bad = ForEachNumberRange(text, [&](uint32_t first, uint32_t last) {
+    if (first < 1 || last > rowCount) return false;
+    for (uint32_t r = first; r <= last; ++r) checks[r - 1] = 1;
+    return true;
+  });
+  if (bad)
+    err << "norvane-cli: bad row \"" << *bad << "\": rows are numbered 1 to " << rowCount
+        << " (see: norvane-cli combos list CODE)\n";
+  return !bad;
 }
 
 int Codes(std::ostream& out) {
@@ -95,13 +88,7 @@ int Generate(const GenerateArgs& a, std::ostream& out, std::ostream& err) {
   }
   out << tools::Format("%zu load combination%s generated from %s.\n", result.added, result.added == 1 ? "" : "s",
                        code->title);
-  if (a.out.empty()) {
-    err << "norvane-cli: model not written (give -o OUT to save it)\n";
-  } else {
-    model::SaveModelDocument(doc, a.out);
-    out << "Written to " << a.out << "\n";
-  }
-  return kOk;
+  return WriteModelIfAsked(doc, a.out, {out, err});
 }
 
 }  // namespace

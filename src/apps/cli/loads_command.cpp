@@ -115,21 +115,13 @@ struct Args {
 
 // Node ids as "3,5,8-12".
 bool ParseNodeIds(const std::string& text, std::vector<uint32_t>& ids, std::ostream& err) {
-  size_t start = 0;
-  while (start <= text.size()) {
-    const size_t comma = std::min(text.find(',', start), text.size());
-    const std::string item(tools::Trim(std::string_view(text).substr(start, comma - start)));
-    const size_t dash = item.find('-', 1);
-    const auto first = tools::ParseUInt32(item.substr(0, dash));
-    const auto last = dash == std::string::npos ? first : tools::ParseUInt32(item.substr(dash + 1));
-    if (!first || !last || *first == 0 || *last < *first || *last - *first > 1000000) {
-      err << "norvane-cli: bad node \"" << item << "\" in --nodes (ids and ranges separated by commas: 3,5,8-12)\n";
-      return false;
-    }
-    for (uint32_t id = *first; id <= *last; ++id) ids.push_back(id);
-    start = comma + 1;
-  }
-  return true;
+  const auto bad = ForEachNumberRange(text, [&](uint32_t first, uint32_t last) {
+    if (first == 0 || last - first > 1000000) return false;
+    for (uint32_t id = first; id <= last; ++id) ids.push_back(id);
+    return true;
+  });
+  if (bad) err << "norvane-cli: bad node \"" << *bad << "\" in --nodes (ids and ranges separated by commas: 3,5,8-12)\n";
+  return !bad;
 }
 
 // Adds self weight and nodal loads to a case.
@@ -171,13 +163,7 @@ int Add(const Args& a, std::ostream& out, std::ostream& err) {
     }
   }
   PrintCase(doc, static_cast<size_t>(index), out);
-  if (a.out.empty()) {
-    err << "norvane-cli: model not written (give -o OUT to save it)\n";
-  } else {
-    model::SaveModelDocument(doc, a.out);
-    out << "Written to " << a.out << "\n";
-  }
-  return kOk;
+  return WriteModelIfAsked(doc, a.out, {out, err});
 }
 
 int List(const Args& a, std::ostream& out, std::ostream& err) {
@@ -205,13 +191,7 @@ int Report(const model::ModelDocument& doc, size_t cases, size_t combs, const Ar
   out << tools::Format("%zu load case%s and %zu load combination%s generated.\n", doc.loadCases.size() - cases,
                        doc.loadCases.size() - cases == 1 ? "" : "s", doc.loadCombs.size() - combs,
                        doc.loadCombs.size() - combs == 1 ? "" : "s");
-  if (a.out.empty()) {
-    err << "norvane-cli: model not written (give -o OUT to save it)\n";
-  } else {
-    model::SaveModelDocument(doc, a.out);
-    out << "Written to " << a.out << "\n";
-  }
-  return kOk;
+  return WriteModelIfAsked(doc, a.out, {out, err});
 }
 
 template <class Generator>

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <exception>
 #include <new>
 #include <ostream>
@@ -5,6 +6,8 @@
 #include <vector>
 
 #include "apps/cli/cli.h"
+#include "model/document.h"
+#include "tools/parse.h"
 #include "tools/release.h"
 
 namespace cli {
@@ -91,6 +94,31 @@ int Program::Run(int argc, const char* const* argv, std::ostream& out, std::ostr
     err << "norvane-cli: " << e.what() << "\n";
     return kRefused;
   }
+}
+
+std::optional<std::string> ForEachNumberRange(const std::string& text,
+                                              const std::function<bool(uint32_t first, uint32_t last)>& take) {
+  size_t start = 0;
+  while (start <= text.size()) {
+    const size_t comma = std::min(text.find(',', start), text.size());
+    std::string item(tools::Trim(std::string_view(text).substr(start, comma - start)));
+    const size_t dash = item.find('-', 1);
+    const auto first = tools::ParseUInt32(item.substr(0, dash));
+    const auto last = dash == std::string::npos ? first : tools::ParseUInt32(item.substr(dash + 1));
+    if (!first || !last || *last < *first || !take(*first, *last)) return item;
+    start = comma + 1;
+  }
+  return std::nullopt;
+}
+
+int WriteModelIfAsked(const model::ModelDocument& doc, const std::string& path, Io io) {
+  if (path.empty()) {
+    io.err << "norvane-cli: model not written (give -o OUT to save it)\n";
+  } else {
+    model::SaveModelDocument(doc, path);
+    io.out << "Written to " << path << "\n";
+  }
+  return kOk;
 }
 
 }  // namespace cli
