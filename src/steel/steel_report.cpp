@@ -14,21 +14,6 @@ std::string Num(double value) {
   return tools::Format("%.4g", value);
 }
 
-std::string HtmlEscape(std::string_view text) {
-  std::string out;
-  out.reserve(text.size());
-  for (char c : text) {
-    switch (c) {
-      case '&': out += "&amp;"; break;
-      case '<': out += "&lt;"; break;
-      case '>': out += "&gt;"; break;
-      case '"': out += "&quot;"; break;
-      default: out.push_back(c);
-    }
-  }
-  return out;
-}
-
 void WriteReportHead(std::ostream& out, std::string_view heading) {
   out << "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
          "<title>steel design report</title>\n<style>\n"
@@ -39,31 +24,31 @@ void WriteReportHead(std::ostream& out, std::string_view heading) {
          "td.clause{color:#555;white-space:nowrap;} td.eq{color:#555;white-space:nowrap;}\n"
          "td.res{font-weight:bold;white-space:nowrap;} p.result{font-weight:bold;}\n"
          "</style>\n</head>\n<body>\n<h1>"
-      << HtmlEscape(heading) << "</h1>\n";
+      << tools::HtmlEscape(heading) << "</h1>\n";
 }
 
 void WriteReportFoot(std::ostream& out) { out << "</body>\n</html>\n"; }
 
 void Report::Heading(std::string_view text) const {
-  if (out_) *out_ << "<h3>" << HtmlEscape(text) << "</h3>\n";
+  if (out_) *out_ << "<h3>" << tools::HtmlEscape(text) << "</h3>\n";
 }
 
 void Report::Text(std::string_view text) const {
-  if (out_) *out_ << "<p>" << HtmlEscape(text) << "</p>\n";
+  if (out_) *out_ << "<p>" << tools::HtmlEscape(text) << "</p>\n";
 }
 
 void Report::Step(std::string_view clause, std::string_view equation, std::string_view formula,
                   std::string_view numbers, std::string_view result) const {
   if (!out_) return;
-  *out_ << "<table class=\"steps\"><tr><td class=\"clause\">" << HtmlEscape(clause) << "</td><td class=\"eq\">";
-  if (!equation.empty()) *out_ << '(' << HtmlEscape(equation) << ')';
-  *out_ << "</td><td>" << HtmlEscape(formula);
-  if (!numbers.empty()) *out_ << " = " << HtmlEscape(numbers);
-  *out_ << "</td><td class=\"res\">= " << HtmlEscape(result) << "</td></tr></table>\n";
+  *out_ << "<table class=\"steps\"><tr><td class=\"clause\">" << tools::HtmlEscape(clause) << "</td><td class=\"eq\">";
+  if (!equation.empty()) *out_ << '(' << tools::HtmlEscape(equation) << ')';
+  *out_ << "</td><td>" << tools::HtmlEscape(formula);
+  if (!numbers.empty()) *out_ << " = " << tools::HtmlEscape(numbers);
+  *out_ << "</td><td class=\"res\">= " << tools::HtmlEscape(result) << "</td></tr></table>\n";
 }
 
 void Report::Result(std::string_view text) const {
-  if (out_) *out_ << "<p class=\"result\">" << HtmlEscape(text) << "</p>\n";
+  if (out_) *out_ << "<p class=\"result\">" << tools::HtmlEscape(text) << "</p>\n";
 }
 
 }  // namespace steel
@@ -96,7 +81,7 @@ std::string Narrow(const wchar_t* text) {
 ProblemPrintArea::ProblemPrintArea(std::ostream* out, const wchar_t* title) : ProblemPrintArea(out, Narrow(title)) {}
 
 ProblemPrintArea::ProblemPrintArea(std::ostream* out, std::string_view title) : out_(out) {
-  if (out_) *out_ << "<div class=\"area\">\n<h2>" << steel::HtmlEscape(title) << "</h2>\n";
+  if (out_) *out_ << "<div class=\"area\">\n<h2>" << tools::HtmlEscape(title) << "</h2>\n";
 }
 
 ProblemPrintArea::~ProblemPrintArea() {

@@ -10,7 +10,6 @@ namespace steel {
 // Numbers in the report: four significant digits (whole numbers from 10,000), "C" conventions;
 // infinity as "∞".
 std::string Num(double value);
-std::string HtmlEscape(std::string_view text);
 
 // The document's head and foot; the title is "steel design report".
 void WriteReportHead(std::ostream& out, std::string_view heading);

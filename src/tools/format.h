@@ -34,4 +34,8 @@ std::string_view FormatG(double value, std::array<char, 32>& buffer);
 // numbered through here.
 std::string FormatInt(long long value);
 
+// Text for HTML or XML: & < > " and ' as entities, everything else as it is.
+void AppendHtmlEscaped(std::string& out, std::string_view text);
+std::string HtmlEscape(std::string_view text);
+
 }  // namespace tools

@@ -63,7 +63,7 @@ std::optional<SteelLoadSet> ParseLoadSet(const std::vector<std::string>& cells, 
 }
 
 void WriteSteelReportHead(std::ostream& out, const SteelMember& m, int loadSets) {
-  using steel::HtmlEscape;
+  using tools::HtmlEscape;
   using steel::Num;
   steel::WriteReportHead(out, "Steel Beam-Column Check: ANSI/AISC 360-10 LRFD");
   out << "<div class=\"area\">\n<h2>Member</h2>\n<table class=\"steps\">\n";

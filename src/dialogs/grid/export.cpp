@@ -40,20 +40,12 @@ bool FileExists(const std::string& path) {
 }
 
 void AppendEscaped(std::string& out, const std::string& text) {
+  // Most cells need no entity: copy them whole.
   if (std::none_of(text.begin(), text.end(), [](char c) { return c == '&' || c == '<' || c == '>' || c == '"' || c == '\''; })) {
     out += text;
     return;
   }
-  for (char c : text) {
-    switch (c) {
-      case '&': out += "&amp;"; break;
-      case '<': out += "&lt;"; break;
-      case '>': out += "&gt;"; break;
-      case '"': out += "&quot;"; break;
-      case '\'': out += "&#39;"; break;
-      default: out += c;
-    }
-  }
+  tools::AppendHtmlEscaped(out, text);
 }
 
 // ---- HTML ----
