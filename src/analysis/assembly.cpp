@@ -537,6 +537,55 @@ Eigen::VectorXd CaseLoadVector(const Model& model, size_t caseIndex) {
   return f;
 }
 
+const char* MassModelName(MassModel masses) { return masses == MassModel::Consistent ? "consistent" : "lumped"; }
+
+SparseMatrix MassMatrix(const Model& model, MassModel masses) {
+  const auto n = static_cast<Eigen::Index>(6 * model.nodes.size());
+  if (masses == MassModel::Lumped) {
+    const Eigen::VectorXd diagonal = LumpedMasses(model);
+    SparseMatrix m(n, n);
+    m.reserve(Eigen::VectorXi::Ones(n));
+    for (Eigen::Index i = 0; i < n; ++i) m.insert(i, i) = diagonal[i];
+    m.makeCompressed();
+    return m;
+  }
+  SparseMatrix m = PatternOf(NodeNeighbours(model, {}));
+  for (const Member& mb : model.members) {
+    if (mb.rigid) continue;
+    const Material& mat = model.materials.at(mb.material);
+    const Section& sec = model.sections.at(mb.section);
+    const double rho = mat.weightDensity / model.g;
+    if (rho == 0) continue;
+    const Matrix12 local = LocalMemberMass(MemberRigidities(model, mb), MemberLength(model, mb), mb.releases, rho * sec.A,
+                                           rho * (sec.Iy + sec.Iz), mb.id);
+    const Matrix12 t = MemberRotation(MemberAxes(model, mb));
+    AddSymmetric(m, MemberDofs(mb).data(), 12, Matrix12(t.transpose() * local * t));
+  }
+  // Shells and bricks: the same product of shape functions along each global translation.
+  auto addTranslations = [&m](const auto& nodes, const auto& products) {
+    for (size_t a = 0; a < nodes.size(); ++a)
+      for (size_t b = 0; b < nodes.size(); ++b)
+        for (int d = 0; d < 3; ++d) {
+          const auto row = static_cast<Eigen::Index>(GlobalDof(nodes[a], d)), col = static_cast<Eigen::Index>(GlobalDof(nodes[b], d));
+          if (row <= col) m.coeffRef(row, col) += products(static_cast<Eigen::Index>(a), static_cast<Eigen::Index>(b));
+        }
+  };
+  for (const Shell& s : model.shells) {
+    const double perArea = model.materials.at(s.material).weightDensity * s.thickness / model.g;
+    if (perArea != 0) addTranslations(s.nodes, Eigen::Matrix4d(perArea * ShellAreaProducts(model, s)));
+  }
+  for (const Brick& b : model.bricks) {
+    const double rho = model.materials.at(b.material).weightDensity / model.g;
+    if (rho != 0) addTranslations(b.nodes, Eigen::Matrix<double, 8, 8>(rho * BrickVolumeProducts(model, b)));
+  }
+  for (const NodalMass& nm : model.masses) {
+    CheckNode(model, nm.node, "A mass");
+    const auto dof = static_cast<Eigen::Index>(GlobalDof(nm.node, nm.dof));
+    m.coeffRef(dof, dof) += nm.mass;
+  }
+  return m;
+}
+
 Eigen::VectorXd LumpedMasses(const Model& model) {
   Eigen::VectorXd m = Eigen::VectorXd::Zero(static_cast<Eigen::Index>(6 * model.nodes.size()));
   auto addTranslational = [&](size_t node, double mass) {

@@ -74,6 +74,10 @@ SparseMatrix FreeBlock(const SparseMatrix& upper, const DofNumbering& numbering)
 
 // Masses lumped at the nodes: self weight over g and the additional masses (per global DOF).
 Eigen::VectorXd LumpedMasses(const Model& model);
+// The mass matrix over all degrees of freedom (upper triangle): the elements' self weight over
+// g, lumped (a diagonal) or consistent, and the additional masses on the diagonal either way.
+// Rigid links carry no mass.
+SparseMatrix MassMatrix(const Model& model, MassModel masses);
 
 // "Node 12, Rz" for messages.
 std::string DofLabel(const Model& model, size_t globalDof);

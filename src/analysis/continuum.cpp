@@ -126,6 +126,18 @@ std::array<double, 4> ShellNodalAreas(const Model& model, const Shell& shell) {
   return out;
 }
 
+Eigen::Matrix4d ShellAreaProducts(const Model& model, const Shell& shell) {
+  const ShellGeometry g = Geometry(model, shell);
+  Eigen::Matrix4d out = Eigen::Matrix4d::Zero();
+  for (double xi : {-kGauss, kGauss})
+    for (double eta : {-kGauss, kGauss}) {
+      const Quad q(xi, eta);
+      const Eigen::Vector4d n(q.n[0], q.n[1], q.n[2], q.n[3]);
+      out += std::abs(Jacobian(g, q).determinant()) * n * n.transpose();
+    }
+  return out;
+}
+
 Matrix24 ShellStiffness(const Model& model, const Shell& s) {
   Check(model, s.material, "Shell", s.id);
   if (!(s.thickness > 0)) throw AnalysisError("Shell " + std::to_string(s.id) + " has no thickness.");
@@ -338,6 +350,19 @@ std::array<double, 8> BrickNodalVolumes(const Model& model, const Brick& b) {
         const Hex h(xi, eta, zeta);
         const double dv = Volume(b, (h.dn * x).determinant());
         for (int a = 0; a < 8; ++a) out[static_cast<size_t>(a)] += h.n[a] * dv;
+      }
+  return out;
+}
+
+Eigen::Matrix<double, 8, 8> BrickVolumeProducts(const Model& model, const Brick& b) {
+  const auto x = HexCoordinates(model, b);
+  Eigen::Matrix<double, 8, 8> out = Eigen::Matrix<double, 8, 8>::Zero();
+  for (double xi : {-kGauss, kGauss})
+    for (double eta : {-kGauss, kGauss})
+      for (double zeta : {-kGauss, kGauss}) {
+        const Hex h(xi, eta, zeta);
+        const Eigen::Map<const Eigen::Matrix<double, 8, 1>> n(h.n);
+        out += Volume(b, (h.dn * x).determinant()) * n * n.transpose();
       }
   return out;
 }

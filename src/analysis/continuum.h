@@ -16,6 +16,8 @@ Eigen::Matrix3d ShellAxes(const Model& model, const Shell& shell);
 Matrix24 ShellStiffness(const Model& model, const Shell& shell);
 // The area each node carries (∫ N_a dA).
 std::array<double, 4> ShellNodalAreas(const Model& model, const Shell& shell);
+// ∫ N_a N_b dA over the shell (2 × 2 Gauss): its consistent mass per unit mass per area.
+Eigen::Matrix4d ShellAreaProducts(const Model& model, const Shell& shell);
 // A uniform pressure given as a global vector (force per area).
 Vector24 ShellPressureLoads(const Model& model, const Shell& shell, const Eigen::Vector3d& pressure);
 // A free in-plane strain held by the nodes.
@@ -24,6 +26,8 @@ Vector24 ShellThermalLoads(const Model& model, const Shell& shell, double strain
 // Over the brick's 8 nodes × 3 translations.
 Matrix24 BrickStiffness(const Model& model, const Brick& brick);
 std::array<double, 8> BrickNodalVolumes(const Model& model, const Brick& brick);
+// ∫ N_a N_b dV over the brick (2 × 2 × 2 Gauss): its consistent mass per unit density.
+Eigen::Matrix<double, 8, 8> BrickVolumeProducts(const Model& model, const Brick& brick);
 Vector24 BrickThermalLoads(const Model& model, const Brick& brick, double strain);
 
 // A shell's forces per length at its centre and nodes (shell axes) from its nodes' global

@@ -460,7 +460,9 @@ AnalysisSummary AnalyseDocument(model::ModelDocument& doc, const AnalysisRequest
   ModalResults modal;
   SpectrumResults sr;
   if (request.modes > 0) {
-    modal = SolveModes(m, request.modes, progress);
+    modal = SolveModes(m, request.modes, request.masses, progress);
+    summary.lines.push_back(tools::Format("Modal: %d modes, %s masses", static_cast<int>(modal.modes.size()),
+                                          MassModelName(request.masses)));
     for (size_t i = 0; i < modal.modes.size(); ++i)
       summary.lines.push_back(tools::Format("Mode %d: period %.4g s, error %.2e", static_cast<int>(i + 1),
                                             PeriodOf(modal.modes[i].omega2), modal.modes[i].error));

@@ -31,6 +31,7 @@ DocumentModel ModelFromDocument(const model::ModelDocument& doc);
 
 struct AnalysisRequest {
   int modes = 0;  // 0: no modal analysis
+  MassModel masses = MassModel::Lumped;
   // Stations per member of the member results, evenly spaced from end to end (at least 2).
   int memberStations = 11;
   // The spectra the document's response spectrum settings name (from the user's spectrum

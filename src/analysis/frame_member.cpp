@@ -209,6 +209,56 @@ Eigen::Matrix<double, 6, 1> SectionForcesAt(const LocalMemberLoads& loads, doubl
   return SectionForces(loads, s) + UnitTipSectionForces(length, s) * endForces.segment<6>(6);
 }
 
+Matrix12 LocalMemberMass(const Rigidities& r, double length, const std::array<std::array<bool, 6>, 2>& releases,
+                         double massPerLength, double polarPerLength, uint32_t memberId) {
+  const double L = length;
+  Matrix12 m = Matrix12::Zero();
+  const auto pair = [&m](int i, int j, double self, double other) {
+    m(i, i) += self;
+    m(j, j) += self;
+    m(i, j) += other;
+    m(j, i) += other;
+  };
+  pair(0, 6, massPerLength * L / 3, massPerLength * L / 6);
+  pair(3, 9, polarPerLength * L / 3, polarPerLength * L / 6);
+  // Hermitian cubics over (v1, θz1, v2, θz2); in the x-z plane θy = -w', which turns the
+  // sign of every term that pairs a rotation with a translation.
+  const Eigen::Matrix4d bending = (massPerLength * L / 420) * (Eigen::Matrix4d() << 156, 22 * L, 54, -13 * L,  //
+                                                               22 * L, 4 * L * L, 13 * L, -3 * L * L,           //
+                                                               54, 13 * L, 156, -22 * L,                        //
+                                                               -13 * L, -3 * L * L, -22 * L, 4 * L * L)
+                                                                  .finished();
+  const int xy[4] = {1, 5, 7, 11}, xz[4] = {2, 4, 8, 10};
+  for (int i = 0; i < 4; ++i)
+    for (int j = 0; j < 4; ++j) {
+      m(xy[i], xy[j]) += bending(i, j);
+      m(xz[i], xz[j]) += ((i % 2) == (j % 2) ? 1 : -1) * bending(i, j);
+    }
+
+  std::vector<int> rel;
+  for (int e = 0; e < 2; ++e)
+    for (int d = 0; d < 6; ++d)
+      if (releases[static_cast<size_t>(e)][static_cast<size_t>(d)]) rel.push_back(6 * e + d);
+  if (rel.empty()) return m;
+  // u = T u_kept: a released degree of freedom takes the value that leaves its end force zero.
+  const Matrix12 k = LocalMemberMatrices(r, length, {}, {}, memberId).k;
+  const int nr = static_cast<int>(rel.size());
+  Eigen::MatrixXd krr(nr, nr), krc(nr, 12);
+  for (int i = 0; i < nr; ++i) {
+    for (int j = 0; j < nr; ++j) krr(i, j) = k(rel[static_cast<size_t>(i)], rel[static_cast<size_t>(j)]);
+    krc.row(i) = k.row(rel[static_cast<size_t>(i)]);
+  }
+  for (int i : rel) krc.col(i).setZero();
+  Eigen::LDLT<Eigen::MatrixXd> ldlt(krr);
+  if (ldlt.info() != Eigen::Success)
+    throw AnalysisError("Member " + std::to_string(memberId) + ": its end releases leave it free to move.");
+  const Eigen::MatrixXd follow = -ldlt.solve(krc);
+  Matrix12 t = Matrix12::Identity();
+  for (int i = 0; i < nr; ++i) t.row(rel[static_cast<size_t>(i)]) = follow.row(i);
+  for (int i : rel) t.col(i).setZero();
+  return t.transpose() * m * t;
+}
+
 Matrix12 MemberRotation(const Matrix3& axes) {
   Matrix12 t = Matrix12::Zero();
   for (int b = 0; b < 4; ++b) t.block<3, 3>(3 * b, 3 * b) = axes;

@@ -62,6 +62,15 @@ LocalMember LocalMemberMatrices(const Rigidities& r, double length, const std::a
 Eigen::Matrix<double, 6, 1> SectionForcesAt(const LocalMemberLoads& loads, double length, const Vector12& endForces,
                                             double s);
 
+// The consistent mass of a member in local axes: linear axial and twist (the twist's inertia
+// from the polar moment Iy + Iz), cubic bending in both planes without rotary inertia.
+// massPerLength is ρA, polarPerLength ρ(Iy + Iz). Released end forces are condensed out as the
+// stiffness condenses them (the released end's motion follows the rest as the member bends
+// freely there), so a released member gets the mass of its own deflected shapes, with zero
+// rows where the stiffness has them.
+Matrix12 LocalMemberMass(const Rigidities& r, double length, const std::array<std::array<bool, 6>, 2>& releases,
+                         double massPerLength, double polarPerLength, uint32_t memberId);
+
 // Global 12×12 rotation of a member's end displacements: u_local = T u_global.
 Matrix12 MemberRotation(const Matrix3& axes);
 

@@ -20,6 +20,11 @@ const char* DofName(int dof);  // "Dx" ... "Rz"
 // Reports a stage of the work and how far the whole has come (0 to 1).
 using Progress = std::function<void(const std::string& stage, double fraction)>;
 
+// How the modal analysis spreads the elements' mass: half of a member's (or each node's share
+// of a shell's or brick's) on the node's translations, or over the element's own shapes.
+enum class MassModel { Lumped, Consistent };
+const char* MassModelName(MassModel masses);  // "lumped", "consistent"
+
 struct Node {
   uint32_t id = 0;
   double x = 0, y = 0, z = 0;

@@ -2,6 +2,8 @@
 #include <array>
 #include <Eigen/Dense>
 #include <cmath>
+#include <string>
+#include <vector>
 
 #include "analysis/model.h"
 
@@ -48,6 +50,43 @@ inline std::vector<size_t> Line(Model& m, double length, int n) {
   for (int i = 0; i <= n; ++i) nodes.push_back(AddNode(m, length * i / n, 0, 0));
   for (int i = 0; i < n; ++i) AddMember(m, nodes[static_cast<size_t>(i)], nodes[static_cast<size_t>(i) + 1]);
   return nodes;
+}
+
+// A square plate of side a in the horizontal X-Z plane, n × n shells, its membrane held and
+// its edges hard simply supported (the deflection and the rotation along the edge held) or
+// clamped.
+struct Plate {
+  Model model;
+  std::vector<std::vector<size_t>> grid;  // [i along X][j along Z]
+  size_t Centre() const { return grid[grid.size() / 2][grid.size() / 2]; }
+};
+
+inline Plate SquarePlate(int n, double a, double t, const Material& material, bool clamped) {
+  Plate p;
+  Model& m = p.model;
+  m.materials.push_back(material);
+  p.grid.assign(static_cast<size_t>(n) + 1, std::vector<size_t>(static_cast<size_t>(n) + 1));
+  for (int i = 0; i <= n; ++i)
+    for (int j = 0; j <= n; ++j) p.grid[static_cast<size_t>(i)][static_cast<size_t>(j)] = AddNode(m, a * i / n, 0, a * j / n);
+  for (int i = 0; i < n; ++i)
+    for (int j = 0; j < n; ++j) {
+      Shell s;
+      s.id = static_cast<uint32_t>(m.shells.size() + 1);
+      const auto I = static_cast<size_t>(i), J = static_cast<size_t>(j);
+      s.nodes = {p.grid[I][J], p.grid[I][J + 1], p.grid[I + 1][J + 1], p.grid[I + 1][J]};
+      s.thickness = t;
+      m.shells.push_back(s);
+    }
+  for (int i = 0; i <= n; ++i)
+    for (int j = 0; j <= n; ++j) {
+      const bool edgeX = i == 0 || i == n, edgeZ = j == 0 || j == n;
+      std::array<bool, 6> held = {true, edgeX || edgeZ, true, false, true, false};
+      if (edgeX) held[Rx] = true;
+      if (edgeZ) held[Rz] = true;
+      if (clamped && (edgeX || edgeZ)) held[Rx] = held[Rz] = true;
+      Hold(m, p.grid[static_cast<size_t>(i)][static_cast<size_t>(j)], held);
+    }
+  return p;
 }
 
 inline double U(const Eigen::VectorXd& v, size_t node, int dof) { return v[static_cast<Eigen::Index>(6 * node + static_cast<size_t>(dof))]; }

@@ -7,44 +7,12 @@ using namespace analysis_test;
 
 namespace {
 
-// A square plate of side a in the horizontal X-Z plane, n × n shells, pressure q downwards;
-// the plate's flexural rigidity D is 1.
-struct Plate {
-  Model model;
-  std::vector<std::vector<size_t>> grid;  // [i along X][j along Z]
-  size_t Centre() const { return grid[grid.size() / 2][grid.size() / 2]; }
-};
-
+// A square plate under pressure q downwards; its flexural rigidity D is 1.
 Plate SquarePlate(int n, double a, double t, double q, bool clamped) {
   const double nu = 0.3, E = 12 * (1 - nu * nu) / (t * t * t);
-  Plate p;
-  Model& m = p.model;
-  m.materials.push_back({E, nu, 0, 0});
-  p.grid.assign(static_cast<size_t>(n) + 1, std::vector<size_t>(static_cast<size_t>(n) + 1));
-  for (int i = 0; i <= n; ++i)
-    for (int j = 0; j <= n; ++j) p.grid[static_cast<size_t>(i)][static_cast<size_t>(j)] = AddNode(m, a * i / n, 0, a * j / n);
-  LoadCase& c = AddCase(m, "q");
-  for (int i = 0; i < n; ++i)
-    for (int j = 0; j < n; ++j) {
-      Shell s;
-      s.id = static_cast<uint32_t>(m.shells.size() + 1);
-      const auto I = static_cast<size_t>(i), J = static_cast<size_t>(j);
-      s.nodes = {p.grid[I][J], p.grid[I][J + 1], p.grid[I + 1][J + 1], p.grid[I + 1][J]};
-      s.thickness = t;
-      m.shells.push_back(s);
-      c.surface.push_back({m.shells.size() - 1, Uy, false, -q});
-    }
-  for (int i = 0; i <= n; ++i)
-    for (int j = 0; j <= n; ++j) {
-      const bool edgeX = i == 0 || i == n, edgeZ = j == 0 || j == n;
-      // The membrane is not loaded: hold it. Hard simple support: the rotation along the
-      // edge (about the axis across it) is held with the deflection.
-      std::array<bool, 6> held = {true, edgeX || edgeZ, true, false, true, false};
-      if (edgeX) held[Rx] = true;
-      if (edgeZ) held[Rz] = true;
-      if (clamped && (edgeX || edgeZ)) held[Rx] = held[Rz] = true;
-      Hold(m, p.grid[static_cast<size_t>(i)][static_cast<size_t>(j)], held);
-    }
+  Plate p = analysis_test::SquarePlate(n, a, t, Material{E, nu, 0, 0}, clamped);
+  LoadCase& c = AddCase(p.model, "q");
+  for (size_t s = 0; s < p.model.shells.size(); ++s) c.surface.push_back({s, Uy, false, -q});
   return p;
 }
 

@@ -55,32 +55,13 @@ TEST(MemberStations, MatchBeamTheory) {
 TEST(ShellResults, SquarePlateMomentsAndFaceStresses) {
   const int n = 16;
   const double a = 10, t = 0.1, q = 1, nu = 0.3, E = 12 * (1 - nu * nu) / (t * t * t);
-  Model m;
-  m.materials.push_back({E, nu, 0, 0});
-  std::vector<std::vector<size_t>> grid(n + 1, std::vector<size_t>(n + 1));
-  for (int i = 0; i <= n; ++i)
-    for (int j = 0; j <= n; ++j) grid[static_cast<size_t>(i)][static_cast<size_t>(j)] = AddNode(m, a * i / n, 0, a * j / n);
+  Plate p = SquarePlate(n, a, t, Material{E, nu, 0, 0}, false);
+  Model& m = p.model;
   LoadCase& c = AddCase(m, "q");
-  size_t centreShell = 0;
-  for (int i = 0; i < n; ++i)
-    for (int j = 0; j < n; ++j) {
-      Shell s;
-      s.id = static_cast<uint32_t>(m.shells.size() + 1);
-      const auto I = static_cast<size_t>(i), J = static_cast<size_t>(j);
-      s.nodes = {grid[I][J], grid[I][J + 1], grid[I + 1][J + 1], grid[I + 1][J]};
-      s.thickness = t;
-      if (i == n / 2 - 1 && j == n / 2 - 1) centreShell = m.shells.size();
-      m.shells.push_back(s);
-      c.surface.push_back({m.shells.size() - 1, Uy, false, -q});
-    }
-  for (int i = 0; i <= n; ++i)
-    for (int j = 0; j <= n; ++j) {
-      const bool edgeX = i == 0 || i == n, edgeZ = j == 0 || j == n;
-      std::array<bool, 6> held = {true, edgeX || edgeZ, true, false, true, false};
-      if (edgeX) held[Rx] = true;
-      if (edgeZ) held[Rz] = true;
-      Hold(m, grid[static_cast<size_t>(i)][static_cast<size_t>(j)], held);
-    }
+  for (size_t s = 0; s < m.shells.size(); ++s) c.surface.push_back({s, Uy, false, -q});
+  // The shell whose third node is the plate's centre.
+  const size_t centreShell = static_cast<size_t>((n / 2 - 1) * n + (n / 2 - 1));
+  ASSERT_EQ(m.shells[centreShell].nodes[2], p.Centre());
   const StaticResult r = SolveLinearStatic(m).results[0];
   const ShellPointForces f = ShellForces(m, r.displacement, r.terms, centreShell);
   // Point 3 is the shell's third node, the plate's centre.
