@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstring>
 #include <fstream>
+#include <memory>
 #include <sstream>
 
 namespace tools {
@@ -155,15 +156,31 @@ void FileReplacement::Write(std::string_view part) {
   WriteAll(fd_, part, path_, false);
 }
 
-void FileReplacement::Commit() {
-  if (done_ || fd_ < 0) Fail("write", path_, EBADF);
+void FileReplacement::Flush() {
+  if (done_ || flushed_) Fail("write", path_, EBADF);
   const int fd = fd_;
   fd_ = -1;
+  flushed_ = true;
   int err = ::fsync(fd) != 0 ? errno : 0;
   if (::close(fd) != 0 && err == 0) err = errno;
   if (err != 0) Fail("write", path_, err);
+}
+
+void FileReplacement::Commit() {
+  if (done_) Fail("write", path_, EBADF);
+  if (!flushed_) Flush();
   done_ = true;
   RenameInto(temp_, target_, path_);
+}
+
+void WriteFilesTogether(const std::vector<std::pair<std::string, std::string_view>>& files) {
+  std::vector<std::unique_ptr<FileReplacement>> replacements;
+  for (const auto& [path, contents] : files) {
+    replacements.push_back(std::make_unique<FileReplacement>(path));
+    replacements.back()->Write(contents);
+  }
+  for (auto& r : replacements) r->Flush();
+  for (auto& r : replacements) r->Commit();
 }
 
 void AppendToFile(const std::string& path, std::string_view contents) {

@@ -3,6 +3,8 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace tools {
 
@@ -31,13 +33,20 @@ class FileReplacement {
   FileReplacement(const FileReplacement&) = delete;
   FileReplacement& operator=(const FileReplacement&) = delete;
   void Write(std::string_view part);
+  // Puts what was written on the disk and closes the file, without replacing the old one yet;
+  // Commit() does this too when it was not done.
+  void Flush();
   void Commit();
 
  private:
   std::string path_, target_, temp_;
   int fd_ = -1;
-  bool done_ = false;
+  bool done_ = false, flushed_ = false;
 };
+// Replaces several files as a set: each is written and flushed beside its target before any
+// is renamed into place, so a failure while writing (a full disk, a missing folder) keeps
+// every old file.
+void WriteFilesTogether(const std::vector<std::pair<std::string, std::string_view>>& files);
 // Appends, creating the file when missing; never truncates what is there.
 void AppendToFile(const std::string& path, std::string_view contents);
 // For writers that open the file themselves (by name): `write` fills an empty file

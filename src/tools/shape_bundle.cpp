@@ -99,9 +99,10 @@ BundledTables BuildBundledTables(const std::string& dataDir) {
 void WriteBundledTables(const std::string& dataDir) {
   const BundledTables t = BuildBundledTables(dataDir);
   try {
-    WriteFileAtomically(dataDir + "/" + kAiscTableFile, t.aiscTable);
-    WriteFileAtomically(dataDir + "/" + kAiscIndexFile, t.aiscIndex);
-    WriteFileAtomically(dataDir + "/" + kNdsTableFile, t.nds);
+    // The index points into the table: they change together or not at all.
+    WriteFilesTogether({{dataDir + "/" + kAiscTableFile, t.aiscTable},
+                        {dataDir + "/" + kAiscIndexFile, t.aiscIndex},
+                        {dataDir + "/" + kNdsTableFile, t.nds}});
   } catch (const FileError& e) {
     throw fmException(e.what());
   }

@@ -67,6 +67,27 @@ TEST_F(AtomicFileTest, FailureInTheMiddleOfWritingKeepsTheOldFile) {
   }
 }
 
+TEST_F(AtomicFileTest, FilesWrittenTogetherAreAllReplacedOrAllKept) {
+  const std::string index = Path("shapes.idx"), table = Path("shapes.tbl");
+  tools::WriteFilesTogether({{index, "old index"}, {table, "old table"}});
+  // The small index would fit under the limit; the table does not, so neither changes.
+  EXPECT_EQ(FailingPastFileSize([&] {
+              tools::WriteFilesTogether({{index, "new index"}, {table, std::string(100000, 't')}});
+            }),
+            "Cannot write \"" + table + "\": File too large");
+  EXPECT_EQ(ReadFileText(index), "old index");
+  EXPECT_EQ(ReadFileText(table), "old table");
+  // A target whose folder is missing is found before anything is replaced, too.
+  const std::string lost = Path("lost.tbl");
+  std::filesystem::create_symlink(Path("gone") + "/lost.tbl", lost);
+  EXPECT_THROW(tools::WriteFilesTogether({{index, "new index"}, {lost, "x"}}), tools::FileError);
+  EXPECT_EQ(ReadFileText(index), "old index");
+  std::filesystem::remove(lost);
+  EXPECT_EQ(FolderEntries(dir.path()), (std::vector<std::string>{"shapes.idx", "shapes.tbl"})) << "no temporary is left";
+  tools::WriteFilesTogether({{index, "new index"}, {table, "new table"}});
+  EXPECT_EQ(ReadFileText(index) + ReadFileText(table), "new indexnew table");
+}
+
 TEST_F(AtomicFileTest, ReplacingKeepsTheModeAndWritesThroughSymbolicLinks) {
   namespace fs = std::filesystem;
   const std::string model = Path("model.json");
