@@ -70,6 +70,7 @@ TEST_F(HostAnalysisTest, RunWritesTheResultsAndDrivesTheProgressWindow) {
   EXPECT_GT(sumY, 0);
   EXPECT_FALSE(doc.results.eigenModes.empty());  // the example's materials have mass
   EXPECT_TRUE(window.model().modified);
+  EXPECT_TRUE(window.model().status.ends_with("; Modal: 12 modes, lumped masses")) << window.model().status;
   EXPECT_EQ(prompter.Texts(), (std::vector<std::string>{kOpenResultsQuestion}));
   // In this order, with the engine's stages between.
   std::vector<std::string> expected = {"Sparse Matrix Factorization (0%)", "shown", "Sparse Matrix Factorization (100%)",
@@ -80,6 +81,30 @@ TEST_F(HostAnalysisTest, RunWritesTheResultsAndDrivesTheProgressWindow) {
     ASSERT_NE(at, watcher.events.end()) << e << " missing or out of order";
   }
   EXPECT_EQ(watcher.events.back(), "hidden");
+}
+
+// "Analysis > Masses for Modes": lumped until the user picks consistent masses, which the
+// next run uses (the status says so, and the first period is shorter, as consistent masses
+// give) and which the next window starts with.
+TEST_F(HostAnalysisTest, TheMassesOfTheModesAreChosenInTheAnalysisMenu) {
+  auto* lumped = window.findChild<QAction*>("analysisMasses_lumped");
+  auto* consistent = window.findChild<QAction*>("analysisMasses_consistent");
+  ASSERT_TRUE(lumped && consistent);
+  EXPECT_TRUE(lumped->isChecked());
+  EXPECT_FALSE(consistent->isChecked());
+  prompter.QueueAnswer(false);
+  Run();
+  const double lumpedOmega2 = window.model().doc.results.eigenModes.at(0).omega2;
+
+  consistent->trigger();
+  EXPECT_FALSE(lumped->isChecked());
+  prompter.QueueAnswer(false);
+  Run();
+  EXPECT_TRUE(window.model().status.ends_with("; Modal: 12 modes, consistent masses")) << window.model().status;
+  EXPECT_GT(window.model().doc.results.eigenModes.at(0).omega2, lumpedOmega2);
+
+  HostWindow next;
+  EXPECT_TRUE(next.findChild<QAction*>("analysisMasses_consistent")->isChecked());
 }
 
 // A model the engine refuses: the message names the free degree of freedom, the progress

@@ -486,6 +486,7 @@ TEST_F(CliTest, AnalyzeWritesResultsTheReportsRead) {
   EXPECT_NE(run.out.find("Dead: loads X 0 Y -276.096 Z 0; reactions X "), std::string::npos) << run.out;
   EXPECT_NE(run.out.find("Live: loads X 0 Y -82 Z 0; "), std::string::npos) << "50 on the slab, 20 on girders, 12";
   EXPECT_NE(run.out.find("Mode 4: period "), std::string::npos) << run.out;
+  EXPECT_NE(run.out.find("\nModal: 4 modes, lumped masses\n"), std::string::npos) << run.out;
   const CliRun reactions = Cli("report " + solved + " 1 --case 1");
   // The sum's X prints as 0.000 or -0.000 by the last bit of round-off.
   const size_t sum = reactions.out.find("\nSum    ");
@@ -500,6 +501,24 @@ TEST_F(CliTest, AnalyzeWritesResultsTheReportsRead) {
   const CliRun bad = Cli("analyze " + kModel + " --modes x");
   EXPECT_EQ(bad.status, 2);
   EXPECT_EQ(bad.err, "norvane-cli: --modes must be a whole number from 0 to 1000, not \"x\"\n");
+}
+
+// --mass picks the masses of the modes and the summary says which; anything but the two
+// names is refused before any work, and nothing is written.
+TEST_F(CliTest, AnalyzeTakesLumpedOrConsistentMasses) {
+  const std::string solved = dir / "solved.json";
+  const CliRun consistent = Cli("analyze " + kModel + " -o " + solved + " --modes 3 --mass consistent");
+  ASSERT_EQ(consistent.status, 0) << consistent.all();
+  EXPECT_NE(consistent.out.find("\nModal: 3 modes, consistent masses\nMode 1: period "), std::string::npos)
+      << consistent.out;
+  EXPECT_TRUE(std::filesystem::exists(solved));
+
+  const std::string refused = dir / "refused.json";
+  const CliRun heavy = Cli("analyze " + kModel + " -o " + refused + " --modes 3 --mass heavy");
+  EXPECT_EQ(heavy.status, 2);
+  EXPECT_EQ(heavy.err, "norvane-cli: --mass must be lumped or consistent, not \"heavy\"\n");
+  EXPECT_EQ(heavy.out, "");
+  EXPECT_FALSE(std::filesystem::exists(refused));
 }
 
 namespace {

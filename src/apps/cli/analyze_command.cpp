@@ -1,4 +1,5 @@
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <string>
 
@@ -14,7 +15,7 @@ namespace cli {
 namespace {
 
 struct AnalyzeArgs {
-  std::string model, out, modes = "0", stations = "11";
+  std::string model, out, modes = "0", stations = "11", mass = "lumped";
 };
 
 int Analyze(const AnalyzeArgs& a, std::ostream& out, std::ostream& err) {
@@ -28,6 +29,13 @@ int Analyze(const AnalyzeArgs& a, std::ostream& out, std::ostream& err) {
     err << "norvane-cli: --stations must be a whole number from 2 to 101, not \"" << a.stations << "\"\n";
     return kUsage;
   }
+  std::optional<analysis::MassModel> masses;
+  for (analysis::MassModel m : {analysis::MassModel::Lumped, analysis::MassModel::Consistent})
+    if (a.mass == analysis::MassModelName(m)) masses = m;
+  if (!masses) {
+    err << "norvane-cli: --mass must be lumped or consistent, not \"" << a.mass << "\"\n";
+    return kUsage;
+  }
   model::ModelDocument doc;
   try {
     doc = model::LoadModelDocument(a.model);
@@ -38,6 +46,7 @@ int Analyze(const AnalyzeArgs& a, std::ostream& out, std::ostream& err) {
   analysis::AnalysisRequest request;
   request.modes = *modes;
   request.memberStations = *stations;
+  request.masses = *masses;
   if (request.modes > 0 && doc.spectrumAnalysis.enabled) {
     CResponseSpectrumManager& spectra = CResponseSpectrumManager::Instance();
     if (!spectra.LoadFile()) {
@@ -79,6 +88,9 @@ void AddAnalyzeCommand(Program& program) {
   analyze->add_option("--modes", a->modes, "the number of modes to find (0: none); with the model's response "
                                            "spectrum settings enabled, the spectrum analysis runs on them")
       ->type_name("N");
+  analyze->add_option("--mass", a->mass, "the elements' masses for the modes: lumped at the nodes (the default) or "
+                                         "consistent with their shapes")
+      ->type_name("lumped|consistent");
   analyze->add_option("--stations", a->stations, "points along each member at which its forces and deflections are "
                                                  "written, ends included (11 when omitted)")
       ->type_name("N");

@@ -27,9 +27,10 @@ bool HasMass(const model::ModelDocument& doc) {
 
 }  // namespace
 
-bool RunAnalysisAndOfferResults(HostModel& model, QWidget* parent) {
+bool RunAnalysisAndOfferResults(HostModel& model, analysis::MassModel masses, QWidget* parent) {
   analysis::AnalysisRequest request;
   request.modes = HasMass(model.doc) ? kHostModes : 0;
+  request.masses = masses;
   if (request.modes > 0 && model.doc.spectrumAnalysis.enabled) {
     CResponseSpectrumManager& spectra = CResponseSpectrumManager::Instance();
     if (!spectra.LoadFile()) {
@@ -71,7 +72,10 @@ bool RunAnalysisAndOfferResults(HostModel& model, QWidget* parent) {
   }
   model.doc.results = std::move(work.results);
   model.modified = true;
+  // The static line, and the modal one that says which masses the modes had.
   model.status = summary.lines.empty() ? "Analysed" : summary.lines.front();
+  for (const std::string& line : summary.lines)
+    if (line.starts_with("Modal: ")) model.status += "; " + line;
   if (GetPrompter().Question(parent, kOpenResultsQuestion)) RunBoundDialog("CResultsDlg", model, parent);
   return true;
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include "analysis/model.h"
 #include "apps/host/HostModel.h"
 
 class QWidget;
@@ -8,8 +9,8 @@ class QWidget;
 // through its update, show and hide messages and keeps the rest of the host from input.
 // The results replace the model's only when the whole analysis succeeded; a model the
 // engine refuses is explained in a message and left as it was. Then the results dialog is
-// offered. Returns whether the analysis succeeded.
-bool RunAnalysisAndOfferResults(HostModel& model, QWidget* parent);
+// offered. The modes take the given masses. Returns whether the analysis succeeded.
+bool RunAnalysisAndOfferResults(HostModel& model, analysis::MassModel masses, QWidget* parent);
 
 // The question that offers the results dialog.
 inline constexpr const char* kOpenResultsQuestion = "The analysis is done. Open the results?";

@@ -51,3 +51,13 @@ void StoreDefaultUnits(const fmUnit& units, QSettings& settings) {
   settings.setValue("Precision", Join(units.precision));
   settings.endGroup();
 }
+
+analysis::MassModel AnalysisMasses(QSettings& settings) {
+  const bool consistent = settings.value("Analysis/Masses").toString().toStdString() ==
+                          analysis::MassModelName(analysis::MassModel::Consistent);
+  return consistent ? analysis::MassModel::Consistent : analysis::MassModel::Lumped;
+}
+
+void StoreAnalysisMasses(analysis::MassModel masses, QSettings& settings) {
+  settings.setValue("Analysis/Masses", QString(analysis::MassModelName(masses)));
+}

@@ -1,5 +1,6 @@
 #include "apps/host/HostWindow.h"
 
+#include <QActionGroup>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -91,9 +92,28 @@ void HostWindow::BuildMenus() {
 
   QMenu* analysis = menuBar()->addMenu("&Analysis");
   analysis->addAction("&Run", this, [this] {
-    RunAnalysisAndOfferResults(model_, this);
+    QSettings settings;
+    RunAnalysisAndOfferResults(model_, AnalysisMasses(settings), this);
     RefreshView();
   })->setObjectName("analysisRun");
+  // The masses of the modes: a choice kept in the settings, as the units a new model takes.
+  QMenu* masses = analysis->addMenu("&Masses for Modes");
+  auto* massChoice = new QActionGroup(this);
+  QSettings stored;
+  const analysis::MassModel current = AnalysisMasses(stored);
+  for (const auto& [kind, text] : {std::pair{analysis::MassModel::Lumped, "&Lumped at the Nodes"},
+                                   std::pair{analysis::MassModel::Consistent, "&Consistent"}}) {
+    QAction* action = masses->addAction(text);
+    action->setCheckable(true);
+    action->setChecked(current == kind);
+    action->setObjectName(QString("analysisMasses_") + analysis::MassModelName(kind));
+    massChoice->addAction(action);
+    const analysis::MassModel chosen = kind;
+    connect(action, &QAction::triggered, this, [chosen] {
+      QSettings settings;
+      StoreAnalysisMasses(chosen, settings);
+    });
+  }
 
   // One menu entry per registered dialog, by its caption, grouped by family in registration
   // order; the class name is the entry's tooltip.
