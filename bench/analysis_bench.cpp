@@ -98,4 +98,12 @@ void BM_TwentyModes(benchmark::State& state) {
 }
 BENCHMARK(BM_TwentyModes)->Arg(8)->Arg(17)->Arg(45)->Arg(91)->Unit(benchmark::kSecond)->Iterations(1)->MeasureProcessCPUTime()->UseRealTime();
 
+// The same with consistent masses: the mass matrix has the stiffness's pattern.
+void BM_TwentyModesConsistent(benchmark::State& state) {
+  const Model m = BuildingFrame(static_cast<int>(state.range(0)));
+  for (auto _ : state) benchmark::DoNotOptimize(SolveModes(m, 20, MassModel::Consistent).modes.size());
+  Report(state, m);
+}
+BENCHMARK(BM_TwentyModesConsistent)->Arg(8)->Arg(17)->Unit(benchmark::kSecond)->Iterations(1)->MeasureProcessCPUTime()->UseRealTime();
+
 }  // namespace
