@@ -11,7 +11,9 @@
 // g lumped at the nodes (translations only) or as consistent element masses, and the
 // additional masses on their own degrees of freedom. Solved by Lanczos iteration (Spectra) in
 // shift-invert mode on the factorised stiffness, so a singular mass matrix (massless
-// rotations) does no harm; a small model asked for all its modes is solved densely.
+// rotations) does no harm. When the iteration would need every degree of freedom with mass
+// (few masses, or nearly as many modes as they allow), the stiffness is condensed exactly
+// onto those degrees of freedom and the problem solved densely, every mode included.
 namespace analysis {
 
 struct Mode {
