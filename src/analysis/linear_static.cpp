@@ -1,6 +1,8 @@
 #include "analysis/linear_static.h"
 
 #include <cmath>
+#include <deque>
+#include <memory>
 
 #include "analysis/continuum.h"
 #include "analysis/sparse_factor.h"
@@ -131,12 +133,38 @@ bool HasNonlinearMembers(const Model& model) {
   return false;
 }
 
+// Factorisations by the set of active members. Every iteration starts from all members, and
+// most load vectors settle on a set an earlier one settled on (the gravity cases drop the same
+// braces), so two are kept: the start and the last other. A third would cost a whole factor
+// of memory for what is seldom used.
+class SolverCache {
+ public:
+  explicit SolverCache(const Model& model) : model_(model) {}
+  // Valid until the next call.
+  const Solver& For(const MemberActivity& active) {
+    for (auto it = kept_.begin(); it != kept_.end(); ++it)
+      if (it->first == active) {
+        if (it != kept_.begin()) std::iter_swap(it, kept_.begin());
+        return *kept_.front().second;
+      }
+    if (kept_.size() == kKept) kept_.pop_back();  // freed before the next is made
+    kept_.emplace_front(active, std::make_unique<Solver>(model_, active));
+    return *kept_.front().second;
+  }
+
+ private:
+  static constexpr size_t kKept = 2;
+  const Model& model_;
+  std::deque<std::pair<MemberActivity, std::unique_ptr<Solver>>> kept_;
+};
+
 // One load vector solved with tension-only and compression-only members switched in and out
 // until none changes.
-void SolveSwitching(const Model& model, StaticResult& r, const Eigen::VectorXd& prescribed, StaticResults& out) {
+void SolveSwitching(const Model& model, StaticResult& r, const Eigen::VectorXd& prescribed, SolverCache& solvers,
+                    StaticResults& out) {
   MemberActivity active(model.members.size(), 1);
   for (int iteration = 0; iteration < model.nonlinearIterationLimit; ++iteration) {
-    Solver solver(model, active);
+    const Solver& solver = solvers.For(active);
     CheckAutoHeldUnloaded(model, solver.k, r.load, r.name);
     r.displacement = solver.Displacements(r.load, prescribed).col(0);
     r.activeMembers = active;
@@ -202,9 +230,10 @@ StaticResults SolveLinearStatic(const Model& model, const Progress& progress) {
   }
 
   if (HasNonlinearMembers(model)) {
+    SolverCache solvers(model);
     for (size_t i = 0; i < results.size(); ++i) {
       Report(progress, "Solving \"" + results[i].name + "\"", static_cast<double>(i) / static_cast<double>(results.size()));
-      SolveSwitching(model, results[i], prescribed, out);
+      SolveSwitching(model, results[i], prescribed, solvers, out);
     }
     Report(progress, "Done", 1.0);
     return out;
