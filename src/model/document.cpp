@@ -206,7 +206,7 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
 ModelDocument LoadModelDocument(const std::string& path) {
   std::string text;
   try {
-    text = tools::ReadWholeFile(path, size_t(1) << 30, kScanPadding);
+    text = tools::ReadWholeFile(path, kMaxModelFileBytes, kScanPadding);
   } catch (const tools::FileError& e) {
     throw DocumentLoadError(path, "", e.reason().empty() ? e.what() : e.reason());
   } catch (const std::bad_alloc&) {
@@ -221,15 +221,26 @@ std::string SerializeModelDocument(const ModelDocument& doc) {
   return text;
 }
 
-void SaveModelDocument(const ModelDocument& doc, const std::string& path) {
+DocumentTooLargeError::DocumentTooLargeError(const std::string& file, size_t maxBytes)
+    : std::runtime_error("Cannot save model \"" + file + "\": it would be larger than " + tools::FormatG(static_cast<double>(maxBytes) / (1 << 20)) +
+                         " MB, the most a model file may hold, and would not open again.") {}
+
+void SaveModelDocument(const ModelDocument& doc, const std::string& path, size_t maxBytes) {
   std::string text;
   std::unique_ptr<tools::FileReplacement> file;
+  size_t written = 0;
+  const auto count = [&](size_t bytes) {
+    written += bytes;
+    if (written > maxBytes) throw DocumentTooLargeError(path, maxBytes);  // the partial file goes with `file`
+  };
   WriteDocument(doc, text, [&](std::string& part) {
+    count(part.size());
     // Opened with the first part, so that a refused document never touches the file.
     if (!file) file = std::make_unique<tools::FileReplacement>(path);
     file->Write(part);
     part.clear();
   });
+  count(text.size());
   if (!file) {
     tools::WriteFileAtomically(path, text);
     return;

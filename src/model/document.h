@@ -56,6 +56,9 @@ struct ModelDocument {
 
 // The schema version written; older versions stay readable.
 inline constexpr int kDocumentSchemaVersion = 1;
+// The largest model file that opens; saving refuses a larger one rather than write what would
+// not open again.
+inline constexpr size_t kMaxModelFileBytes = size_t(1) << 30;
 
 // A document that could not be read: the file, the place in it and what is wrong.
 class DocumentLoadError : public std::runtime_error {
@@ -75,8 +78,14 @@ ModelDocument ParseModelDocument(std::string_view text, const std::string& fileN
 ModelDocument LoadModelDocument(const std::string& path);
 // Throws model::DocumentError (json_reader.h), naming the place, for a number that is not finite.
 std::string SerializeModelDocument(const ModelDocument& doc);
-// Replaces the file atomically; throws tools::FileError, or DocumentError before touching the file.
-void SaveModelDocument(const ModelDocument& doc, const std::string& path);
+// Replaces the file atomically; throws tools::FileError, DocumentError before touching the file,
+// or DocumentTooLargeError (the old file kept) when it would pass `maxBytes`.
+void SaveModelDocument(const ModelDocument& doc, const std::string& path, size_t maxBytes = kMaxModelFileBytes);
+
+class DocumentTooLargeError : public std::runtime_error {
+ public:
+  DocumentTooLargeError(const std::string& file, size_t maxBytes);
+};
 
 // Removes the supports whose node is no longer in `nodes` (after nodes were renumbered), so
 // that the document stays loadable; returns those node ids in support order.

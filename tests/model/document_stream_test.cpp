@@ -151,4 +151,20 @@ TEST(ModelDocumentNodes, SavedInPartsOrNotAtAll) {
   EXPECT_EQ(message, "Cannot write \"" + path + "\": File too large");
   EXPECT_TRUE(model::LoadModelDocument(path) == small);
   EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"model.json"});
+
+  // A document larger than a model file may be is refused, whether it passes the limit in its
+  // first part or later, and the old file stays.
+  for (const size_t maxBytes : {size_t(100), size_t(3) << 20}) {
+    try {
+      model::SaveModelDocument(doc, path, maxBytes);
+      ADD_FAILURE() << "saved past " << maxBytes;
+    } catch (const model::DocumentTooLargeError& e) {
+      EXPECT_EQ(std::string(e.what()), "Cannot save model \"" + path + "\": it would be larger than " +
+                                           (maxBytes == 100 ? "9.53674e-05" : "3") +
+                                           " MB, the most a model file may hold, and would not open again.");
+    }
+    EXPECT_TRUE(model::LoadModelDocument(path) == small);
+    EXPECT_EQ(FolderEntries(dir.path()), std::vector<std::string>{"model.json"});
+  }
+  EXPECT_GT(model::SerializeModelDocument(doc).size(), size_t(3) << 20) << "the second limit is passed after the first part";
 }

@@ -69,7 +69,13 @@ int Analyze(const AnalyzeArgs& a, std::ostream& out, std::ostream& err) {
   if (a.out.empty()) {
     err << "norvane-cli: results not written (give -o OUT to save them)\n";
   } else {
-    model::SaveModelDocument(doc, a.out);
+    try {
+      model::SaveModelDocument(doc, a.out);
+    } catch (const model::DocumentTooLargeError& e) {
+      // Member stations take most of the room in a large model's results.
+      err << "norvane-cli: " << e.what() << " Fewer --stations (now " << *stations << ") make the results smaller.\n";
+      return kRefused;
+    }
     out << "Written to " << a.out << "\n";
   }
   return kOk;
