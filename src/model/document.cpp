@@ -111,16 +111,70 @@ void AppendWhole(std::string& out, uint64_t v) {
   out.append(buffer, end);
 }
 
-// The sections of a document as the library lays them out, one level in, after those before.
-void AppendMembers(std::string& out, const nlohmann::ordered_json& part, bool& first) {
-  nlohmann::detail::serializer<nlohmann::ordered_json> serializer(nlohmann::detail::output_adapter<char>(out), '\t');
-  for (const auto& [key, value] : part.items()) {
-    out += first ? "\n\t\"" : ",\n\t\"";
-    first = false;
-    out += key;
-    out += "\": ";
-    serializer.dump(value, true, false, 1, 1);
+void AppendIndent(std::string& out, int depth) {
+  out += '\n';
+  out.append(static_cast<size_t>(depth), '\t');
+}
+
+// JSON laid out one member or element a line, indented with tabs, except that a list of plain
+// values (a row of numbers, a result record) stays on one line: result tables are mostly such
+// rows, and a value a line would double their size.
+void AppendJson(std::string& out, const nlohmann::ordered_json& value, int depth) {
+  using Json = nlohmann::ordered_json;
+  switch (value.type()) {
+    case Json::value_t::object: {
+      if (value.empty()) {
+        out += "{}";
+        return;
+      }
+      out += '{';
+      bool first = true;
+      for (const auto& [key, member] : value.items()) {
+        if (!first) out += ',';
+        first = false;
+        AppendIndent(out, depth + 1);
+        out += Json(key).dump();
+        out += ": ";
+        AppendJson(out, member, depth + 1);
+      }
+      AppendIndent(out, depth);
+      out += '}';
+      return;
+    }
+    case Json::value_t::array: {
+      if (value.empty()) {
+        out += "[]";
+        return;
+      }
+      const bool row = std::none_of(value.begin(), value.end(), [](const Json& v) { return v.is_structured(); });
+      out += '[';
+      for (size_t i = 0; i < value.size(); ++i) {
+        if (i > 0) out += row ? ", " : ",";
+        if (!row) AppendIndent(out, depth + 1);
+        AppendJson(out, value[i], depth + 1);
+      }
+      if (!row) AppendIndent(out, depth);
+      out += ']';
+      return;
+    }
+    case Json::value_t::number_float:
+      AppendReal(out, value.get<double>());
+      return;
+    case Json::value_t::number_unsigned:
+      AppendWhole(out, value.get<uint64_t>());
+      return;
+    default:
+      out += value.dump();  // strings (escaped), whole numbers, true, false, null
   }
+}
+
+// Members of the document's top object, after those before.
+void AppendMember(std::string& out, const std::string& key, const nlohmann::ordered_json& value, bool& first) {
+  out += first ? "\n\t" : ",\n\t";
+  first = false;
+  out += nlohmann::ordered_json(key).dump();
+  out += ": ";
+  AppendJson(out, value, 1);
 }
 
 std::string FirstNonFiniteNode(const std::vector<fmNd>& nodes) {
@@ -132,8 +186,71 @@ std::string FirstNonFiniteNode(const std::vector<fmNd>& nodes) {
   return {};
 }
 
-// Writes the document in parts: the header and the small sections through the library, the
-// nodes straight from their records; `spill` takes what has collected in `out` so far.
+[[noreturn]] void RefuseNonFinite(const std::string& place) {
+  throw DocumentError(place, "Cannot save the model: the value at " + place +
+                                 " is not a finite number, and the file would not open again.");
+}
+
+constexpr size_t kSpillAt = size_t(1) << 20;
+
+// The results section, piece by piece as the section's writer makes them. A piece with a
+// number that is not finite is refused before it is written; what was written before it
+// never replaces the old file.
+class ResultsText : public ResultsOut {
+ public:
+  ResultsText(std::string& out, const std::function<void(std::string&)>& spill) : out_(out), spill_(spill) {}
+  void Member(const char* key, const nlohmann::ordered_json& value) override {
+    Check(value, std::string("/results/") + key);
+    Open();
+    out_ += first_ ? "\n\t\t" : ",\n\t\t";
+    first_ = false;
+    out_ += nlohmann::ordered_json(key).dump();
+    out_ += ": ";
+    AppendJson(out_, value, 2);
+    Spill();
+  }
+  void BeginList(const char* key) override {
+    Open();
+    list_ = std::string("/results/") + key;
+    items_ = 0;
+    out_ += first_ ? "\n\t\t" : ",\n\t\t";
+    first_ = false;
+    out_ += nlohmann::ordered_json(key).dump();
+    out_ += ": [";
+  }
+  void Item(const nlohmann::ordered_json& value) override {
+    Check(value, list_ + "/" + std::to_string(items_));
+    out_ += items_++ == 0 ? "\n\t\t\t" : ",\n\t\t\t";
+    AppendJson(out_, value, 3);
+    Spill();
+  }
+  void EndList() override { out_ += items_ == 0 ? "]" : "\n\t\t]"; }
+  void Close() {
+    if (opened_) out_ += "\n\t}";
+  }
+
+ private:
+  void Open() {
+    if (opened_) return;
+    opened_ = true;
+    out_ += ",\n\t\"results\": {";
+  }
+  static void Check(const nlohmann::ordered_json& value, const std::string& place) {
+    if (std::string found = FirstNonFiniteNumber(value, place); !found.empty()) RefuseNonFinite(found);
+  }
+  void Spill() {
+    if (spill_ && out_.size() >= kSpillAt) spill_(out_);
+  }
+  std::string& out_;
+  const std::function<void(std::string&)>& spill_;
+  bool opened_ = false, first_ = true;
+  std::string list_;
+  size_t items_ = 0;
+};
+
+// Writes the document in parts: the header and the small sections from trees of the library,
+// the nodes straight from their records and the results piece by piece; `spill` takes what
+// has collected in `out` so far.
 void WriteDocument(const ModelDocument& doc, std::string& out, const std::function<void(std::string&)>& spill) {
   // Ordered, so the header comes first and sections stay where a reader expects them.
   nlohmann::ordered_json head = nlohmann::ordered_json::object(), tail = nlohmann::ordered_json::object();
@@ -142,19 +259,16 @@ void WriteDocument(const ModelDocument& doc, std::string& out, const std::functi
   head["title"] = doc.title;
   WriteUnits(doc, head);
   for (auto* write : {WriteLoads, WriteCaseLoads, WriteMaterials, WriteSections, WriteThicknesses, WriteElements,
-                      WriteSupports, WriteBoundaries, WriteSpectrumSettings, WriteResults})
+                      WriteSupports, WriteBoundaries, WriteSpectrumSettings})
     write(doc, tail);
   std::string place = FirstNonFiniteNumber(head, "");
   if (place.empty()) place = FirstNonFiniteNode(doc.nodes);
   if (place.empty()) place = FirstNonFiniteNumber(tail, "");
-  if (!place.empty())
-    throw DocumentError(place, "Cannot save the model: the value at " + place +
-                                   " is not a finite number, and the file would not open again.");
+  if (!place.empty()) RefuseNonFinite(place);
 
-  constexpr size_t kSpillAt = size_t(1) << 20;
   out += "{";
   bool first = true;
-  AppendMembers(out, head, first);
+  for (const auto& [key, value] : head.items()) AppendMember(out, key, value, first);
   out += ",\n\t\"nodes\": [";
   for (size_t i = 0; i < doc.nodes.size(); ++i) {
     const fmNd& nd = doc.nodes[i];
@@ -174,7 +288,10 @@ void WriteDocument(const ModelDocument& doc, std::string& out, const std::functi
     if (spill && out.size() >= kSpillAt) spill(out);
   }
   out += doc.nodes.empty() ? "]" : "\n\t]";
-  AppendMembers(out, tail, first);
+  for (const auto& [key, value] : tail.items()) AppendMember(out, key, value, first);
+  ResultsText results(out, spill);
+  WriteResults(doc, results);
+  results.Close();
   out += "\n}\n";
 }
 

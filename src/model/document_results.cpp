@@ -262,44 +262,44 @@ void ReadResults(const JsonReader& root, ModelDocument& doc) {
   doc.results = std::move(s);
 }
 
-void WriteResults(const ModelDocument& doc, OrderedJson& root) {
+void WriteResults(const ModelDocument& doc, ResultsOut& out) {
   const fmSolution& s = doc.results;
   if (s.IsEmpty()) return;
-  OrderedJson out = OrderedJson::object();
-  out["units"] = {{"unit", s.units.unit}};
+  out.Member("units", {{"unit", s.units.unit}});
 
-  OrderedJson cases = OrderedJson::array();
+  out.BeginList("cases");
   for (size_t i = 0; i < s.cases.size(); ++i) {
     OrderedJson item = {{"label", s.cases[i].name}};
     if (!s.cases[i].type.empty()) item["type"] = s.cases[i].type;
     if (i < s.results.size()) WriteCaseResults(s.results[i], item);
-    cases.push_back(std::move(item));
+    out.Item(item);
   }
-  out["cases"] = std::move(cases);
+  out.EndList();
 
   if (!s.eigenModes.empty()) {
-    OrderedJson modes = OrderedJson::array();
+    out.BeginList("eigenModes");
     for (const fmEigenMode& m : s.eigenModes)
-      modes.push_back({{"omega2", m.omega2}, {"error", m.error}, {"shape", WriteRecords(m.shape)}});
-    out["eigenModes"] = std::move(modes);
+      out.Item({{"omega2", m.omega2}, {"error", m.error}, {"shape", WriteRecords(m.shape)}});
+    out.EndList();
   }
   if (!s.spectrumModes.empty()) {
-    OrderedJson modes = OrderedJson::array();
+    out.BeginList("spectrumModes");
     for (const fmSpectrumMode& m : s.spectrumModes) {
       OrderedJson displacements = OrderedJson::object(), forces = OrderedJson::object();
       for (int axis = 0; axis < 3; ++axis) {
         displacements[kAxes[axis]] = WriteRecords(m.displacements[axis]);
         forces[kAxes[axis]] = WriteRecords(m.inertialForces[axis]);
       }
-      modes.push_back({{"omega2", m.omega2}, {"participation", m.participation}, {"displacements", std::move(displacements)},
-                       {"inertialForces", std::move(forces)}});
+      out.Item({{"omega2", m.omega2}, {"participation", m.participation}, {"displacements", std::move(displacements)},
+                {"inertialForces", std::move(forces)}});
     }
-    out["spectrumModes"] = std::move(modes);
+    out.EndList();
   }
+  OrderedJson rest = OrderedJson::object();
   OrderedJson spectrum = OrderedJson::object();
   WriteCaseResults(s.spectrum, spectrum);
-  if (!spectrum.empty()) out["spectrum"] = std::move(spectrum);
-  WriteConcreteDesign(s.concreteDesign, out);
+  if (!spectrum.empty()) rest["spectrum"] = std::move(spectrum);
+  WriteConcreteDesign(s.concreteDesign, rest);
   if (!s.nodalLoads.empty()) {
     OrderedJson list = OrderedJson::array();
     for (const auto& r : s.nodalLoads)
@@ -307,15 +307,15 @@ void WriteResults(const ModelDocument& doc, OrderedJson& root) {
                       {"case", r.caseName},
                       {"direction", DirectionJson(r.direction)},
                       {"magnitude", r.magnitude}});
-    out["nodalLoads"] = std::move(list);
+    rest["nodalLoads"] = std::move(list);
   }
   if (!s.nodalMasses.empty()) {
     OrderedJson list = OrderedJson::array();
     for (const auto& r : s.nodalMasses)
       list.push_back({{"node", r.node}, {"direction", DirectionJson(r.direction)}, {"magnitude", r.magnitude}});
-    out["nodalMasses"] = std::move(list);
+    rest["nodalMasses"] = std::move(list);
   }
-  root["results"] = std::move(out);
+  for (const auto& [key, value] : rest.items()) out.Member(key.c_str(), value);
 }
 
 }  // namespace model

@@ -52,7 +52,19 @@ void ReadElementResults(const JsonReader& item, fmCaseResults& results);
 void WriteElementResults(const fmCaseResults& results, nlohmann::ordered_json& out);
 void ReadConcreteDesign(const JsonReader& section, fmConcreteDesign& design);
 void WriteConcreteDesign(const fmConcreteDesign& design, nlohmann::ordered_json& out);
-void WriteResults(const ModelDocument& doc, nlohmann::ordered_json& root);
+// Where the results section goes, one piece at a time, so that a large one (member stations
+// of every case) is never held whole as a tree: its members in order, and its case list item
+// by item.
+class ResultsOut {
+ public:
+  virtual ~ResultsOut() = default;
+  virtual void Member(const char* key, const nlohmann::ordered_json& value) = 0;
+  virtual void BeginList(const char* key) = 0;
+  virtual void Item(const nlohmann::ordered_json& value) = 0;
+  virtual void EndList() = 0;
+};
+// Writes nothing when the document holds no results.
+void WriteResults(const ModelDocument& doc, ResultsOut& out);
 // Rescales materials, sections and thicknesses; factor[q] is 1 for a quantity not converted.
 void ConvertPropertyUnits(ModelDocument& doc, const double* factor);
 

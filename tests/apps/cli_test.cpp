@@ -198,7 +198,7 @@ TEST_F(CliTest, ReportPrintsReactionsWithTheirSum) {
                            "3  "), std::string::npos) << run.all();
   // The supports carry the dead load but the 0.106 kip the footing's soil springs take.
   EXPECT_TRUE(run.all().ends_with("\n6          -0.496    32.393    -1.595        -3.447        -0.000         1.950\n"
-                                  "Sum        -0.000   275.990    -0.000        11.843        -0.000        -0.005\n"));
+                                  "Sum         0.000   275.990     0.000        11.843        -0.000        -0.005\n"));
   EXPECT_EQ(Cli("report " + kModel + " 1").all(), run.all()) << "the first case when none is named";
 
   // A file is written in the format of its extension.
