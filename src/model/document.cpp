@@ -116,6 +116,15 @@ void AppendIndent(std::string& out, int depth) {
   out.append(static_cast<size_t>(depth), '\t');
 }
 
+// A member's key on a line of its own, after a comma unless it is the first of its object.
+void AppendKey(std::string& out, int depth, const std::string& key, bool& first) {
+  if (!first) out += ',';
+  first = false;
+  AppendIndent(out, depth);
+  out += nlohmann::ordered_json(key).dump();
+  out += ": ";
+}
+
 // JSON laid out one member or element a line, indented with tabs, except that a list of plain
 // values (a row of numbers, a result record) stays on one line: result tables are mostly such
 // rows, and a value a line would double their size.
@@ -130,11 +139,7 @@ void AppendJson(std::string& out, const nlohmann::ordered_json& value, int depth
       out += '{';
       bool first = true;
       for (const auto& [key, member] : value.items()) {
-        if (!first) out += ',';
-        first = false;
-        AppendIndent(out, depth + 1);
-        out += Json(key).dump();
-        out += ": ";
+        AppendKey(out, depth + 1, key, first);
         AppendJson(out, member, depth + 1);
       }
       AppendIndent(out, depth);
@@ -170,10 +175,7 @@ void AppendJson(std::string& out, const nlohmann::ordered_json& value, int depth
 
 // Members of the document's top object, after those before.
 void AppendMember(std::string& out, const std::string& key, const nlohmann::ordered_json& value, bool& first) {
-  out += first ? "\n\t" : ",\n\t";
-  first = false;
-  out += nlohmann::ordered_json(key).dump();
-  out += ": ";
+  AppendKey(out, 1, key, first);
   AppendJson(out, value, 1);
 }
 
@@ -202,10 +204,7 @@ class ResultsText : public ResultsOut {
   void Member(const char* key, const nlohmann::ordered_json& value) override {
     Check(value, std::string("/results/") + key);
     Open();
-    out_ += first_ ? "\n\t\t" : ",\n\t\t";
-    first_ = false;
-    out_ += nlohmann::ordered_json(key).dump();
-    out_ += ": ";
+    AppendKey(out_, 2, key, first_);
     AppendJson(out_, value, 2);
     Spill();
   }
@@ -213,10 +212,8 @@ class ResultsText : public ResultsOut {
     Open();
     list_ = std::string("/results/") + key;
     items_ = 0;
-    out_ += first_ ? "\n\t\t" : ",\n\t\t";
-    first_ = false;
-    out_ += nlohmann::ordered_json(key).dump();
-    out_ += ": [";
+    AppendKey(out_, 2, key, first_);
+    out_ += '[';
   }
   void Item(const nlohmann::ordered_json& value) override {
     Check(value, list_ + "/" + std::to_string(items_));

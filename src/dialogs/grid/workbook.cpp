@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstring>
@@ -13,6 +14,7 @@
 #include <vector>
 
 #include "tools/atomic_file.h"
+#include "tools/format.h"
 #include "tools/labels.h"
 #include "tools/parallel.h"
 #include "tools/parse.h"
@@ -96,16 +98,11 @@ int BuiltInFormat(const std::string& code) {
 
 // ---- XML text ----
 
+// XML has no control characters at all, not even escaped: they become spaces.
 void AppendAttribute(std::string& out, std::string_view text) {
-  for (char c : text) {
-    switch (c) {
-      case '&': out += "&amp;"; break;
-      case '<': out += "&lt;"; break;
-      case '>': out += "&gt;"; break;
-      case '"': out += "&quot;"; break;
-      default: out += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
-    }
-  }
+  std::string clean(text);
+  std::replace_if(clean.begin(), clean.end(), [](char c) { return static_cast<unsigned char>(c) < 0x20; }, ' ');
+  tools::AppendHtmlEscaped(out, clean);
 }
 
 bool IsHexDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
